@@ -1,0 +1,24 @@
+# What every target of the project is compiled with. Linked as `varno_options`.
+add_library(varno_options INTERFACE)
+target_compile_features(varno_options INTERFACE cxx_std_20)
+target_compile_options(varno_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Werror)
+
+if(VARNO_SANITIZE)
+    # A sanitizer report is a failed test, so nothing is recovered from.
+    target_compile_options(varno_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(varno_options INTERFACE -fsanitize=address,undefined)
+    # The library's own bounds checks: the sanitizers do not see an index that stays inside the allocation.
+    target_compile_definitions(varno_options INTERFACE _GLIBCXX_ASSERTIONS)
+endif()
+
+if(WIN32)
+    # SSE instead of the x87 unit: singles must stay singles, and drawing coordinates must be the same doubles
+    # on every machine that the tests ran on.
+    target_compile_options(varno_options INTERFACE -msse2 -mfpmath=sse -ffunction-sections -fdata-sections)
+    target_compile_definitions(varno_options INTERFACE
+        UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN STRICT WINVER=0x0A00 _WIN32_WINNT=0x0A00)
+    # Everything static: the programs import Windows' own libraries and nothing else.
+    target_link_options(varno_options INTERFACE -static -Wl,--gc-sections)
+endif()
