@@ -1,0 +1,70 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "base/file_calls.h"
+#include "base/sequential_text.h"
+
+namespace varno {
+
+/// How a file is opened, by the program's mode codes.
+enum class FileMode : std::int16_t { output = 1, input = 2, append = 3, random = 4, binary = 5 };
+
+/// What openFile gives back: an open file that closes itself.
+///
+/// A file that failed to open has number 0, and every use of it raises run-time error 52. A use that does not
+/// fit the mode raises 54.
+///
+/// What is written goes into memory first. `close` writes it beside the target, flushes it to the disk and
+/// then replaces the target; a File that is destroyed without `close` leaves the old file as it was, so that
+/// an error half-way through a case never costs the case on the disk.
+class File {
+  public:
+    /// A file that did not open.
+    File() = default;
+    /// Opens `path`. \throws RunTimeError with the number of what the system refused.
+    File(FileCalls& calls, std::string path, FileMode mode, int recordLength, std::int16_t number);
+    File(File&& other) noexcept;
+    File& operator=(File&& other) noexcept;
+    File(const File&) = delete;
+    File& operator=(const File&) = delete;
+    ~File();
+
+    /// The file number, 0 when there is no file.
+    std::int16_t number() const { return number_; }
+
+    bool atEnd() const;
+    /// \throws RunTimeError 62 at the end of the file.
+    Bytes readField();
+    Bytes readLine();
+    /// Writes a line and its CR LF.
+    void printLine(std::string_view line);
+
+    /// The bytes of a record (mode 4: record number, from 1) or of a place (mode 5: byte number, from 1).
+    /// What lies past the end reads as zeros.
+    Bytes get(int position, std::size_t count) const;
+    void put(int position, std::string_view bytes);
+
+    /// Brings what was written to the disk. \throws RunTimeError; the old file is then untouched.
+    void close();
+
+  private:
+    void require(bool fits) const;
+    std::size_t offsetOf(int position) const;
+    void makeDraft();
+    void removeDraft() noexcept;
+
+    FileCalls* calls_ = nullptr;
+    std::string path_;
+    std::string draft_; ///< the file beside the target; empty when there is none
+    FileMode mode_ = FileMode::input;
+    std::size_t recordLength_ = 1;
+    std::int16_t number_ = 0;
+    bool written_ = false;
+    SequentialText text_;
+    Bytes bytes_;
+};
+
+} // namespace varno

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+namespace varno {
+
+/// Style numbers of a message box.
+enum MessageStyle : int { msgOk = 0, msgYesNo = 4, msgQuestionYesNoCancel = 35 };
+
+/// The button that closed a message box.
+enum class MessageAnswer : int { ok = 1, cancel = 2, abort = 3, retry = 4, ignore = 5, yes = 6, no = 7 };
+
+/// Shows a message and waits for its answer. The rules name what is said; how a box looks is the platform's
+/// affair.
+class MessageBoxes {
+  public:
+    virtual ~MessageBoxes() = default;
+    virtual MessageAnswer show(const std::string& text, int style, const std::string& title) = 0;
+
+    /// A message with an "OK" button and no title.
+    void tell(const std::string& text) { show(text, msgOk, ""); }
+};
+
+} // namespace varno

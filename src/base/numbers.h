@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace varno {
+
+/// The signs that a formatted number is shown with, as UTF-8. Files use the default, whatever Windows is set
+/// to.
+struct NumberLocale {
+    std::string decimal = ".";
+    std::string thousands = ",";
+};
+
+/// `value` in a display pattern such as "##0.000", "#0", "####" or "##,##0.00": the digits before the point
+/// that the pattern's zeros ask for, exactly as many decimals as it has, thousands grouped when it holds a
+/// comma. Rounds half away from zero on the shortest decimal text of the value, of the *single* for a
+/// single: 2.675f in "0.00" is 2.68. A value that rounds to zero has no minus sign. "####" of 0 is empty.
+/// \throws RunTimeError 6 for a value that is not finite.
+std::string formatNumber(double value, std::string_view pattern, const NumberLocale& locale = {});
+std::string formatNumber(float value, std::string_view pattern, const NumberLocale& locale = {});
+
+/// The shortest text with a point that reads back as the same single (up to 9 digits); an exponent only below
+/// 1e-4 and from 1e7 on. This is the general form of the design input file's real lines.
+std::string generalForm(float value);
+/// The same for a double.
+std::string generalForm(double value);
+
+/// Rounds to the nearest whole number, ties to even, into 16 bits. \throws RunTimeError 6 outside
+/// -32768..32767.
+std::int16_t toInteger(double value);
+
+/// Rounds to single precision. \throws RunTimeError 6 when the value is beyond the largest single.
+float toSingle(double value);
+
+} // namespace varno
+
+namespace VARNO1 {
+
+/// The number that a text begins with, 0 when it begins with none: the first "," counts as ".", later ones
+/// end the number; blanks and tabs are skipped wherever they stand; exponents are written with E or D. Never
+/// throws and never looks at a locale; a number beyond the range of a double is an infinity.
+double parseNumber(std::string_view text);
+
+/// The same without the comma rule: "6,5" is 6. Only the span and line-load counters read so.
+double plainNumber(std::string_view text);
+
+} // namespace VARNO1

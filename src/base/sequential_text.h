@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "base/text.h"
+
+namespace varno {
+
+/// Reads the bytes of a text file from front to back, field by field or line by line.
+///
+///     file   = { field separator }
+///     field  = blanks ( quoted | plain )
+///     quoted = '"' { any byte but '"' } '"'      it may hold commas and line ends; after it blanks are
+///     skipped plain  = { any byte but ',' CR LF }        trailing blanks belong to it; a '"' inside it is an
+///     ordinary byte separator = "," | CR LF | CR | LF | end of file
+///
+/// What one might not expect: an empty line is an empty field, a comma at the end of a line is followed by an
+/// empty field, a quotation without its closing quote runs to the end of the file, and what follows a closing
+/// quote without a separator is the next field. Only blanks are skipped in front of a field, not tabs.
+class SequentialText {
+  public:
+    explicit SequentialText(Bytes bytes = {}) : bytes_(std::move(bytes)) {}
+
+    bool atEnd() const { return position_ >= bytes_.size(); }
+    /// The next field. \throws RunTimeError 62 at the end of the file.
+    Bytes readField();
+    /// The rest of the line without its end. \throws RunTimeError 62 at the end of the file.
+    Bytes readLine();
+
+  private:
+    bool at(char c) const { return !atEnd() && bytes_[position_] == c; }
+    void skipBlanks();
+    bool skipLineEnd();
+
+    Bytes bytes_;
+    std::size_t position_ = 0;
+};
+
+} // namespace varno
