@@ -1,0 +1,94 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace varno {
+
+/// The controls of the main input form, by the program's own names.
+enum class Field {
+    // Text boxes
+    rubrik,
+    nfack,
+    spv,
+    ptjl,
+    plast,
+    flast,
+    upl,
+    konsv,
+    konsh,
+    lambdaG,
+    ksi,
+    lambdaQ,
+    psi0,
+    psi1,
+    psi2,
+    ktack,
+    duarm,
+    overhojning,
+    initiell,
+    tillkommande,
+    // Lists
+    lokt,
+    btg,
+    aok,
+    dok,
+    auk,
+    duk,
+    brandk,
+    // Option groups (the index is the option, from 1) and the check box
+    lastkomb,
+    brukskomb,
+    brandb,
+    kutak,
+    shkl,
+    shklpl,
+    pkl,
+    shklfi,
+    shkldk,
+    shkleu,
+    kavko,
+    // The rest
+    spin1,     ///< the spin button beside nfack
+    loadFrame, ///< the frame that names the load rules
+};
+
+/// One control: a field, and the element of a control array (spans from 1, supports from 0, options from 1).
+struct Control {
+    Field field;
+    int index = 0;
+    bool operator==(const Control&) const = default;
+};
+
+/// What the rules ask of the main input form. It shows what it is told and knows no rule. Texts are UTF-8.
+///
+/// Setting a text or a list row that differs runs the control's change rule, as typing does; it never runs a
+/// click rule. An option group is hidden and shown with its frame.
+class FormView {
+  public:
+    virtual ~FormView() = default;
+
+    virtual std::string text(Control control) const = 0;
+    virtual void setText(Control control, const std::string& text) = 0;
+    virtual void setVisible(Control control, bool visible) = 0;
+    virtual void setEnabled(Control control, bool enabled) = 0;
+    virtual void setCaption(Control control, const std::string& caption) = 0;
+
+    virtual void clearList(Field list) = 0;
+    virtual void addRow(Field list, std::string_view row) = 0;
+    /// Selects a row, from 0; a row the list does not have selects nothing.
+    virtual void selectRow(Field list, int row) = 0;
+    /// -1 when nothing is selected.
+    virtual int selectedRow(Field list) const = 0;
+
+    /// Selects one option of a group, from 1; an option the group does not have selects none.
+    virtual void selectOption(Field group, int option) = 0;
+    /// Shows or hides the frame of a safety class group.
+    virtual void showGroup(Field group, bool visible) = 0;
+    virtual void setChecked(Field box, bool checked) = 0;
+
+    virtual void focus(Control control) = 0;
+    virtual void selectAll(Control control) = 0;
+};
+
+} // namespace varno
