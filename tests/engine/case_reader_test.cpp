@@ -1,0 +1,274 @@
+#include "engine/case_reader.h"
+
+#include "engine/case_check.h"
+#include "engine/letters.h"
+#include "tests/engine/support.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+namespace varnowb {
+namespace {
+
+using test::CaseFile;
+
+test::CaseValues threeSpans() {
+    test::CaseValues v;
+    v.spv = {5.5, 12.25, 6};
+    v.ptjl = {0.17, 0.2, 0.15};
+    v.upl = {0, 0.25, 0.1, 0};
+    v.plast = {3.5, 4, 4.5};
+    v.flast = {2, 2.5, 3};
+    v.konsv = 1.2;
+    v.konsh = 0.8;
+    v.lambdaG = 1.35;
+    v.lambdaQ = 1.5;
+    v.nllast = 2;
+    v.loads = {{1, 2.5, 12.5}, {3, 1, -1234.5}, {9, 1, 7}};
+    return v;
+}
+
+// The complaint about a file, or "" when there is none.
+std::string complaint(const std::string& bytes) {
+    try {
+        checkCase(readCase(bytes));
+    } catch (const CaseError& error) {
+        return error.what();
+    }
+    return {};
+}
+
+TEST(EngineCaseReader, TakesEveryValueFromItsColumns) {
+    const auto c = readCase(test::caseFile(threeSpans()).text());
+    EXPECT_EQ(c.name, "HUS1");
+    EXPECT_EQ(c.title, "Bjalklag over plan 2");
+    EXPECT_EQ(c.loadCode, 1);
+    EXPECT_EQ(c.safetyClass, 2);
+    EXPECT_EQ(c.nfack, 3);
+    EXPECT_EQ(c.spv, (std::vector<double>{5.5, 12.25, 6}));
+    EXPECT_EQ(c.ptjl, (std::vector<double>{0.17, 0.2, 0.15}));
+    EXPECT_EQ(c.upl, (std::vector<double>{0, 0.25, 0.1, 0}));
+    EXPECT_EQ(c.lokt, 1);
+    EXPECT_EQ(c.lambdaG, 1.35);
+    EXPECT_EQ(c.ksi, 0.89);
+    EXPECT_EQ(c.lambdaQ, 1.5);
+    EXPECT_EQ(c.psi0, 0.7);
+    EXPECT_EQ(c.psi1, 0.5);
+    EXPECT_EQ(c.psi2, 0.3);
+    EXPECT_EQ(c.lastkomb, 3);
+    EXPECT_EQ(c.plast, (std::vector<double>{3.5, 4, 4.5}));
+    EXPECT_EQ(c.flast, (std::vector<double>{2, 2.5, 3}));
+    EXPECT_EQ(c.konsv, 1.2);
+    EXPECT_EQ(c.konsh, 0.8);
+    const int whole[] = {c.btg,         c.aok,      c.dok,          c.kavko,    c.ktack, c.auk,
+                         c.duk,         c.duarm,    c.brandk,       c.brandb,   c.kutak, c.reservedValue,
+                         c.overhojning, c.initiell, c.tillkommande, c.brukskomb};
+    const int expected[] = {3, 2, 2, 1, 20, 2, 3, 42, 1, 2, 1, 77, 20, 400, 300, 1};
+    for (std::size_t i = 0; i < std::size(whole); ++i)
+        EXPECT_EQ(whole[i], expected[i]) << "line " << 16 + i;
+    EXPECT_EQ(c.nllast, 2);
+    EXPECT_EQ(c.lineLoads[0]->llfnr, 1);
+    EXPECT_EQ(c.lineLoads[0]->avst, 2.5);
+    EXPECT_EQ(c.lineLoads[0]->lllast, 12.5);
+    EXPECT_EQ(c.lineLoads[1]->lllast, -1234.5);
+    EXPECT_EQ(c.lineLoads[2]->llfnr, 9);
+}
+
+TEST(EngineCaseReader, FullCellsHaveNoBlankBetweenThem) {
+    auto file = test::caseFile(threeSpans());
+    file.line(6) = "12345.6123.4561234567";
+    file.line(8) = "0.000 12.3451.250 0.000 ";
+    file.line(33) = "1231234.56-99.999";
+    file.line(32) = "0";
+    file.line(10) = "1.234562.345673.456784.567895.678906.78901";
+    const auto c = readCase(file.text());
+    EXPECT_EQ(c.spv, (std::vector<double>{12345.6, 123.456, 1234567}));
+    EXPECT_EQ(c.upl, (std::vector<double>{0, 12.345, 1.25, 0}));
+    EXPECT_EQ(c.lambdaG, 1.23456);
+    EXPECT_EQ(c.ksi, 2.34567);
+    EXPECT_EQ(c.lambdaQ, 3.45678);
+    EXPECT_EQ(c.psi0, 4.56789);
+    EXPECT_EQ(c.psi1, 5.6789);
+    EXPECT_EQ(c.psi2, 6.78901);
+    EXPECT_EQ(c.lineLoads[0]->llfnr, 123);
+    EXPECT_EQ(c.lineLoads[0]->avst, 1234.56);
+    EXPECT_EQ(c.lineLoads[0]->lllast, -99.999);
+}
+
+TEST(EngineCaseReader, LinesMayEndInAnyWay) {
+    const auto file = test::caseFile(threeSpans());
+    for (const char* end : {"\r\n", "\n", "\r"}) {
+        const auto c = readCase(file.text(end));
+        EXPECT_EQ(c.spv.size(), 3U);
+        EXPECT_EQ(c.lineLoads[1]->llfnr, 3);
+    }
+    auto unended = file.text();
+    unended.resize(unended.size() - 2);
+    EXPECT_EQ(complaint(unended), "");
+    EXPECT_EQ(complaint(file.text() + "more\r\n\x1A"), "");
+}
+
+TEST(EngineCaseReader, SplitsLinesWithoutAnEmptyOneAtTheEnd) {
+    using Lines = std::vector<std::string_view>;
+    EXPECT_EQ(splitLines(""), Lines{});
+    EXPECT_EQ(splitLines("a"), Lines{"a"});
+    EXPECT_EQ(splitLines("a\n"), Lines{"a"});
+    EXPECT_EQ(splitLines("\r\n\r\n"), (Lines{"", ""}));
+    EXPECT_EQ(splitLines("a\rb\n\nc\r\n"), (Lines{"a", "b", "", "c"}));
+}
+
+TEST(EngineCaseReader, TrailingBlanksMayBeCutAndCommasTaken) {
+    auto file = test::caseFile(threeSpans());
+    for (auto& line : file.lines)
+        line.resize(line.find_last_not_of(' ') + 1);
+    EXPECT_EQ(readCase(file.text()).spv.back(), 6);
+    file.line(6) = "  5,500   6.0  6.00";
+    EXPECT_EQ(readCase(file.text()).spv, (std::vector<double>{5.5, 6, 6}));
+}
+
+TEST(EngineCaseReader, EndSupportsHaveNoWidth) {
+    auto file = test::caseFile(threeSpans());
+    file.line(8) = "0.200 0.250 0.100 0.300 ";
+    EXPECT_EQ(readCase(file.text()).upl, (std::vector<double>{0, 0.25, 0.1, 0}));
+}
+
+TEST(EngineCaseReader, OnlyUsedLineLoadsNeedBeReadable) {
+    auto file = test::caseFile(threeSpans());
+    file.line(35) = "";
+    file.line(36) = "what?";
+    const auto c = readCase(file.text());
+    EXPECT_TRUE(c.lineLoads[1]);
+    EXPECT_FALSE(c.lineLoads[2]);
+    EXPECT_FALSE(c.lineLoads[3]);
+    EXPECT_EQ(complaint(file.text()), "");
+}
+
+TEST(EngineCaseReader, ARuleSetMayHaveNoKsiAndPsi) {
+    auto file = test::caseFile(threeSpans());
+    file.line(10) = "1.350         1.500  ";
+    const auto c = readCase(file.text());
+    EXPECT_FALSE(c.ksi);
+    EXPECT_FALSE(c.psi2);
+    EXPECT_EQ(c.lambdaQ, 1.5);
+}
+
+// After "FEL. " it must fit the page, and hold each Swedish letter once.
+void expectGoodLine(const std::string& text) {
+    EXPECT_LE(letterCount(text), 73U) << text;
+    const auto dos = toDos(text);
+    for (const char letter : {'\x8F', '\x8E', '\x99', '\x86', '\x84', '\x94'})
+        EXPECT_LE(std::count(dos.begin(), dos.end(), letter), 1) << text;
+}
+
+TEST(EngineCaseReader, EvenTheLongestComplaintFitsTheLine) {
+    const auto ten = [](const char* cell) {
+        std::string row;
+        for (int i = 0; i < 10; ++i)
+            row += cell;
+        return row;
+    };
+    auto v = test::equalSpans(10, 5, 1, 1);
+    v.nllast = 5;
+    v.loads.assign(5, {10, 1, 1});
+    const std::pair<int, std::string> table[] = {{6, ten("-9e-200")},
+                                                 {6, ten("12345-7")},
+                                                 {8, "0.000 " + ten("999999")},
+                                                 {8, "0.000 " + ten("-99999")},
+                                                 {14, "-1.234567E+300"},
+                                                 {15, "-1.234567E+300"},
+                                                 {10, ten("-9e-300")},
+                                                 {10, "1      1      -999999"},
+                                                 {37, "10 -9999991.000"},
+                                                 {37, "10 9e+2001.000"},
+                                                 {37, "-32768.000"},
+                                                 {37, "999-999999-99999"},
+                                                 {27, std::string(90, 'x')},
+                                                 {32, "-32768"},
+                                                 {5, "-32768"}};
+    for (const auto& [line, text] : table) {
+        auto file = test::caseFile(v);
+        file.line(line) = text;
+        const auto said = complaint(file.text());
+        EXPECT_NE(said, "") << line << ": " << text;
+        expectGoodLine(said);
+    }
+}
+
+struct Nonsense {
+    int line;
+    const char* text;
+    const char* complaint;
+};
+
+TEST(EngineCaseReader, SaysWhatMakesNoSense) {
+    const Nonsense table[] = {
+        {3, "", "Rad 3: loadCode = \"\" är inte ett heltal."},
+        {5, "0", "Rad 5: antal fack nfack = 0 ska vara 1 till 10."},
+        {5, "11", "Rad 5: antal fack nfack = 11 ska vara 1 till 10."},
+        {5, "tre", "Rad 5: nfack = \"tre\" är inte ett heltal."},
+        {5, "4", "Rad 6: spv(4) = \"\" är inte ett tal."},
+        {6, "5.500  0.000  6.000  ", "Rad 6: spännvidd spv(2) = 0.000 m ska vara positiv."},
+        {6, "-5.500 1.000  6.000  ", "Rad 6: spännvidd spv(1) = -5.500 m ska vara positiv."},
+        {6, "5.5 5.51.000  6.000  ", "Rad 6: spv(1) = \"5.5 5.5\" är inte ett tal."},
+        {6, "inf    1.000  6.000  ", "Rad 6: spv(1) = \"inf    \" är inte ett tal."},
+        {7, "0.170", "Rad 7: ptjl(2) = \"\" är inte ett tal."},
+        {8, "0.000 -0.100", "Rad 8: upl(2) = \"\" är inte ett tal."},
+        {8, "0.000 -0.1000.100 0.000", "Rad 8: upplagsbredd upl(1) = -0.100 m ska inte vara negativ."},
+        {8, "0.000 0.100 6.000 0.000", "Rad 8: upplagsbredd upl(2) = 6.000 m ska vara mindre än spv(3)."},
+        {10, "-1.000 1.000  1.500  ", "Rad 10: partialkoefficient lambdaG = -1.000 ska inte vara negativ."},
+        {10, "1.000  1.000  -1.5   ", "Rad 10: partialkoefficient lambdaQ = -1.500 ska inte vara negativ."},
+        {10, "", "Rad 10: lambdaG = \"\" är inte ett tal."},
+        {12, "3.000  4.000  4,,0   ", "Rad 12: plast(3) = \"4,,0   \" är inte ett tal."},
+        {13, "2.000  2.000  1e999  ", "Rad 13: flast(3) = \"1e999  \" är inte ett tal."},
+        {14, "-0.5", "Rad 14: konsol till vänster konsv = -0.500 m ska inte vara negativ."},
+        {15, "-0.5", "Rad 15: konsol till höger konsh = -0.500 m ska inte vara negativ."},
+        {14, "1.0 m och en hel del till om detta",
+         "Rad 14: konsv = \"1.0 m och en hel del...\" är inte ett tal."},
+        {16, "40000", "Rad 16: btg = \"40000\" är inte ett heltal."},
+        {31, "1^\xE4\x84", "Rad 31: brukskomb = \"1???\" är inte ett heltal."},
+        {32, "6", "Rad 32: antal linjelaster nllast = 6 ska vara 0 till 5."},
+        {32, "-1", "Rad 32: antal linjelaster nllast = -1 ska vara 0 till 5."},
+        {33, "0  1.000  1.000  ", "Rad 33: linjelastens fack llfnr(1) = 0 ska vara 1 till 3."},
+        {34, "4  1.000  1.000  ", "Rad 34: linjelastens fack llfnr(2) = 4 ska vara 1 till 3."},
+        {34, "3  6.802  1.000  ", "Rad 34: linjelastens avst(2) = 6.802 m hamnar utanför plattan."},
+        {33, "1  -1.201 1.000  ", "Rad 33: linjelastens avst(1) = -1.201 m hamnar utanför plattan."},
+        {33, "1  1.000", "Rad 33: lllast(1) = \"\" är inte ett tal."},
+    };
+    for (const auto& row : table) {
+        auto file = test::caseFile(threeSpans());
+        file.line(row.line) = row.text;
+        EXPECT_EQ(complaint(file.text()), row.complaint) << "line " << row.line << ": " << row.text;
+        expectGoodLine(row.complaint);
+    }
+}
+
+TEST(EngineCaseReader, ALineLoadMayStandInAnotherSpanOrOnACantilever) {
+    for (const char* text :
+         {"1  -1.200 1.000  ", "3  6.800  1.000  ", "1  20.000 1.000  ", "2  -6.000 -3.500 "}) {
+        auto file = test::caseFile(threeSpans());
+        file.line(33) = text;
+        EXPECT_EQ(complaint(file.text()), "") << text;
+    }
+    const auto c = readCase(test::caseFile(threeSpans()).text());
+    EXPECT_DOUBLE_EQ(lineLoadPosition(c, {2, 1.5, 0}), 1.2 + 5.5 + 1.5);
+    EXPECT_DOUBLE_EQ(totalLength(c), 1.2 + 5.5 + 12.25 + 6 + 0.8);
+}
+
+TEST(EngineCaseReader, NegativeLoadsAreAllowed) {
+    auto v = threeSpans();
+    v.plast = {-3, -2, -1};
+    v.flast = {-3, 0, 2};
+    EXPECT_EQ(complaint(test::caseFile(v).text()), "");
+}
+
+TEST(EngineCaseReader, AFileCutShortNamesTheMissingLine) {
+    auto file = test::caseFile(threeSpans());
+    for (std::size_t count = 36; count > 0; --count) {
+        file.lines.resize(count);
+        EXPECT_EQ(complaint(file.text()),
+                  "Indatafilen är avkortad: rad " + std::to_string(count + 1) + " av 37 saknas.");
+    }
+}
+
+} // namespace
+} // namespace varnowb

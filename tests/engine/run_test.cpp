@@ -1,0 +1,173 @@
+#include "engine/run.h"
+
+#include "engine/envelope.h"
+#include "tests/engine/support.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace varnowb {
+namespace {
+
+using test::WorkFolder;
+using Names = std::vector<std::string>;
+
+constexpr const char* kInput = "~indata~.tmp";
+
+TEST(EngineRun, LeavesBothFilesAndNothingElse) {
+    const WorkFolder folder;
+    test::write(kInput, test::caseFile(test::equalSpans(3, 5, 2, 3)).text());
+    EXPECT_EQ(run(), kCalculated);
+    EXPECT_EQ(test::namesInFolder(), (Names{"HUS1.res", "momk.dat", kInput}));
+    EXPECT_TRUE(test::read("momk.dat")->starts_with("3\r\n0.250000\r\n"));
+    EXPECT_TRUE(test::read("HUS1.res")->starts_with("EXEMPELMOTOR"));
+}
+
+TEST(EngineRun, FactorsAndLineLoadsReachTheCurves) {
+    const WorkFolder folder;
+    auto v = test::equalSpans(1, 4, 2, 3);
+    v.lambdaG = 1.35;
+    v.lambdaQ = 1.5;
+    v.nllast = 1;
+    v.loads = {{1, 2, 10}, {1, 1, 99}};
+    test::write(kInput, test::caseFile(v).text());
+    EXPECT_EQ(run(), kCalculated);
+    const auto lines = test::crLfLines(*test::read("momk.dat"));
+    // Middle of the span: (1.35 2 + 1.5 3) 4^2 / 8 + 10 4 / 4, and without the variable load.
+    EXPECT_NE(lines.at(3).find(",24.400000,"), std::string::npos) << lines.at(3);
+    EXPECT_NE(lines.at(7).find(",15.400000,"), std::string::npos) << lines.at(7);
+}
+
+TEST(EngineRun, WorksInAFolderWithBlanksAndLetters) {
+    const WorkFolder folder{"Mina fall å ä ö"};
+    auto v = test::equalSpans(2, 5, 2, 3);
+    v.name = "H\x99GHUS \xD6 1"; // "HÖGHUS Ö 1" as the front-end writes it
+    test::write(kInput, test::caseFile(v).text());
+    EXPECT_EQ(run(), kCalculated);
+    EXPECT_EQ(test::namesInFolder(), (Names{"HÖGHUS Ö 1.res", "momk.dat", kInput}));
+}
+
+TEST(EngineRun, TakesThePlaceOfOlderFiles) {
+    const WorkFolder folder;
+    test::write(kInput, test::caseFile(test::equalSpans(1, 5, 2, 3)).text());
+    test::write("HUS1.res", std::string(100000, 'x'));
+    test::write("momk.dat", std::string(100000, 'x'));
+    EXPECT_EQ(run(), kCalculated);
+    EXPECT_EQ(test::read("HUS1.res")->find('x' + std::string("xx")), std::string::npos);
+    EXPECT_EQ(test::read("momk.dat")->find('x'), std::string::npos);
+}
+
+TEST(EngineRun, GivesTheSameBytesEveryTimeAndForEveryLineEnd) {
+    const WorkFolder folder;
+    const auto file = test::caseFile(test::equalSpans(5, 5.5, 2, 3));
+    Names results;
+    for (const char* end : {"\r\n", "\n", "\r", "\r\n"}) {
+        test::write(kInput, file.text(end));
+        EXPECT_EQ(run(), kCalculated);
+        results.push_back(*test::read("HUS1.res") + *test::read("momk.dat"));
+        EXPECT_EQ(results.back(), results.front());
+    }
+}
+
+TEST(EngineRun, ASenselessCaseIsToldInTheResultFile) {
+    const WorkFolder folder;
+    auto file = test::caseFile(test::equalSpans(2, 5, 2, 3));
+    test::write(kInput, file.text());
+    EXPECT_EQ(run(), kCalculated);
+    file.line(6) = "5.000  0.000";
+    test::write(kInput, file.text());
+    EXPECT_EQ(run(), kSenseless);
+    EXPECT_EQ(test::namesInFolder(), (Names{"HUS1.res", kInput})) << "the old moment curves must go";
+    const auto shown = test::asShown(*test::read("HUS1.res"));
+    EXPECT_NE(shown.find(test::windows("FEL. Rad 6: spännvidd spv(2) = 0.000 m ska vara positiv.")),
+              std::string::npos)
+        << shown;
+}
+
+TEST(EngineRun, AFileWithOnlyANameIsSenseless) {
+    const WorkFolder folder;
+    test::write(kInput, "HUS1");
+    EXPECT_EQ(run(), kSenseless);
+    EXPECT_NE(test::read("HUS1.res")->find("rad 2 av 37 saknas"), std::string::npos);
+}
+
+TEST(EngineRun, NumbersBeyondAllReasonAreSenseless) {
+    for (const char* cantilever : {"1E+30", "1E+200", "1E+308"}) {
+        const WorkFolder folder;
+        auto file = test::caseFile(test::equalSpans(2, 5, 2, 3));
+        file.line(14) = cantilever;
+        test::write(kInput, file.text());
+        EXPECT_EQ(run(), kSenseless) << cantilever;
+        EXPECT_NE(test::read("HUS1.res")->find("orimligt stora"), std::string::npos);
+        EXPECT_FALSE(test::read("momk.dat"));
+    }
+}
+
+TEST(EngineRun, WithoutAUsableNameNothingIsWritten) {
+    const WorkFolder folder;
+    EXPECT_EQ(run(), kNoCase);
+    for (const char* start : {"", "\r\n", "  \r\n", "..\\HUS\r\n", "C:HUS\r\n", "NUL\r\n", "a*b\r\n"}) {
+        auto rest = test::caseFile(test::equalSpans(1, 5, 2, 3));
+        rest.lines.erase(rest.lines.begin());
+        test::write(kInput, *start == '\0' ? "" : start + rest.text());
+        EXPECT_EQ(run(), kNoCase) << start;
+        EXPECT_EQ(test::namesInFolder(), Names{kInput}) << start;
+    }
+}
+
+TEST(EngineRun, AFileThatCannotBeReplacedIsReportedAndLeavesNoOther) {
+    for (const char* blocked : {"HUS1.res", "momk.dat"}) {
+        const WorkFolder folder;
+        test::write(kInput, test::caseFile(test::equalSpans(1, 5, 2, 3)).text());
+        std::filesystem::create_directory(blocked);
+        test::write(std::string{blocked} + "/inside",
+                    "x"); // a folder with something in it cannot be replaced
+        EXPECT_EQ(run(), kNotWritten) << blocked;
+        for (const auto& name : test::namesInFolder())
+            EXPECT_FALSE(name.starts_with("~varnowb")) << name;
+    }
+}
+
+TEST(EngineRun, AFileThatCannotBeWrittenIsReportedAndTheOldOnesStay) {
+    for (const char* blocked : {"~varnowb.tm1", "~varnowb.tm2"}) {
+        const WorkFolder folder;
+        test::write(kInput, test::caseFile(test::equalSpans(1, 5, 2, 3)).text());
+        test::write("HUS1.res", "old");
+        test::write("momk.dat", "old");
+        std::filesystem::create_directory(blocked);
+        EXPECT_EQ(run(), kNotWritten) << blocked;
+        EXPECT_EQ(test::read("HUS1.res"), "old");
+        EXPECT_EQ(test::read("momk.dat"), "old");
+        auto expected = Names{"HUS1.res", "momk.dat", kInput, blocked};
+        std::sort(expected.begin(), expected.end());
+        EXPECT_EQ(test::namesInFolder(), expected);
+    }
+}
+
+#ifndef _WIN32
+TEST(EngineRun, AFullDiskIsReportedAndTheOldFilesStay) {
+    for (const char* full : {"~varnowb.tm1", "~varnowb.tm2"}) {
+        const WorkFolder folder;
+        test::write(kInput, test::caseFile(test::equalSpans(1, 5, 2, 3)).text());
+        test::write("HUS1.res", "old");
+        test::write("momk.dat", "old");
+        std::filesystem::create_symlink("/dev/full", full);
+        EXPECT_EQ(run(), kNotWritten) << full;
+        EXPECT_EQ(test::read("HUS1.res"), "old");
+        EXPECT_EQ(test::read("momk.dat"), "old");
+        EXPECT_EQ(test::namesInFolder(), (Names{"HUS1.res", "momk.dat", kInput}));
+    }
+}
+#endif
+
+TEST(EngineRun, ALongNameIsNotWritten) {
+    const WorkFolder folder;
+    auto v = test::equalSpans(1, 5, 2, 3);
+    v.name = std::string(300, 'n');
+    test::write(kInput, test::caseFile(v).text());
+    EXPECT_EQ(run(), kNotWritten);
+}
+
+} // namespace
+} // namespace varnowb
