@@ -1,0 +1,46 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+#include "base/file.h"
+#include "base/text.h"
+
+namespace varno {
+
+/// A text that grows line by line, its DOS letters repaired after every line: text = fromOemLetters(text & CR
+/// LF & line). Each repair converts the first occurrence that is left of each of the six letters, wherever it
+/// stands in the text so far; a letter that occurs more often than lines follow it keeps DOS codes. The
+/// engine's files rely on it.
+///
+/// The places still to be repaired are remembered, so that a text of N bytes costs N steps, not N for every
+/// line.
+class RepairedText {
+  public:
+    void appendLine(std::string_view line);
+
+    /// Windows-1252; every line is preceded by CR LF.
+    const Bytes& bytes() const { return text_; }
+    void clear();
+
+  private:
+    struct Places {
+        std::vector<std::size_t> found;
+        std::size_t repaired = 0;
+    };
+
+    Bytes text_;
+    std::array<Places, 6> places_;
+};
+
+} // namespace varno
+
+namespace VARNO1 {
+
+/// The text of a result file as the viewer shows it, Windows-1252: an empty line, then the lines of the file.
+/// \throws RunTimeError 52 when the file did not open.
+varno::Bytes readResultText(varno::File& file);
+
+} // namespace VARNO1

@@ -1,0 +1,90 @@
+#include "results/font_choice.h"
+
+#include <gtest/gtest.h>
+
+#include "support/fake_viewer.h"
+#include "support/memory_files.h"
+
+namespace varno::testing {
+namespace {
+
+class FakeChooser : public FontChooserView {
+  public:
+    void showInstalled(const std::vector<std::string>& faces) override { installed = faces; }
+    void showStored(const std::string& face) override { stored = face; }
+    void showCurrent(const std::string& face) override { current = face; }
+    void close() override { closed = true; }
+
+    std::vector<std::string> installed;
+    std::string stored;
+    std::string current;
+    bool closed = false;
+};
+
+class FontChoiceTest : public ::testing::Test {
+  protected:
+    std::string resultFontName = "Courier New";
+    MemoryFiles files;
+    FakeMessageBoxes boxes;
+    FileOpener opener{files, boxes};
+    FakeViewer viewer;
+    FakeChooser chooser;
+    FontChoice choice{resultFontName, opener, viewer, chooser};
+};
+
+TEST_F(FontChoiceTest, OpensWithThePrintersFontsInItsOrderAndTheStoredChoice) {
+    choice.opened({"Times", "Arial", "Courier"});
+    EXPECT_EQ(chooser.installed, (std::vector<std::string>{"Times", "Arial", "Courier"}));
+    EXPECT_EQ(chooser.stored, "Courier New");
+    EXPECT_EQ(chooser.current, "");
+}
+
+TEST_F(FontChoiceTest, AClickTakesTheFontAtOnce) {
+    choice.opened({"Arial"});
+    choice.clicked("Arial");
+    EXPECT_EQ(resultFontName, "Arial");
+    EXPECT_EQ(chooser.current, "Arial");
+    EXPECT_EQ(viewer.font, "Arial");
+    EXPECT_FALSE(chooser.closed);
+}
+
+TEST_F(FontChoiceTest, OkWritesOneLineIntoTheDialogsDirectory) {
+    choice.opened({"Arial"});
+    choice.clicked("Arial");
+    choice.accepted("D:\\fall");
+    EXPECT_EQ(files.content.at("D:\\fall\\Varnfnt.ini"), "Arial\r\n");
+    EXPECT_TRUE(chooser.closed);
+}
+
+TEST_F(FontChoiceTest, OkWithoutAClickWritesTheFontInUse) {
+    choice.opened({"Arial"});
+    choice.accepted("C:");
+    EXPECT_EQ(files.content.at("C:\\Varnfnt.ini"), "Courier New\r\n");
+}
+
+TEST_F(FontChoiceTest, CancelGoesBackToTheStoredFont) {
+    choice.opened({"Arial", "Times"});
+    choice.clicked("Arial");
+    choice.clicked("Times");
+    choice.cancelled();
+    EXPECT_EQ(resultFontName, "Courier New");
+    EXPECT_EQ(viewer.font, "Courier New");
+    EXPECT_TRUE(files.content.empty());
+    EXPECT_TRUE(chooser.closed);
+}
+
+TEST_F(FontChoiceTest, AFileThatCannotBeWrittenIsReportedAndTheChooserStays) {
+    files.fault = [](const std::string& call, const std::string&) {
+        return call == "create" ? errDiskFull : 0;
+    };
+    boxes.answers = {MessageAnswer::cancel};
+    choice.opened({});
+    EXPECT_EQ(errorOf([&] { choice.accepted("A:"); }), errBadFileNameOrNumber);
+    ASSERT_EQ(boxes.shown.size(), 1u);
+    EXPECT_EQ(boxes.shown[0].text, "Disk Full");
+    EXPECT_EQ(boxes.shown[0].title, "Disk Error");
+    EXPECT_FALSE(chooser.closed);
+}
+
+} // namespace
+} // namespace varno::testing

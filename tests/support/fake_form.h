@@ -1,0 +1,89 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "model/form_view.h"
+#include "model/main_view.h"
+
+namespace varno::testing {
+
+/// The input form as the rules see it, remembered instead of shown. Setting a text or a row that differs
+/// calls `onChange`, as the real controls do.
+class FakeForm : public FormView {
+  public:
+    struct State {
+        std::string text;
+        std::string caption;
+        bool visible = true;
+        bool enabled = true;
+    };
+
+    std::string text(Control control) const override;
+    void setText(Control control, const std::string& text) override;
+    void setVisible(Control control, bool visible) override;
+    void setEnabled(Control control, bool enabled) override;
+    void setCaption(Control control, const std::string& caption) override;
+    void clearList(Field list) override;
+    void addRow(Field list, std::string_view row) override;
+    void selectRow(Field list, int row) override;
+    int selectedRow(Field list) const override;
+    void selectOption(Field group, int option) override;
+    void showGroup(Field group, bool visible) override;
+    void setChecked(Field box, bool checked) override;
+    void focus(Control control) override;
+    void selectAll(Control control) override;
+
+    const State& state(Control control) const;
+    const std::vector<std::string>& rows(Field list) const;
+    int option(Field group) const;
+    bool groupVisible(Field group) const;
+    bool checked(Field box) const;
+    Control focused() const { return focused_; }
+    Control allSelected() const { return allSelected_; }
+
+    std::function<void(Control)> onChange;
+
+  private:
+    using Key = std::pair<int, int>;
+    struct List {
+        std::vector<std::string> rows;
+        int selected = -1;
+    };
+    static Key key(Control control) { return {static_cast<int>(control.field), control.index}; }
+    void changed(Control control) const {
+        if (onChange) onChange(control);
+    }
+
+    std::map<Key, State> states_;
+    std::map<Field, List> lists_;
+    std::map<Field, int> options_;
+    std::map<Field, bool> groups_;
+    std::map<Field, bool> checks_;
+    Control focused_{Field::spin1};
+    Control allSelected_{Field::spin1};
+};
+
+/// The main window as the rules see it.
+class FakeMainWindow : public MainView {
+  public:
+    void setCaption(const std::string& text) override { caption = text; }
+    void setBusy(bool now) override {
+        busy = now;
+        wasBusy = wasBusy || now;
+    }
+    void setDiagramEnabled(bool now) override { diagram = now; }
+    bool diagramEnabled() const override { return diagram; }
+    void showFlag(int number) override { flag = number; }
+
+    std::string caption;
+    bool busy = false;
+    bool wasBusy = false;
+    bool diagram = true;
+    int flag = -1;
+};
+
+} // namespace varno::testing

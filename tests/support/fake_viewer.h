@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+#include "results/result_viewer.h"
+
+namespace varno::testing {
+
+class FakeViewer : public ResultViewer {
+  public:
+    void setText(const std::string& shown) override { text = shown; }
+    void setFont(const std::string& face) override { font = face; }
+    void show() override { ++timesShown; }
+
+    std::string text;
+    std::string font;
+    int timesShown = 0;
+};
+
+} // namespace varno::testing
