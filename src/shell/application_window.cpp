@@ -1,0 +1,227 @@
+#include "shell/application_window.h"
+
+#include <algorithm>
+#include <set>
+
+#include "base/run_time_error.h"
+#include "results/font_choice.h"
+#include "results/result_viewer.h"
+#include "shell/control_ids.h"
+#include "shell/save_prompt_window.h"
+#include "win32/dpi.h"
+#include "win32/printer_fonts.h"
+#include "win32/user_locale.h"
+
+namespace varno {
+
+namespace {
+
+// The menu items that have a command.
+const std::set<int> commands{idNew, idOpen, idSave, idSaveAs, idExit, idRun, idShowResult, idImportant};
+
+constexpr const char* errorTitle = "Varno";
+
+} // namespace
+
+InputContext Application::inputContext() {
+    return {case_, state_, form_, main_, filler_, sketch_, locale_};
+}
+
+Application::Application()
+    : locale_(win32::userNumberLocale()), files_(systemFileCalls(), boxes_), fileDialog_(folders_, boxes_),
+      main_(*this, *this, picture_), form_(*this, *this),
+      sketch_(case_, picture_.loadPicture, picture_.slabStrip, picture_, [this] { main_.sketchChanged(); }),
+      filler_(case_, form_, main_, locale_, [this] { sketch_.fullRefresh(); }), input_(inputContext()),
+      document_(case_, state_, filler_, form_, main_, files_, fileDialog_, boxes_, *this) {
+    main_.create(commands);
+    form_.create(main_.mdiClient());
+    fileInfo_ = std::make_unique<FileInfoWindow>(host(), main_.handle());
+    viewer_ = std::make_unique<ResultViewerWindow>(
+        host(), main_.handle(), [this] { chooseFont(); }, [this] { main_.show(form_.naturalSize()); });
+}
+
+Application::~Application() {
+    listening_ = false;
+}
+
+int Application::run() {
+    try {
+        StartUp(settings_, state_, document_, files_, main_, *this).run();
+    } catch (const RunTimeError& error) {
+        boxes_.show(error.message(), MB_OK | MB_ICONERROR, errorTitle);
+        return 1;
+    }
+    MSG message;
+    while (GetMessageW(&message, nullptr, 0, 0) > 0)
+        win32::dispatch(*this, message);
+    listening_ = false;
+    return ended_ ? 0 : static_cast<int>(message.wParam);
+}
+
+// What the windows ask of the program
+
+void Application::report(const RunTimeError& error) {
+    main_.postRunTimeError(error.number());
+}
+
+bool Application::translate(MSG& message) {
+    const HWND root = GetAncestor(message.hwnd, GA_ROOT);
+    if (root != main_.handle()) return root != nullptr && IsDialogMessageW(root, &message);
+    if (TranslateMDISysAccel(main_.mdiClient(), &message)) return true;
+    const bool inForm = message.hwnd == form_.handle() || IsChild(form_.handle(), message.hwnd);
+    return inForm && IsDialogMessageW(form_.handle(), &message);
+}
+
+// Main window
+
+void Application::command(int id) {
+    // As opening "Arkiv" does, every command first ends the editing of the field that has the focus.
+    form_.focus({Field::rubrik});
+    switch (id) {
+    case idNew:
+        document_.newCase(settings_.workFolder);
+        break;
+    case idOpen:
+        document_.open();
+        break;
+    case idSave:
+        document_.save();
+        break;
+    case idSaveAs:
+        document_.saveAs();
+        break;
+    case idExit:
+        document_.exit();
+        break;
+    case idRun:
+        calculate();
+        break;
+    case idShowResult:
+        showResult();
+        break;
+    case idImportant:
+        showImportant();
+        break;
+    default:
+        break;
+    }
+}
+
+void Application::fileMenuOpened() {
+    form_.focus({Field::rubrik});
+}
+void Application::flagClicked(int flag) {
+    input_.flagClicked(flag);
+}
+
+bool Application::closing() {
+    form_.focus({Field::rubrik});
+    document_.exit();
+    return ended_;
+}
+
+void Application::dpiChanged(int dpi) {
+    form_.changeDpi(dpi);
+}
+
+void Application::clientResized(int width, int height) {
+    if (!form_.exists()) return;
+    // A window too small for the form scrolls it; a larger one gives it the room.
+    const SIZE natural = form_.naturalSize();
+    SetWindowPos(form_.handle(), nullptr, 0, 0, std::max<int>(width, natural.cx),
+                 std::max<int>(height, natural.cy), SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Application::showRunTimeError(int number) {
+    boxes_.show(RunTimeError(number).message(), MB_OK | MB_ICONERROR, errorTitle);
+}
+
+// Input form
+
+void Application::changed(Control control) {
+    if (listening_) input_.changed(control);
+}
+void Application::lostFocus(Control control) {
+    if (listening_) input_.lostFocus(control);
+}
+void Application::clicked(Control control) {
+    if (listening_) input_.clicked(control);
+}
+void Application::spinUp() {
+    input_.spinUp();
+}
+void Application::spinDown() {
+    input_.spinDown();
+}
+void Application::formClicked() {
+    input_.formClicked();
+}
+
+// Document
+
+SaveAnswer Application::askToSave(const std::string& caption, const std::string& text, bool cancelOffered) {
+    SavePromptWindow prompt(*this, main_.handle());
+    return prompt.ask(caption, text, cancelOffered);
+}
+
+void Application::showFileDialog(FileDialog& dialog) {
+    fileInfo_->ask(dialog);
+}
+
+void Application::endProgram() {
+    ended_ = true;
+    PostQuitMessage(0);
+}
+
+// Start-up
+
+void Application::showMainWindow() {
+    main_.show(form_.naturalSize());
+}
+
+bool Application::showVersionNotice() {
+    VersionNoticeWindow notice(*this, main_.handle());
+    return notice.ask();
+}
+
+void Application::showDisclaimer() {
+    DisclaimerWindow disclaimer(*this, main_.handle());
+    disclaimer.runModal();
+}
+
+void Application::showInputForm() {
+    listening_ = true;
+    ShowWindow(form_.handle(), SW_SHOW);
+    form_.focus({Field::rubrik});
+}
+
+std::string Application::printerFontName() {
+    return win32::printerFontName();
+}
+void Application::setResultFont(const std::string& face) {
+    viewer_->setFont(face);
+}
+
+// Results
+
+void Application::calculate() {
+    CalculationRun(files_, boxes_, processes_, main_, *viewer_)
+        .run(state_, settings_.workFolder, settings_.resultFontName);
+}
+
+void Application::showResult() {
+    showResults(files_, boxes_, main_, *viewer_, state_, settings_.resultFontName);
+}
+
+void Application::chooseFont() {
+    FontChooserWindow chooser(*this, viewer_->handle());
+    FontChoice choice(settings_.resultFontName, files_, *viewer_, chooser);
+    chooser.ask(choice, win32::printerFonts(), [this] { return fileDialog_.lists().directory(); });
+}
+
+void Application::showImportant() {
+    if (!important_) important_ = std::make_unique<DisclaimerWindow>(host(), main_.handle());
+    important_->showModeless();
+}
+
+} // namespace varno

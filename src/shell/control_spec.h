@@ -1,0 +1,45 @@
+#pragma once
+
+namespace varno {
+
+enum class ControlKind {
+    label,
+    symbolLabel,  ///< a letter and a subscript, written "f_yk"
+    edit,         ///< one line, text
+    numberEdit,   ///< one line, a number at the right
+    readOnlyEdit, ///< a path that can be selected and copied
+    memo,         ///< many lines, read only, both scroll bars
+    button,
+    defaultButton,
+    group,      ///< a frame with a caption
+    radio,      ///< a further option of a group
+    firstRadio, ///< the first option: starts the group
+    check,
+    dropDown, ///< a list that shows its selected row and opens
+    listBox,
+    folderList, ///< a list of folders, drawn with their depth
+    spin,
+    picture, ///< the program's picture
+};
+
+/// One control of a window. Position and size in twips (1/1440 inch) from the top left of the window's client
+/// area.
+struct ControlSpec {
+    int id;
+    ControlKind kind;
+    const char* text; ///< caption or first content, UTF-8
+    int x;
+    int y;
+    int width;
+    int height;
+
+    int right() const { return x + width; }
+    int bottom() const { return y + height; }
+};
+
+/// Twips of a length given in pixels at 96 dots per inch, the raster the windows are laid out on.
+constexpr int raster(int pixels) {
+    return pixels * 15;
+}
+
+} // namespace varno

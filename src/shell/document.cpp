@@ -1,0 +1,164 @@
+#include "shell/document.h"
+
+#include "base/run_time_error.h"
+#include "base/text.h"
+#include "results/calculation_run.h"
+
+namespace varno {
+
+CaseFileName caseFileName(const std::string& typedName) {
+    const std::string name = trimBlanks(upperCase(typedName));
+    const auto point = name.find('.');
+    if (point == std::string::npos) return {name + ".IND", name};
+    return {name.substr(0, point + 1) + "IND", name.substr(0, point)};
+}
+
+Document::Document(DesignCase& designCase, DocumentState& state, CaseFormFiller& filler, FormView& form,
+                   MainView& window, FileOpener& files, FileDialog& dialog, MessageBoxes& boxes,
+                   DocumentView& view)
+    : case_(designCase), state_(state), filler_(filler), form_(form), window_(window), files_(files),
+      dialog_(dialog), boxes_(boxes), view_(view) {}
+
+std::string Document::caption() const {
+    return upperCase(state_.currentFileName) + ".IND";
+}
+
+std::string Document::saveQuestion() const {
+    return "Vill Du spara ändringarna i " + state_.currentFileName + ".IND" + " ?";
+}
+
+void Document::selectTitle() {
+    form_.focus({Field::rubrik});
+    form_.selectAll({Field::rubrik});
+}
+
+void Document::read(const std::string& path) {
+    const DesignCase oldCase = case_;
+    const DocumentState oldState = state_;
+    const std::string oldTitle = form_.text({Field::rubrik});
+    const bool oldDiagram = window_.diagramEnabled();
+    try {
+        filler_.fillReferenceTables();
+        File file = files_.openFile(path, 2);
+        VARNO1::readDesignCase(file, case_, state_, filler_);
+        selectTitle();
+        window_.setCaption(caption());
+        file.close();
+    } catch (const RunTimeError&) {
+        case_ = oldCase;
+        filler_.setTitle(oldTitle);
+        // Before the first case there is nothing to go back to.
+        if (oldCase.nfack > 0) filler_.showAll();
+        state_ = oldState;
+        window_.setDiagramEnabled(oldDiagram);
+        throw;
+    }
+}
+
+void Document::readDefaultCase(const std::string& workFolder) {
+    read(workFolder + "\\varno.def");
+}
+
+// False when the case was to be saved but was not, because the file-name dialog was cancelled: the command
+// that asked then stops, as cancelling that dialog leaves the document as it is.
+bool Document::settled(const std::string& caption) {
+    if (!state_.dataChanged) return true;
+    if (view_.askToSave(caption, saveQuestion(), false) != SaveAnswer::yes) return true;
+    save();
+    return !state_.dataChanged;
+}
+
+void Document::newCase(const std::string& workFolder) {
+    if (!settled("Ny")) return;
+    const BusyPointer busy(window_);
+    readDefaultCase(workFolder);
+    state_.caseSaved = false;
+    state_.dataChanged = false;
+}
+
+void Document::open() {
+    if (!settled("Öppna")) return;
+    dialog_.dialogForSaving = 0;
+    dialog_.lists().setPattern("*.IND");
+    dialog_.caption = "Välj Indatafil";
+    view_.showFileDialog(dialog_);
+    if (dialog_.dialogAnswer != 0) return;
+
+    const BusyPointer busy(window_);
+    read(dialog_.path(dialog_.typedName));
+    state_.caseSaved = true;
+    state_.dataChanged = false;
+}
+
+void Document::write(const std::string& path) {
+    const BusyPointer busy(window_);
+    File file = files_.openFile(path, 1);
+    VARNO1::writeDesignCase(file, case_, state_, form_.text({Field::rubrik}));
+    file.close();
+    state_.dataChanged = false;
+    state_.caseSaved = true;
+}
+
+void Document::save() {
+    // The caption is the file name, not the name the case was opened by: HUS1.IND and hus1.ind are one file.
+    if (state_.caseSaved) {
+        write(dialog_.path(caption()));
+    } else {
+        saveAs();
+    }
+}
+
+void Document::saveAs() {
+    dialog_.dialogForSaving = 1;
+    dialog_.lists().setPattern("*.IND");
+    dialog_.caption = "Spara som..";
+    view_.showFileDialog(dialog_);
+    if (dialog_.dialogAnswer != 0) return;
+
+    const CaseFileName name = caseFileName(dialog_.typedName);
+    const std::string path = dialog_.path(name.savedFileName);
+    const bool own = state_.caseSaved && name.savedFileName == caption();
+    if (!own && files_.calls().exists(path)) {
+        const auto answer = boxes_.show(name.savedFileName + " finns redan. Vill Du ersätta filen ?",
+                                        msgYesNo, "Spara som..");
+        if (answer != MessageAnswer::yes) return;
+    }
+    // The name goes into the first line of the file, so it changes before the case is written; when writing
+    // fails the document is what it was.
+    const DocumentState oldState = state_;
+    state_.savedFileName = name.savedFileName;
+    state_.currentFileName = name.currentFileName;
+    try {
+        write(path);
+    } catch (const RunTimeError&) {
+        state_ = oldState;
+        throw;
+    }
+    window_.setCaption(caption());
+}
+
+void Document::exit() {
+    if (!state_.dataChanged) {
+        try {
+            files_.calls().remove(temporaryInputFile);
+        } catch (const RunTimeError&) {
+            // No calculation was run, or its copy cannot be deleted: neither keeps the program from ending.
+        }
+        view_.endProgram();
+        return;
+    }
+    switch (view_.askToSave("Avsluta", saveQuestion(), true)) {
+    case SaveAnswer::cancel:
+        return;
+    case SaveAnswer::yes:
+        save();
+        if (state_.dataChanged) return;
+        break;
+    case SaveAnswer::no:
+        break;
+    }
+    // Only the clean exit deletes the temporary file.
+    view_.endProgram();
+}
+
+} // namespace varno

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <string>
+
+#include "base/open_file.h"
+#include "model/design_case.h"
+#include "model/form_filling.h"
+#include "shell/file_dialog.h"
+
+namespace varno {
+
+/// The answer to a save-changes prompt, by the index of its button.
+enum class SaveAnswer { yes = 0, no = 1, cancel = 2 };
+
+/// What the document commands ask of the program around them.
+class DocumentView {
+  public:
+    virtual ~DocumentView() = default;
+    /// The save-changes prompt, modally: "Ja", "Nej", and "Avbryt" when it is offered.
+    virtual SaveAnswer askToSave(const std::string& caption, const std::string& text, bool cancelOffered) = 0;
+    virtual void showFileDialog(FileDialog& dialog) = 0;
+    virtual void endProgram() = 0;
+};
+
+/// New, Open, Save, Save as and Exit of the one design case.
+///
+/// A read that fails puts the case that was there back, with its title and its state: what the user had is
+/// never lost to a damaged file.
+class Document {
+  public:
+    Document(DesignCase& designCase, DocumentState& state, CaseFormFiller& filler, FormView& form,
+             MainView& window, FileOpener& files, FileDialog& dialog, MessageBoxes& boxes,
+             DocumentView& view);
+
+    void newCase(const std::string& workFolder);
+    void open();
+    void save();
+    void saveAs();
+    void exit();
+
+    /// The default case of the work folder, as start-up and New read it: lists filled, title selected,
+    /// caption set.
+    void readDefaultCase(const std::string& workFolder);
+
+    /// The upper-cased case name and ".IND": the main window's caption, and the name that Save writes to.
+    std::string caption() const;
+    /// The question of the save-changes prompts.
+    std::string saveQuestion() const;
+
+  private:
+    bool settled(const std::string& caption);
+    void read(const std::string& path);
+    void write(const std::string& path);
+    void selectTitle();
+
+    DesignCase& case_;
+    DocumentState& state_;
+    CaseFormFiller& filler_;
+    FormView& form_;
+    MainView& window_;
+    FileOpener& files_;
+    FileDialog& dialog_;
+    MessageBoxes& boxes_;
+    DocumentView& view_;
+};
+
+/// `savedFileName` and `currentFileName` of a name typed in Save as: upper case, no blanks at the ends,
+/// everything from the first "." on exchanged for ".IND".
+struct CaseFileName {
+    std::string savedFileName;
+    std::string currentFileName;
+};
+CaseFileName caseFileName(const std::string& typedName);
+
+} // namespace varno

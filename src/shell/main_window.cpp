@@ -1,0 +1,317 @@
+#include "shell/main_window.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "shell/control_ids.h"
+#include "shell/control_spec.h"
+#include "shell/flag_painter_window.h"
+#include "shell/flag_pictures.h"
+#include "shell/menu_table.h"
+#include "win32/dpi.h"
+#include "win32/strings.h"
+
+namespace varno {
+
+namespace {
+
+constexpr UINT showErrorMessage = WM_APP + 1;
+constexpr int flagCount = 7;    // the neutral picture and flags 1 to 6
+constexpr int buttonCount = 16; // stod
+
+// The band above the MDI client, in twips. The load picture stands as far to the right of the slab strip's
+// left edge as the slab does inside the strip, so that loads, supports and slab line up.
+constexpr int toolbarHeight = raster(32);
+constexpr int stripX = raster(8);
+constexpr int loadX = stripX + static_cast<int>(slabStripStart);
+constexpr int loadY = toolbarHeight + raster(6);
+constexpr int stripY = loadY + static_cast<int>(loadPictureHeight);
+// The slab's right end is the last pixel of the load picture; rounding must not cut it off.
+constexpr int edge = raster(1);
+constexpr int bandEnd = stripY + static_cast<int>(slabStripHeight) + raster(2);
+constexpr int flagX = loadX + static_cast<int>(loadPictureWidth) + raster(24);
+constexpr int flagY = loadY + raster(4);
+constexpr int flagWidth = raster(80);
+constexpr int flagHeight = raster(50);
+constexpr int flagLabelX = flagX + flagWidth + raster(10);
+
+} // namespace
+
+MainWindow::MainWindow(win32::WindowHost& host, MainEvents& events, const SketchPicture& sketch)
+    : Window(host), events_(events), sketch_(sketch), loadPicture_(host), slabStrip_(host) {}
+
+MainWindow::~MainWindow() {
+    destroy();
+}
+
+int MainWindow::px(int twips) const {
+    return win32::pixels(twips, dpi_);
+}
+
+HMENU MainWindow::buildMenu(const std::set<int>& commands) {
+    const HMENU bar = CreateMenu();
+    HMENU menu = nullptr;
+    HMENU submenu = nullptr;
+    for (const MenuEntry& entry : menuTree) {
+        const std::wstring caption = win32::wide(entry.caption);
+        const UINT state = commands.contains(entry.id) ? MF_ENABLED : MF_GRAYED;
+        const auto id = static_cast<UINT_PTR>(entry.id);
+        switch (entry.kind) {
+        case MenuEntry::menu:
+            menu = CreatePopupMenu();
+            if (fileMenu_ == nullptr) fileMenu_ = menu;
+            AppendMenuW(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(menu), caption.c_str());
+            break;
+        case MenuEntry::item:
+            AppendMenuW(menu, MF_STRING | state, id, caption.c_str());
+            break;
+        case MenuEntry::separator:
+            AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
+            break;
+        case MenuEntry::submenu:
+            submenu = CreatePopupMenu();
+            AppendMenuW(menu, MF_POPUP, reinterpret_cast<UINT_PTR>(submenu), caption.c_str());
+            break;
+        case MenuEntry::submenuItem:
+            AppendMenuW(submenu, MF_STRING | state, id, caption.c_str());
+            break;
+        case MenuEntry::plainItem:
+            AppendMenuW(bar, MF_STRING | state, id, caption.c_str());
+            break;
+        }
+    }
+    return bar;
+}
+
+void MainWindow::create(const std::set<int>& commands) {
+    commands_ = commands;
+    Window::create(L"VarnoMain", "", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, 0, nullptr, buildMenu(commands),
+                   {});
+    createParts();
+    for (const ToolbarKey& key : toolbarKeys)
+        toolbar_.setEnabled(key.id, commands_.contains(key.id));
+    setDpi(win32::dpiOf(handle()));
+}
+
+void MainWindow::createParts() {
+    toolbar_.create(handle());
+    loadPicture_.create(handle(), idLoadPicture, "Lastbild", sketch_.loadPicture);
+    slabStrip_.create(handle(), idSlabStrip, "Plattremsa", sketch_.slabStrip);
+    for (int i = 0; i < buttonCount; ++i) {
+        CreateWindowExW(0, L"BUTTON", L"", WS_CHILD | BS_PUSHBUTTON, 0, 0, 0, 0, slabStrip_.handle(),
+                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(idSupportButton + i)),
+                        win32::programInstance(), nullptr);
+    }
+    for (int flag = 0; flag < flagCount; ++flag) {
+        CreateWindowExW(0, L"BUTTON", win32::wide(flagName(flag)).c_str(), WS_CHILD | BS_OWNERDRAW, 0, 0, 0,
+                        0, handle(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(idFlag + flag)),
+                        win32::programInstance(), nullptr);
+    }
+    flagLabel_ = CreateWindowExW(0, L"STATIC", L"", WS_CHILD | WS_VISIBLE | SS_LEFT | SS_NOPREFIX, 0, 0, 0, 0,
+                                 handle(), nullptr, win32::programInstance(), nullptr);
+    CLIENTCREATESTRUCT client{};
+    client.idFirstChild = idFirstMdiChild;
+    mdiClient_ = CreateWindowExW(
+        0, L"MDICLIENT", nullptr,
+        WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | WS_VSCROLL | WS_HSCROLL | MDIS_ALLCHILDSTYLES, 0, 0, 0, 0,
+        handle(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(idMdiClient)), win32::programInstance(),
+        &client);
+}
+
+void MainWindow::setDpi(int dpi) {
+    dpi_ = dpi;
+    toolbar_.setDpi(dpi);
+    win32::UniqueFont font = win32::systemFont(dpi);
+    SendMessageW(flagLabel_, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
+    font_ = std::move(font);
+    loadPicture_.setDpi(dpi);
+    slabStrip_.setDpi(dpi);
+}
+
+int MainWindow::bandHeight() const {
+    return px(bandEnd);
+}
+
+void MainWindow::show(SIZE form) {
+    if (!shown_) {
+        shown_ = true;
+        RECT frame{0, 0, form.cx, form.cy + bandHeight()};
+        AdjustWindowRectExForDpi(&frame, static_cast<DWORD>(GetWindowLongPtrW(handle(), GWL_STYLE)), TRUE,
+                                 static_cast<DWORD>(GetWindowLongPtrW(handle(), GWL_EXSTYLE)),
+                                 static_cast<UINT>(dpi_));
+        MONITORINFO monitor{};
+        monitor.cbSize = sizeof monitor;
+        GetMonitorInfoW(MonitorFromWindow(handle(), MONITOR_DEFAULTTOPRIMARY), &monitor);
+        const RECT& work = monitor.rcWork;
+        const int width = std::min(frame.right - frame.left, work.right - work.left);
+        const int height = std::min(frame.bottom - frame.top, work.bottom - work.top);
+        SetWindowPos(handle(), nullptr, work.left + (work.right - work.left - width) / 2,
+                     work.top + (work.bottom - work.top - height) / 2, width, height,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+        layOut();
+        ShowWindow(handle(), SW_SHOW);
+        UpdateWindow(handle());
+        return;
+    }
+    ShowWindow(handle(), IsIconic(handle()) ? SW_RESTORE : SW_SHOW);
+    SetForegroundWindow(handle());
+}
+
+void MainWindow::layOut() {
+    const auto put = [this](HWND window, int x, int y, int width, int height) {
+        const int left = px(x);
+        const int top = px(y);
+        SetWindowPos(window, nullptr, left, top, px(x + width) - left, px(y + height) - top,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+    };
+    RECT client{};
+    GetClientRect(handle(), &client);
+    SetWindowPos(toolbar_.handle(), nullptr, 0, 0, client.right, px(toolbarHeight),
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+    put(loadPicture_.handle(), loadX, loadY, static_cast<int>(loadPictureWidth) + edge,
+        static_cast<int>(loadPictureHeight));
+    put(slabStrip_.handle(), stripX, stripY, static_cast<int>(slabStripWidth),
+        static_cast<int>(slabStripHeight));
+    for (int flag = 0; flag < flagCount; ++flag) {
+        put(GetDlgItem(handle(), idFlag + flag), flagX, flagY, flagWidth, flagHeight);
+    }
+    put(flagLabel_, flagLabelX, flagY + raster(9), raster(170), raster(34));
+    placeSupportButtons();
+    const int top = bandHeight();
+    const int height = std::max(0, static_cast<int>(client.bottom) - top);
+    // The scroll bars take room themselves; they come back by themselves when the form does not fit without
+    // them.
+    ShowScrollBar(mdiClient_, SB_BOTH, FALSE);
+    SetWindowPos(mdiClient_, nullptr, 0, top, client.right, height, SWP_NOZORDER | SWP_NOACTIVATE);
+    events_.clientResized(client.right, height);
+}
+
+void MainWindow::placeSupportButtons() {
+    const auto toPixels = [this](double twips) {
+        return static_cast<int>(std::lround(twips * dpi_ / twipsPerInch));
+    };
+    for (int i = 0; i < buttonCount; ++i) {
+        const HWND button = GetDlgItem(slabStrip_.handle(), idSupportButton + i);
+        const SketchPicture::Button& state = sketch_.button(i);
+        if (!state.visible) {
+            ShowWindow(button, SW_HIDE);
+            continue;
+        }
+        SetWindowPos(button, nullptr, toPixels(state.left), toPixels(state.top), toPixels(supportButtonWidth),
+                     toPixels(supportButtonHeight), SWP_NOZORDER | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+    }
+}
+
+void MainWindow::sketchChanged() {
+    if (!exists()) return;
+    loadPicture_.redraw();
+    slabStrip_.redraw();
+    placeSupportButtons();
+}
+
+void MainWindow::postRunTimeError(int number) {
+    PostMessageW(handle(), showErrorMessage, static_cast<WPARAM>(number), 0);
+}
+
+void MainWindow::setCaption(const std::string& caption) {
+    win32::setText(handle(), caption);
+}
+
+void MainWindow::setBusy(bool busy) {
+    busy_ += busy ? 1 : -1;
+    SetCursor(LoadCursorW(nullptr, busy_ > 0 ? IDC_WAIT : IDC_ARROW));
+}
+
+void MainWindow::setDiagramEnabled(bool enabled) {
+    if (diagramEnabled_ == enabled) return;
+    diagramEnabled_ = enabled;
+    EnableMenuItem(GetMenu(handle()), diagramMenuPlace, MF_BYPOSITION | (enabled ? MF_ENABLED : MF_GRAYED));
+    DrawMenuBar(handle());
+    toolbar_.setEnabled(idMoment, enabled && commands_.contains(idMoment));
+}
+
+void MainWindow::showFlag(int flag) {
+    if (flag == flag_) return;
+    flag_ = flag;
+    for (int other = 0; other < flagCount; ++other) {
+        ShowWindow(GetDlgItem(handle(), idFlag + other), other == flag ? SW_SHOWNA : SW_HIDE);
+    }
+    win32::setText(flagLabel_, flagName(flag));
+}
+
+void MainWindow::drawFlag(const DRAWITEMSTRUCT& item) const {
+    paintFlag(item.hDC, item.rcItem, static_cast<int>(item.CtlID) - idFlag,
+              (item.itemState & ODS_SELECTED) != 0, (item.itemState & ODS_FOCUS) != 0);
+}
+
+LRESULT MainWindow::onCommand(WPARAM wParam, LPARAM lParam) {
+    const int id = LOWORD(wParam);
+    if (id >= idFlag && id < idFlag + flagCount) {
+        if (HIWORD(wParam) == BN_CLICKED) events_.flagClicked(id - idFlag);
+        return 0;
+    }
+    if (commands_.contains(id)) {
+        events_.command(id);
+        return 0;
+    }
+    return defaultProc(WM_COMMAND, wParam, lParam);
+}
+
+LRESULT MainWindow::defaultProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    return DefFrameProcW(handle(), mdiClient_, message, wParam, lParam);
+}
+
+LRESULT MainWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_COMMAND:
+        return onCommand(wParam, lParam);
+    case WM_INITMENUPOPUP:
+        if (reinterpret_cast<HMENU>(wParam) == fileMenu_) events_.fileMenuOpened();
+        break;
+    case WM_DRAWITEM: {
+        const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+        if (item.CtlType != ODT_BUTTON) break;
+        drawFlag(item);
+        return TRUE;
+    }
+    case WM_SIZE:
+        // DefFrameProc would stretch the MDI client over the whole window.
+        if (wParam != SIZE_MINIMIZED) layOut();
+        return 0;
+    case WM_SETCURSOR:
+        if (busy_ == 0) break;
+        SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+        return TRUE;
+    case WM_ACTIVATE:
+        // Coming back, the focus is where it was.
+        if (LOWORD(wParam) == WA_INACTIVE) {
+            lastFocus_ = IsChild(handle(), GetFocus()) ? GetFocus() : lastFocus_;
+        } else if (lastFocus_ != nullptr && IsWindow(lastFocus_)) {
+            SetFocus(lastFocus_);
+            return 0;
+        }
+        break;
+    case WM_DPICHANGED: {
+        setDpi(win32::dpiOf(handle()));
+        events_.dpiChanged(dpi_);
+        const auto& box = *reinterpret_cast<const RECT*>(lParam);
+        SetWindowPos(handle(), nullptr, box.left, box.top, box.right - box.left, box.bottom - box.top,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+        layOut();
+        return 0;
+    }
+    case WM_CLOSE:
+        events_.closing();
+        return 0;
+    case WM_QUERYENDSESSION:
+        return events_.closing() ? TRUE : FALSE;
+    case showErrorMessage:
+        events_.showRunTimeError(static_cast<int>(wParam));
+        return 0;
+    default:
+        break;
+    }
+    return defaultProc(message, wParam, lParam);
+}
+
+} // namespace varno

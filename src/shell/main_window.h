@@ -1,0 +1,89 @@
+#pragma once
+
+#include <functional>
+#include <set>
+
+#include "input/sketch_picture.h"
+#include "model/main_view.h"
+#include "shell/toolbar_window.h"
+#include "win32/picture_window.h"
+#include "win32/unique.h"
+#include "win32/window.h"
+
+namespace varno {
+
+/// Takes what the user does in the main window.
+class MainEvents {
+  public:
+    virtual ~MainEvents() = default;
+    virtual void command(int id) = 0;
+    /// The top-level menu "Arkiv" is opened.
+    virtual void fileMenuOpened() = 0;
+    virtual void flagClicked(int flag) = 0;
+    /// The close box, or Windows ending; true when the program has ended.
+    virtual bool closing() = 0;
+    /// The child windows are to be laid out at this resolution.
+    virtual void dpiChanged(int dpi) = 0;
+    /// The MDI client has this size in pixels.
+    virtual void clientResized(int width, int height) = 0;
+    virtual void showRunTimeError(int number) = 0;
+};
+
+/// The main window: an MDI frame with menu, toolbar, the sketch (load picture, slab strip, support buttons),
+/// the flag of the load rules, and below it the MDI client that the input form fills.
+class MainWindow : public win32::Window, public MainView {
+  public:
+    MainWindow(win32::WindowHost& host, MainEvents& events, const SketchPicture& sketch);
+    ~MainWindow() override;
+
+    /// Creates the window, hidden. `commands` are the menu items that do something; the others are greyed.
+    void create(const std::set<int>& commands);
+    /// Shows it; the first time with room for a form of `form` pixels.
+    void show(SIZE form);
+    HWND mdiClient() const { return mdiClient_; }
+    int dpi() const { return dpi_; }
+    /// Paints the sketch and places the support buttons as they are now.
+    void sketchChanged();
+    /// Later, when the current event is over, MainEvents::showRunTimeError is called.
+    void postRunTimeError(int number);
+
+    void setCaption(const std::string& caption) override;
+    void setBusy(bool busy) override;
+    void setDiagramEnabled(bool enabled) override;
+    bool diagramEnabled() const override { return diagramEnabled_; }
+    void showFlag(int flag) override;
+
+  protected:
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    LRESULT defaultProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+  private:
+    void createParts();
+    HMENU buildMenu(const std::set<int>& commands);
+    void layOut();
+    void setDpi(int dpi);
+    int px(int twips) const;
+    int bandHeight() const;
+    void placeSupportButtons();
+    void drawFlag(const DRAWITEMSTRUCT& item) const;
+    LRESULT onCommand(WPARAM wParam, LPARAM lParam);
+
+    MainEvents& events_;
+    const SketchPicture& sketch_;
+    win32::PictureWindow loadPicture_;
+    win32::PictureWindow slabStrip_;
+    Toolbar toolbar_;
+    HWND mdiClient_ = nullptr;
+    HWND flagLabel_ = nullptr;
+    HMENU fileMenu_ = nullptr;
+    win32::UniqueFont font_;
+    HWND lastFocus_ = nullptr;
+    std::set<int> commands_;
+    bool diagramEnabled_ = true;
+    int dpi_ = USER_DEFAULT_SCREEN_DPI;
+    int flag_ = -1;
+    bool shown_ = false;
+    int busy_ = 0;
+};
+
+} // namespace varno

@@ -1,0 +1,60 @@
+#include "shell/toolbar_window.h"
+
+#include <vector>
+
+#include "shell/control_spec.h"
+#include "shell/menu_table.h"
+#include "win32/dpi.h"
+#include "win32/strings.h"
+#include "win32/toolbar_pictures.h"
+#include "win32/window.h"
+
+namespace varno {
+
+Toolbar::~Toolbar() {
+    if (images_ != nullptr) ImageList_Destroy(images_);
+}
+
+void Toolbar::create(HWND parent) {
+    handle_ = CreateWindowExW(0, TOOLBARCLASSNAMEW, L"Verktyg",
+                              WS_CHILD | WS_VISIBLE | TBSTYLE_FLAT | TBSTYLE_LIST | TBSTYLE_TOOLTIPS |
+                                  CCS_NODIVIDER | CCS_NOPARENTALIGN | CCS_NORESIZE,
+                              0, 0, 0, 0, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(idToolbar)),
+                              win32::programInstance(), nullptr);
+    SendMessageW(handle_, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
+    // The texts are not shown: they are the buttons' tips and their names for screen readers.
+    SendMessageW(handle_, TB_SETEXTENDEDSTYLE, 0, TBSTYLE_EX_MIXEDBUTTONS);
+    std::vector<std::wstring> tips;
+    for (const ToolbarKey& key : toolbarKeys)
+        tips.push_back(win32::wide(key.tip));
+    for (std::size_t i = 0; i < toolbarKeys.size(); ++i) {
+        TBBUTTON button{};
+        button.iBitmap = static_cast<int>(i);
+        button.idCommand = toolbarKeys[i].id;
+        button.fsState = TBSTATE_ENABLED;
+        button.fsStyle = BTNS_BUTTON | BTNS_AUTOSIZE;
+        button.iString = reinterpret_cast<INT_PTR>(tips[i].c_str());
+        SendMessageW(handle_, TB_ADDBUTTONSW, 1, reinterpret_cast<LPARAM>(&button));
+    }
+}
+
+void Toolbar::setDpi(int dpi) {
+    const int size = win32::pixels(raster(20), dpi);
+    const HIMAGELIST images =
+        ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, static_cast<int>(toolbarKeys.size()), 0);
+    for (const ToolbarKey& key : toolbarKeys) {
+        const win32::UniqueIcon icon = win32::toolbarPicture(key.key, size);
+        ImageList_ReplaceIcon(images, -1, icon.get());
+    }
+    SendMessageW(handle_, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(images));
+    if (images_ != nullptr) ImageList_Destroy(images_);
+    images_ = images;
+    SendMessageW(handle_, TB_SETBUTTONSIZE, 0, MAKELPARAM(size + size * 3 / 5, size + size / 2));
+    SendMessageW(handle_, TB_AUTOSIZE, 0, 0);
+}
+
+void Toolbar::setEnabled(int id, bool enabled) {
+    SendMessageW(handle_, TB_ENABLEBUTTON, static_cast<WPARAM>(id), MAKELPARAM(enabled ? TRUE : FALSE, 0));
+}
+
+} // namespace varno

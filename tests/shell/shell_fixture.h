@@ -1,0 +1,62 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "shell/document.h"
+#include "support/fake_folders.h"
+#include "support/fake_form.h"
+#include "support/memory_files.h"
+
+namespace varno::testing {
+
+/// The document with everything around it faked: a disk in memory with a default case, and prompts and
+/// dialogs that answer as the test tells them.
+struct ShellFixture : DocumentView {
+    ShellFixture();
+
+    SaveAnswer askToSave(const std::string& caption, const std::string& text, bool cancelOffered) override {
+        prompts.push_back(caption + "|" + text + (cancelOffered ? "|Avbryt" : ""));
+        return saveAnswer;
+    }
+    void showFileDialog(FileDialog& shown) override {
+        dialogs.push_back(shown.caption + "|" + shown.lists().pattern() + "|" +
+                          std::to_string(shown.dialogForSaving));
+        shown.dialogAnswer = typed.empty() ? 1 : 0;
+        if (!typed.empty()) shown.typedName = typed;
+    }
+    void endProgram() override { ended = true; }
+
+    /// An edit by the user: of the record, and marked as every edit is.
+    void edit(float spanLength) {
+        designCase.spv(1) = spanLength;
+        state.dataChanged = true;
+    }
+    std::string title() const { return form.text({Field::rubrik}); }
+    /// A whole design input file of this name, title and first span length.
+    static Bytes caseFile(const std::string& name, const std::string& title, float spanLength);
+
+    DesignCase designCase;
+    DocumentState state;
+    FakeForm form;
+    FakeMainWindow window;
+    MemoryFiles files;
+    FakeMessageBoxes boxes;
+    FakeFolders folders;
+    int refreshes = 0;
+    FileOpener opener{files, boxes};
+    FileDialog dialog{folders, boxes};
+    CaseFormFiller filler{designCase, form, window, NumberLocale{}, [this] { ++refreshes; }};
+    Document document{designCase, state, filler, form, window, opener, dialog, boxes, *this};
+
+    SaveAnswer saveAnswer = SaveAnswer::no;
+    std::string typed; ///< the name typed in the file-name dialog; empty cancels it
+    std::vector<std::string> prompts;
+    std::vector<std::string> dialogs;
+    bool ended = false;
+};
+
+inline constexpr const char* workFolder = "C:\\varnow\\run";
+
+} // namespace varno::testing
