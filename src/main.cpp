@@ -1,0 +1,14 @@
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "shell/application_window.h"
+
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
+    INITCOMMONCONTROLSEX controls{};
+    controls.dwSize = sizeof controls;
+    controls.dwICC = ICC_STANDARD_CLASSES | ICC_BAR_CLASSES | ICC_UPDOWN_CLASS;
+    InitCommonControlsEx(&controls);
+    varno::Application application;
+    return application.run();
+}

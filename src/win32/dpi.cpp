@@ -1,0 +1,69 @@
+#include "win32/dpi.h"
+
+#include <cstdlib>
+#include <cwchar>
+
+namespace varno::win32 {
+
+namespace {
+
+int overriddenDpi() {
+    wchar_t text[16] = L"";
+    if (GetEnvironmentVariableW(L"VARNO_DPI", text, 16) == 0) return 0;
+    const long dpi = std::wcstol(text, nullptr, 10);
+    return dpi >= 48 && dpi <= 960 ? static_cast<int>(dpi) : 0;
+}
+
+} // namespace
+
+int dpiOf(HWND window) {
+    static const int overridden = overriddenDpi();
+    if (overridden != 0) return overridden;
+    const UINT dpi = window != nullptr ? GetDpiForWindow(window) : GetDpiForSystem();
+    return dpi != 0 ? static_cast<int>(dpi) : USER_DEFAULT_SCREEN_DPI;
+}
+
+UniqueFont systemFont(int dpi, FontRole role) {
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof metrics;
+    LOGFONTW font{};
+    if (SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0,
+                                   static_cast<UINT>(dpi))) {
+        font = metrics.lfMessageFont;
+    } else {
+        font.lfHeight = -MulDiv(9, dpi, 72);
+        std::wcscpy(font.lfFaceName, L"Segoe UI");
+    }
+    switch (role) {
+    case FontRole::text:
+        break;
+    case FontRole::symbol:
+        // Formula letters, some of them Greek, which not every interface font has.
+        font.lfHeight = MulDiv(font.lfHeight, 5, 4);
+        font.lfItalic = TRUE;
+        std::wcscpy(font.lfFaceName, L"Times New Roman");
+        break;
+    case FontRole::subscript:
+        font.lfHeight = MulDiv(font.lfHeight, 5, 6);
+        break;
+    case FontRole::heading:
+        font.lfHeight = MulDiv(font.lfHeight, 3, 2);
+        font.lfWeight = FW_BOLD;
+        break;
+    case FontRole::bold:
+        font.lfWeight = FW_BOLD;
+        break;
+    }
+    return UniqueFont(CreateFontIndirectW(&font));
+}
+
+UniqueFont fontOf(const wchar_t* face, int points, int dpi) {
+    LOGFONTW font{};
+    font.lfHeight = -MulDiv(points, dpi, 72);
+    font.lfCharSet = DEFAULT_CHARSET;
+    font.lfWeight = FW_NORMAL;
+    std::wcsncpy(font.lfFaceName, face, LF_FACESIZE - 1);
+    return UniqueFont(CreateFontIndirectW(&font));
+}
+
+} // namespace varno::win32

@@ -1,0 +1,285 @@
+#include "win32/form_window.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "win32/resource_ids.h"
+#include "win32/strings.h"
+
+namespace varno::win32 {
+
+namespace {
+
+struct KindStyle {
+    const wchar_t* className;
+    DWORD style;
+    DWORD exStyle;
+};
+
+KindStyle styleOf(ControlKind kind) {
+    constexpr DWORD stop = WS_TABSTOP;
+    switch (kind) {
+    case ControlKind::label:
+        return {L"STATIC", SS_LEFT | SS_NOPREFIX, 0};
+    case ControlKind::symbolLabel:
+        return {L"STATIC", SS_OWNERDRAW | SS_NOPREFIX, 0};
+    case ControlKind::edit:
+        return {L"EDIT", stop | ES_AUTOHSCROLL, WS_EX_CLIENTEDGE};
+    case ControlKind::numberEdit:
+        return {L"EDIT", stop | ES_AUTOHSCROLL | ES_RIGHT, WS_EX_CLIENTEDGE};
+    case ControlKind::readOnlyEdit:
+        return {L"EDIT", ES_AUTOHSCROLL | ES_READONLY, 0};
+    case ControlKind::memo:
+        return {L"EDIT",
+                stop | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL | ES_AUTOHSCROLL | WS_VSCROLL | WS_HSCROLL,
+                WS_EX_CLIENTEDGE};
+    case ControlKind::button:
+        return {L"BUTTON", stop | BS_PUSHBUTTON, 0};
+    case ControlKind::defaultButton:
+        return {L"BUTTON", stop | BS_DEFPUSHBUTTON, 0};
+    case ControlKind::group:
+        return {L"BUTTON", BS_GROUPBOX | WS_GROUP, 0};
+    case ControlKind::radio:
+        return {L"BUTTON", BS_AUTORADIOBUTTON, 0};
+    case ControlKind::firstRadio:
+        return {L"BUTTON", stop | BS_AUTORADIOBUTTON | WS_GROUP, 0};
+    case ControlKind::check:
+        return {L"BUTTON", stop | BS_AUTOCHECKBOX | WS_GROUP, 0};
+    case ControlKind::dropDown:
+        return {L"COMBOBOX", stop | CBS_DROPDOWNLIST | WS_VSCROLL | WS_GROUP, 0};
+    case ControlKind::listBox:
+        return {L"LISTBOX", stop | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_GROUP,
+                WS_EX_CLIENTEDGE};
+    case ControlKind::folderList:
+        return {L"LISTBOX",
+                stop | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | WS_VSCROLL |
+                    WS_GROUP,
+                WS_EX_CLIENTEDGE};
+    case ControlKind::spin:
+        return {UPDOWN_CLASSW, UDS_ARROWKEYS, 0};
+    case ControlKind::picture:
+        return {L"STATIC", SS_OWNERDRAW, 0};
+    }
+    return {L"STATIC", 0, 0};
+}
+
+// Every other window of the program, disabled for as long as a modal window runs.
+class DisabledOthers {
+  public:
+    explicit DisabledOthers(HWND except) : except_(except) {
+        EnumThreadWindows(GetCurrentThreadId(), disable, reinterpret_cast<LPARAM>(this));
+    }
+    ~DisabledOthers() {
+        for (const HWND window : windows_)
+            EnableWindow(window, TRUE);
+    }
+    DisabledOthers(const DisabledOthers&) = delete;
+    DisabledOthers& operator=(const DisabledOthers&) = delete;
+
+  private:
+    static BOOL CALLBACK disable(HWND window, LPARAM self) {
+        auto& others = *reinterpret_cast<DisabledOthers*>(self);
+        if (window != others.except_ && IsWindowEnabled(window) && IsWindowVisible(window)) {
+            EnableWindow(window, FALSE);
+            others.windows_.push_back(window);
+        }
+        return TRUE;
+    }
+
+    HWND except_;
+    std::vector<HWND> windows_;
+};
+
+} // namespace
+
+void FormWindow::runModal() {
+    open_ = true;
+    const HWND owner = GetWindow(handle(), GW_OWNER);
+    {
+        const DisabledOthers others(handle());
+        ShowWindow(handle(), SW_SHOW);
+        SetForegroundWindow(handle());
+        MSG message;
+        while (open_ && GetMessageW(&message, nullptr, 0, 0) > 0)
+            dispatch(host(), message);
+        // The end of the program passes through every loop.
+        if (open_) PostQuitMessage(static_cast<int>(message.wParam));
+    }
+    // The others are enabled before this one goes, so that Windows activates one of them and not another
+    // program.
+    if (owner != nullptr) SetActiveWindow(owner);
+    ShowWindow(handle(), SW_HIDE);
+}
+
+void FormWindow::closeForm() {
+    if (std::exchange(open_, false)) return;
+    ShowWindow(handle(), SW_HIDE);
+}
+
+HWND FormWindow::createControl(const ControlSpec& spec) {
+    const KindStyle kind = styleOf(spec.kind);
+    const HWND control = CreateWindowExW(
+        kind.exStyle, kind.className, wide(spec.text).c_str(), WS_CHILD | WS_VISIBLE | kind.style, 0, 0, 0, 0,
+        handle(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(spec.id)), programInstance(), nullptr);
+    if (spec.kind == ControlKind::memo) SendMessageW(control, EM_SETLIMITTEXT, 0, 0);
+    return control;
+}
+
+void FormWindow::addControls(std::span<const ControlSpec> controls) {
+    if (!fonts_[0]) setDpi(dpiOf(handle()));
+    for (const ControlSpec& spec : controls) {
+        // A drop-down list's height is that of its open list.
+        const int open = spec.kind == ControlKind::dropDown ? raster(220) : 0;
+        adopt(createControl(spec), {spec.x, spec.y, spec.right(), spec.bottom() + open});
+    }
+}
+
+void FormWindow::adopt(HWND control, RECT twips, FontRole role) {
+    placed_.push_back({control, twips, role});
+    SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font(role)), TRUE);
+}
+
+HFONT FormWindow::font(FontRole role) const {
+    return fonts_[static_cast<int>(role)].get();
+}
+
+void FormWindow::setFontRole(int id, FontRole role) {
+    const HWND control = item(id);
+    for (Placed& placed : placed_) {
+        if (placed.control == control) placed.role = role;
+    }
+    SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font(role)), TRUE);
+}
+
+void FormWindow::setDpi(int dpi) {
+    dpi_ = dpi;
+    UniqueFont fresh[4];
+    for (int role = 0; role < 4; ++role)
+        fresh[role] = systemFont(dpi, static_cast<FontRole>(role));
+    std::swap_ranges(fresh, fresh + 4, fonts_);
+    for (const Placed& placed : placed_) {
+        SendMessageW(placed.control, WM_SETFONT, reinterpret_cast<WPARAM>(font(placed.role)), TRUE);
+    }
+    fontsChanged();
+}
+
+void FormWindow::place(int id, int x, int y, int width, int height) {
+    const HWND control = item(id);
+    for (Placed& placed : placed_) {
+        if (placed.control == control) placed.twips = {x, y, x + width, y + height};
+    }
+}
+
+void FormWindow::layOut() {
+    for (const Placed& placed : placed_) {
+        // Both edges are rounded, not the size: neighbours that touch in twips touch in pixels.
+        const int left = px(placed.twips.left);
+        const int top = px(placed.twips.top);
+        SetWindowPos(placed.control, nullptr, left, top, px(placed.twips.right) - left,
+                     px(placed.twips.bottom) - top, SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+}
+
+void FormWindow::sizeAndCentre(int width, int height, HWND over) {
+    setDpi(dpiOf(handle()));
+    RECT frame{0, 0, px(width), px(height)};
+    AdjustWindowRectExForDpi(
+        &frame, static_cast<DWORD>(GetWindowLongPtrW(handle(), GWL_STYLE)), GetMenu(handle()) != nullptr,
+        static_cast<DWORD>(GetWindowLongPtrW(handle(), GWL_EXSTYLE)), static_cast<UINT>(dpi_));
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    GetMonitorInfoW(MonitorFromWindow(over != nullptr ? over : handle(), MONITOR_DEFAULTTONEAREST), &monitor);
+    RECT around = monitor.rcWork;
+    if (over != nullptr && IsWindowVisible(over) && !IsIconic(over)) GetWindowRect(over, &around);
+    const int w = frame.right - frame.left;
+    const int h = frame.bottom - frame.top;
+    const auto middle = [](LONG low, LONG high, int size, LONG least, LONG most) {
+        return std::max<LONG>(least, std::min<LONG>(low + (high - low - size) / 2, most - size));
+    };
+    SetWindowPos(handle(), nullptr,
+                 middle(around.left, around.right, w, monitor.rcWork.left, monitor.rcWork.right),
+                 middle(around.top, around.bottom, h, monitor.rcWork.top, monitor.rcWork.bottom), w, h,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+    layOut();
+}
+
+void FormWindow::onCommand(int id, int) {
+    if (id == IDCANCEL) onCloseBox();
+}
+
+void FormWindow::drawPicture(const DRAWITEMSTRUCT& item) {
+    const RECT& box = item.rcItem;
+    FillRect(item.hDC, &box, GetSysColorBrush(COLOR_BTNFACE));
+    const int size = std::min(box.right - box.left, box.bottom - box.top);
+    const UniqueIcon icon(static_cast<HICON>(LoadImageW(programInstance(), MAKEINTRESOURCEW(idProgramIcon),
+                                                        IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
+    if (icon) DrawIconEx(item.hDC, box.left, box.top, icon.get(), size, size, 0, nullptr, DI_NORMAL);
+}
+
+void FormWindow::drawSymbol(const DRAWITEMSTRUCT& item) {
+    const std::wstring text = wide(textOf(item.hwndItem));
+    const auto split = std::min(text.find(L'_'), text.size());
+    FillRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_BTNFACE));
+    SetBkMode(item.hDC, TRANSPARENT);
+    SetTextColor(item.hDC, GetSysColor(COLOR_BTNTEXT));
+
+    const Selected letters(item.hDC, font(FontRole::symbol));
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(item.hDC, &metrics);
+    const int top = item.rcItem.top + (item.rcItem.bottom - item.rcItem.top - metrics.tmHeight) / 2;
+    TextOutW(item.hDC, item.rcItem.left, top, text.c_str(), static_cast<int>(split));
+    if (split == text.size()) return;
+    SIZE size{};
+    GetTextExtentPoint32W(item.hDC, text.c_str(), static_cast<int>(split), &size);
+    const Selected small(item.hDC, font(FontRole::subscript));
+    TextOutW(item.hDC, item.rcItem.left + size.cx, top + metrics.tmAscent * 5 / 12, text.c_str() + split + 1,
+             static_cast<int>(text.size() - split - 1));
+}
+
+void FormWindow::drawItem(const DRAWITEMSTRUCT& item) {
+    if (textOf(item.hwndItem).empty()) {
+        drawPicture(item);
+    } else {
+        drawSymbol(item);
+    }
+}
+
+LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_COMMAND:
+        onCommand(LOWORD(wParam), HIWORD(wParam));
+        return 0;
+    case WM_CLOSE:
+        onCloseBox();
+        return 0;
+    case WM_DRAWITEM:
+        drawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+        return TRUE;
+    case WM_ACTIVATE:
+        // Coming back, the focus is where it was; the window alone would lose it.
+        if (LOWORD(wParam) == WA_INACTIVE) {
+            const HWND focus = GetFocus();
+            if (focus != nullptr && IsChild(handle(), focus)) lastFocus_ = focus;
+        } else if (lastFocus_ != nullptr && IsWindow(lastFocus_)) {
+            SetFocus(lastFocus_);
+        } else {
+            const HWND first = GetNextDlgTabItem(handle(), nullptr, FALSE);
+            if (first != nullptr) SetFocus(first);
+        }
+        return 0;
+    case WM_DPICHANGED: {
+        setDpi(dpiOf(handle()));
+        const auto* box = reinterpret_cast<const RECT*>(lParam);
+        SetWindowPos(handle(), nullptr, box->left, box->top, box->right - box->left, box->bottom - box->top,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+        layOut();
+        return 0;
+    }
+    default:
+        return defaultProc(message, wParam, lParam);
+    }
+}
+
+} // namespace varno::win32

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "shell/control_spec.h"
+#include "win32/dpi.h"
+#include "win32/window.h"
+
+namespace varno::win32 {
+
+/// A window made of controls that stand in a table, in twips. It lays them out at its own resolution, keeps
+/// the keyboard focus while another window is active, and draws the symbol labels.
+class FormWindow : public Window {
+  public:
+    using Window::Window;
+
+    /// Shows the window and handles messages until `closeForm`; all other windows of the program are
+    /// disabled.
+    void runModal();
+
+    HWND item(int id) const { return GetDlgItem(handle(), id); }
+
+  protected:
+    /// Creates the controls of the table in its order, which is the tab order.
+    void addControls(std::span<const ControlSpec> controls);
+    /// A control that the window made itself takes part in layout and fonts. `twips` as in the table.
+    void adopt(HWND control, RECT twips, FontRole role = FontRole::text);
+
+    /// Gives the client area this size in twips at the window's resolution and centres it over `over` (or the
+    /// work area of its monitor).
+    void sizeAndCentre(int width, int height, HWND over);
+
+    void setFontRole(int id, FontRole role);
+    /// Places the controls; a window that can be resized overrides it. Called after a change of resolution
+    /// too.
+    virtual void layOut();
+    void place(int id, int x, int y, int width, int height);
+
+    /// The system fonts were given to the controls again; a window with fonts of its own sets them now.
+    virtual void fontsChanged() {}
+
+    /// A button or other control was used: WM_COMMAND.
+    virtual void onCommand(int id, int notification);
+    /// The close box or Esc.
+    virtual void onCloseBox() { closeForm(); }
+    /// Ends a modal run, or hides a modeless window.
+    void closeForm();
+
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    int dpi() const { return dpi_; }
+    int px(int twips) const { return pixels(twips, dpi_); }
+    void setDpi(int dpi);
+    virtual void drawPicture(const DRAWITEMSTRUCT& item);
+
+  private:
+    struct Placed {
+        HWND control;
+        RECT twips;
+        FontRole role;
+    };
+    HWND createControl(const ControlSpec& spec);
+    void drawItem(const DRAWITEMSTRUCT& item);
+    void drawSymbol(const DRAWITEMSTRUCT& item);
+    HFONT font(FontRole role) const;
+
+    std::vector<Placed> placed_;
+    UniqueFont fonts_[fontRoles];
+    int dpi_ = USER_DEFAULT_SCREEN_DPI;
+    HWND lastFocus_ = nullptr;
+    bool open_ = false;
+};
+
+} // namespace varno::win32

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <windows.h>
+
+#include "drawing/canvas.h"
+
+namespace varno::win32 {
+
+COLORREF colourRef(Rgb rgb);
+
+/// Draws on a device context whose unit is the pixel: twips become pixels here, once. It does not clear; who
+/// owns the surface fills it first.
+class GdiCanvas : public Canvas {
+  public:
+    GdiCanvas(HDC dc, int dpi, COLORREF foreground) : dc_(dc), dpi_(dpi), foreground_(foreground) {}
+
+    void clear() override {}
+    void line(Point from, Point to, Colour colour, int width = 1) override;
+    void box(Point corner, Point opposite, Colour colour, Fill fill = Fill::none) override;
+    void disc(Point centre, double radius, Colour rim, Colour inside) override;
+
+  private:
+    COLORREF ref(Colour colour) const;
+    LONG px(double twips) const;
+    POINT at(Point place) const { return {px(place.x), px(place.y)}; }
+    int penWidth(int width) const;
+
+    HDC dc_;
+    int dpi_;
+    COLORREF foreground_;
+};
+
+} // namespace varno::win32

@@ -1,0 +1,52 @@
+#include "win32/picture_window.h"
+
+#include "win32/gdi_canvas.h"
+#include "win32/unique.h"
+
+namespace varno::win32 {
+
+void PictureWindow::create(HWND parent, int id, const std::string& name, const RecordingCanvas& picture) {
+    picture_ = &picture;
+    Window::create(L"VarnoPicture", name, WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, 0, parent,
+                   reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), {0, 0, 0, 0});
+}
+
+void PictureWindow::setDpi(int dpi) {
+    dpi_ = dpi;
+    redraw();
+}
+
+void PictureWindow::redraw() {
+    InvalidateRect(handle(), nullptr, FALSE);
+}
+
+void PictureWindow::paint() {
+    PAINTSTRUCT paint{};
+    const HDC screen = BeginPaint(handle(), &paint);
+    RECT client{};
+    GetClientRect(handle(), &client);
+    {
+        const UniqueDc memory(CreateCompatibleDC(screen));
+        const UniqueBitmap bitmap(CreateCompatibleBitmap(screen, client.right, client.bottom));
+        const Selected selected(memory.get(), bitmap.get());
+        FillRect(memory.get(), &client, GetSysColorBrush(COLOR_BTNFACE));
+        GdiCanvas canvas(memory.get(), dpi_, GetSysColor(COLOR_BTNTEXT));
+        replay(*picture_, canvas);
+        BitBlt(screen, 0, 0, client.right, client.bottom, memory.get(), 0, 0, SRCCOPY);
+    }
+    EndPaint(handle(), &paint);
+}
+
+LRESULT PictureWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_PAINT:
+        paint();
+        return 0;
+    case WM_ERASEBKGND:
+        return TRUE;
+    default:
+        return defaultProc(message, wParam, lParam);
+    }
+}
+
+} // namespace varno::win32

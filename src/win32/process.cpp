@@ -1,0 +1,39 @@
+#include "win32/process.h"
+
+#include "win32/strings.h"
+
+namespace varno::win32 {
+
+namespace {
+
+std::string ansi(const std::string& utf8) {
+    const std::wstring text = wide(utf8);
+    const int length = static_cast<int>(text.size());
+    std::string out(static_cast<std::size_t>(
+                        WideCharToMultiByte(CP_ACP, 0, text.c_str(), length, nullptr, 0, nullptr, nullptr)),
+                    '\0');
+    WideCharToMultiByte(CP_ACP, 0, text.c_str(), length, out.data(), static_cast<int>(out.size()), nullptr,
+                        nullptr);
+    return out;
+}
+
+} // namespace
+
+std::uint32_t ProcessRunner::ExecCmd(const std::string& commandLine) {
+    STARTUPINFOA start{};
+    start.cb = sizeof start;
+    static_assert(sizeof start == 68, "the size that 32-bit Windows documents");
+    PROCESS_INFORMATION process{};
+    std::string line = ansi(commandLine);
+    DWORD exitCode =
+        static_cast<DWORD>(CreateProcessA(nullptr, line.data(), nullptr, nullptr, TRUE, NORMAL_PRIORITY_CLASS,
+                                          nullptr, nullptr, &start, &process));
+    // Without a process the handle is zero: the wait fails at once and its value is what the caller gets.
+    exitCode = WaitForSingleObject(process.hProcess, INFINITE);
+    GetExitCodeProcess(process.hProcess, &exitCode);
+    if (process.hThread != nullptr) CloseHandle(process.hThread);
+    if (process.hProcess != nullptr) CloseHandle(process.hProcess);
+    return exitCode;
+}
+
+} // namespace varno::win32

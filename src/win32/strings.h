@@ -1,0 +1,34 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <string_view>
+
+#include "base/text.h"
+
+namespace varno::win32 {
+
+/// UTF-8 to the UTF-16 of the W functions and back.
+inline std::wstring wide(std::string_view utf8) {
+    const std::u16string text = utf16FromUtf8(utf8);
+    return {text.begin(), text.end()};
+}
+
+inline std::string narrow(std::wstring_view text) {
+    const std::u16string utf16(text.begin(), text.end());
+    return utf8FromUtf16(utf16);
+}
+
+/// The text of a window or control.
+inline std::string textOf(HWND window) {
+    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+    text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+    return narrow(text);
+}
+
+inline void setText(HWND window, std::string_view text) {
+    SetWindowTextW(window, wide(text).c_str());
+}
+
+} // namespace varno::win32

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "win32/unique.h"
+
+namespace varno::win32 {
+
+/// The picture of a toolbar button, by its key string, `size` pixels square; "folder" is a closed folder.
+UniqueIcon toolbarPicture(const char* key, int size);
+
+} // namespace varno::win32

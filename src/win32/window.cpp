@@ -1,0 +1,102 @@
+#include "win32/window.h"
+
+#include "win32/resource_ids.h"
+#include "win32/strings.h"
+
+namespace varno::win32 {
+
+HINSTANCE programInstance() {
+    return GetModuleHandleW(nullptr);
+}
+
+void dispatch(WindowHost& host, MSG& message) {
+    if (host.translate(message)) return;
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+}
+
+Window::~Window() {
+    destroy();
+}
+
+void Window::registerClass(const wchar_t* className) {
+    WNDCLASSEXW info{};
+    info.cbSize = sizeof info;
+    if (GetClassInfoExW(programInstance(), className, &info)) return;
+    info = {};
+    info.cbSize = sizeof info;
+    info.lpfnWndProc = proc;
+    info.hInstance = programInstance();
+    info.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    info.hIcon = LoadIconW(programInstance(), MAKEINTRESOURCEW(idProgramIcon));
+    info.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+    info.lpszClassName = className;
+    RegisterClassExW(&info);
+}
+
+void Window::create(const wchar_t* className, const std::string& text, DWORD style, DWORD exStyle,
+                    HWND parent, HMENU menu, Place place) {
+    registerClass(className);
+    CreateWindowExW(exStyle, className, wide(text).c_str(), style, place.x, place.y, place.width,
+                    place.height, parent, menu, programInstance(), this);
+}
+
+void Window::createMdiChild(const wchar_t* className, DWORD style, HWND client, Place place) {
+    registerClass(className);
+    MDICREATESTRUCTW info{};
+    info.szClass = className;
+    info.szTitle = L"";
+    info.hOwner = programInstance();
+    info.x = place.x;
+    info.y = place.y;
+    info.cx = place.width;
+    info.cy = place.height;
+    info.style = style;
+    info.lParam = reinterpret_cast<LPARAM>(this);
+    SendMessageW(client, WM_MDICREATE, 0, reinterpret_cast<LPARAM>(&info));
+}
+
+void Window::destroy() {
+    if (handle_ == nullptr) return;
+    const HWND window = handle_;
+    // A window being destroyed must not run rules: from here on its messages go past the object.
+    SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+    handle_ = nullptr;
+    DestroyWindow(window);
+}
+
+LRESULT Window::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    return defaultProc(message, wParam, lParam);
+}
+
+LRESULT Window::defaultProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    return DefWindowProcW(handle_, message, wParam, lParam);
+}
+
+LRESULT CALLBACK Window::proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_NCCREATE) {
+        const auto* info = reinterpret_cast<const CREATESTRUCTW*>(lParam);
+        void* self = info->lpCreateParams;
+        if ((GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_MDICHILD) != 0) {
+            self = reinterpret_cast<void*>(static_cast<const MDICREATESTRUCTW*>(self)->lParam);
+        }
+        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
+        static_cast<Window*>(self)->handle_ = window;
+    }
+    auto* self = reinterpret_cast<Window*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (self == nullptr) return DefWindowProcW(window, message, wParam, lParam);
+    if (message == WM_NCDESTROY) {
+        const LRESULT result = self->defaultProc(message, wParam, lParam);
+        SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+        self->handle_ = nullptr;
+        return result;
+    }
+    try {
+        return self->onMessage(message, wParam, lParam);
+    } catch (const RunTimeError& error) {
+        self->host_.report(error);
+        return 0;
+    }
+}
+
+} // namespace varno::win32

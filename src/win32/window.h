@@ -1,0 +1,76 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+#include "base/run_time_error.h"
+
+namespace varno::win32 {
+
+/// What a window needs of the program around it.
+class WindowHost {
+  public:
+    virtual ~WindowHost() = default;
+    /// Takes a run-time error that stopped an event. It is shown when the event is over, never from inside
+    /// it: a message box in the middle of a focus change would change the focus again.
+    virtual void report(const RunTimeError& error) = 0;
+    /// Handles the dialog keys and accelerators of one message of the queue; true when nothing is left to do
+    /// with it.
+    virtual bool translate(MSG& message) = 0;
+};
+
+/// Hands one message of the queue to the window it belongs to.
+void dispatch(WindowHost& host, MSG& message);
+
+/// A window of a class of the program's own. It is destroyed with its object.
+class Window {
+  public:
+    explicit Window(WindowHost& host) : host_(host) {}
+    virtual ~Window();
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+
+    HWND handle() const { return handle_; }
+    bool exists() const { return handle_ != nullptr; }
+
+  protected:
+    struct Place {
+        int x = CW_USEDEFAULT;
+        int y = CW_USEDEFAULT;
+        int width = CW_USEDEFAULT;
+        int height = CW_USEDEFAULT;
+    };
+    /// Registers the class when it is new and creates the window; `menu` is the ID of a child window.
+    void create(const wchar_t* className, const std::string& text, DWORD style, DWORD exStyle, HWND parent,
+                HMENU menu, Place place);
+    /// The same as a child of an MDI client.
+    void createMdiChild(const wchar_t* className, DWORD style, HWND client, Place place);
+    void destroy();
+
+    virtual LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    virtual LRESULT defaultProc(UINT message, WPARAM wParam, LPARAM lParam);
+
+    WindowHost& host() { return host_; }
+    /// Runs one event's rules; a run-time error stops it and is reported.
+    template <typename Event>
+    void guarded(Event event) {
+        try {
+            event();
+        } catch (const RunTimeError& error) {
+            host_.report(error);
+        }
+    }
+
+  private:
+    static void registerClass(const wchar_t* className);
+    static LRESULT CALLBACK proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+    WindowHost& host_;
+    HWND handle_ = nullptr;
+};
+
+/// The instance of the program.
+HINSTANCE programInstance();
+
+} // namespace varno::win32
