@@ -1,0 +1,96 @@
+#include "input/input_form.h"
+
+namespace varno {
+
+void InputForm::changed(Control control) {
+    const ChoiceField* choice = choiceField(control.field);
+    const bool isList = choice != nullptr && choice->kind == ChoiceKind::list;
+    if (isList || textField(control.field) != nullptr) context_.markChanged();
+    // The title is saved but not calculated with.
+    if (control.field == Field::rubrik) context_.document.dataChanged = true;
+}
+
+void InputForm::lostFocus(Control control) {
+    if (const TextField* row = textField(control.field)) {
+        if (row->onLeaving == OnLeaving::marks) context_.document.dataChanged = true;
+        leaveNumber(*row, control.index);
+    } else if (const ChoiceField* choice = choiceField(control.field)) {
+        if (choice->storedOn == StoredOn::leaving) storeRow(*choice);
+    }
+}
+
+void InputForm::leaveNumber(const TextField& row, int index) {
+    DesignCase& designCase = context_.designCase;
+    if (const auto* perRuleSet = std::get_if<FactorPerRuleSet DesignCase::*>(&row.place)) {
+        leaveFactor(row, (designCase.**perRuleSet)(designCase.loadCode));
+    } else if (const auto* perCategory = std::get_if<FactorPerCategory DesignCase::*>(&row.place)) {
+        leaveFactor(row, (designCase.**perCategory)(designCase.loadCode, designCase.lokt));
+    } else if (const auto* whole = std::get_if<std::int16_t DesignCase::*>(&row.place)) {
+        leaveWhole(row, designCase.**whole);
+    } else if (std::holds_alternative<float DesignCase::*>(row.place)) {
+        spans_.leaveCantilever(row);
+    } else if (row.field == Field::upl) {
+        spans_.leaveSupport(row, index);
+    } else {
+        spans_.leaveSpanCell(row, index);
+    }
+}
+
+void InputForm::leaveFactor(const TextField& row, Factor& stored) {
+    const std::string text = context_.form.text({row.field});
+    // Left as it was shown: the factor keeps the decimals that its display lacks.
+    if (text == (stored ? context_.display(*stored, row.shownPattern) : std::string())) return;
+    const double number = asShown(VARNO1::parseNumber(text), row.pattern);
+    stored = number;
+    context_.form.setText({row.field}, context_.display(number, row.pattern));
+}
+
+void InputForm::leaveWhole(const TextField& row, std::int16_t& stored) {
+    const Control box{row.field};
+    const std::string text = context_.form.text(box);
+    // What was rewritten here may mean another number than its digits say: 23.50 is stored as 24.
+    const auto written = written_.find(row.field);
+    if (written != written_.end() && written->second == Written{text, stored}) return;
+
+    const double number = VARNO1::parseNumber(text);
+    const std::string rewritten = context_.display(number, row.pattern);
+    stored = toInteger(asShown(number, row.pattern));
+    written_[row.field] = {rewritten, stored};
+    context_.form.setText(box, rewritten);
+}
+
+void InputForm::storeRow(const ChoiceField& row) {
+    const int selected = context_.form.selectedRow(row.field);
+    std::int16_t& stored = context_.designCase.*row.place;
+    // A number without a row shows as nothing selected. It stays until the user chooses.
+    const int storedRow = stored - row.firstNumber;
+    if (selected < 0 && (storedRow < 0 || storedRow >= row.count)) return;
+    if (row.field == Field::btg && context_.designCase.loadCode != 1) return;
+    stored = static_cast<std::int16_t>(selected + row.firstNumber);
+}
+
+void InputForm::clicked(Control control) {
+    if (const ClassGroup* group = classGroupField(control.field)) {
+        loads_.classClicked(*group, control.index);
+    } else if (control.field == Field::lokt) {
+        loads_.categoryChosen(context_.form.selectedRow(Field::lokt));
+    } else if (control.field == Field::brandk) {
+        storeRow(*choiceField(Field::brandk));
+        context_.filler.showFireOptions();
+    } else if (const ChoiceField* choice = choiceField(control.field)) {
+        if (choice->kind != ChoiceKind::list) choose(*choice, control.index);
+    }
+}
+
+void InputForm::choose(const ChoiceField& row, int option) {
+    if (row.kind == ChoiceKind::checkBox) {
+        // Only a tick counts; a grey check box is a clear one.
+        context_.designCase.*row.place = option == 1 ? 1 : 0;
+    } else {
+        if (option < 1 || option > row.count) throw RunTimeError(errSubscriptOutOfRange);
+        context_.designCase.*row.place = static_cast<std::int16_t>(option);
+    }
+    context_.markChanged();
+}
+
+} // namespace varno

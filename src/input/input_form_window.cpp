@@ -1,0 +1,202 @@
+#include "input/input_form_window.h"
+
+#include <commctrl.h>
+
+#include "input/form_layout.h"
+#include "shell/control_ids.h"
+#include "win32/strings.h"
+
+namespace varno {
+
+using win32::narrow;
+using win32::wide;
+
+namespace {
+
+// The highest option a group has on the form.
+constexpr int mostOptions = 4;
+
+int classFrameOf(Field group) {
+    switch (group) {
+    case Field::shkl:
+        return classFrameId(1);
+    case Field::shklpl:
+        return classFrameId(2);
+    case Field::pkl:
+        return classFrameId(3);
+    case Field::shklfi:
+        return classFrameId(4);
+    case Field::shkldk:
+        return classFrameId(5);
+    default:
+        return classFrameId(6);
+    }
+}
+
+} // namespace
+
+InputFormWindow::InputFormWindow(win32::WindowHost& host, FormEvents& events)
+    : FormWindow(host), events_(events) {}
+
+int InputFormWindow::controlNumber(Control control) {
+    return controlId(control);
+}
+
+void InputFormWindow::create(HWND mdiClient) {
+    // Without WS_CLIPCHILDREN: a frame has no background of its own, it shows that of the form.
+    createMdiChild(L"VarnoInputForm", WS_CHILD | WS_VISIBLE, mdiClient, {0, 0, 100, 100});
+    setDpi(win32::dpiOf(mdiClient));
+    addControls(inputFormLayout());
+    SendMessageW(item(controlId({Field::rubrik})), EM_SETLIMITTEXT, 255, 0);
+    layOut();
+}
+
+SIZE InputFormWindow::naturalSize() const {
+    return {px(formWidth), px(formHeight)};
+}
+
+void InputFormWindow::changeDpi(int dpi) {
+    setDpi(dpi);
+    layOut();
+}
+
+std::string InputFormWindow::text(Control control) const {
+    return win32::textOf(this->control(control));
+}
+
+void InputFormWindow::setText(Control control, const std::string& text) {
+    // The same text again is no change: it must not mark the case, nor move the caret.
+    if (this->text(control) != text) win32::setText(this->control(control), text);
+}
+
+void InputFormWindow::setVisible(Control control, bool visible) {
+    ShowWindow(this->control(control), visible ? SW_SHOWNA : SW_HIDE);
+    // The number above a column comes and goes with it.
+    if (control.field == Field::spv) ShowWindow(item(spanHeadId(control.index)), visible ? SW_SHOWNA : SW_HIDE);
+}
+
+void InputFormWindow::setEnabled(Control control, bool enabled) {
+    EnableWindow(this->control(control), enabled);
+}
+
+void InputFormWindow::setCaption(Control control, const std::string& caption) {
+    win32::setText(this->control(control), caption);
+}
+
+void InputFormWindow::clearList(Field list) {
+    SendMessageW(control({list}), CB_RESETCONTENT, 0, 0);
+}
+
+void InputFormWindow::addRow(Field list, std::string_view row) {
+    SendMessageW(control({list}), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(wide(row).c_str()));
+}
+
+void InputFormWindow::selectRow(Field list, int row) {
+    const HWND box = control({list});
+    const bool known = row >= 0 && row < SendMessageW(box, CB_GETCOUNT, 0, 0);
+    const int wanted = known ? row : -1;
+    if (selectedRow(list) == wanted) return;
+    SendMessageW(box, CB_SETCURSEL, static_cast<WPARAM>(wanted), 0);
+    // Windows tells nothing of a row that the program chose; the change rule runs for it all the same.
+    guarded([&] { events_.changed({list}); });
+}
+
+int InputFormWindow::selectedRow(Field list) const {
+    return static_cast<int>(SendMessageW(control({list}), CB_GETCURSEL, 0, 0));
+}
+
+void InputFormWindow::selectOption(Field group, int option) {
+    for (int i = 1; i <= mostOptions; ++i) {
+        const HWND button = control({group, i});
+        if (button != nullptr)
+            SendMessageW(button, BM_SETCHECK, i == option ? BST_CHECKED : BST_UNCHECKED, 0);
+    }
+}
+
+void InputFormWindow::showGroup(Field group, bool visible) {
+    ShowWindow(item(classFrameOf(group)), visible ? SW_SHOWNA : SW_HIDE);
+    for (int i = 1; i <= mostOptions; ++i) {
+        const HWND button = control({group, i});
+        if (button != nullptr) ShowWindow(button, visible ? SW_SHOWNA : SW_HIDE);
+    }
+}
+
+void InputFormWindow::setChecked(Field box, bool checked) {
+    SendMessageW(control({box}), BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED, 0);
+}
+
+void InputFormWindow::focus(Control control) {
+    SetFocus(this->control(control));
+}
+
+void InputFormWindow::selectAll(Control control) {
+    SendMessageW(this->control(control), EM_SETSEL, 0, -1);
+}
+
+LRESULT InputFormWindow::defaultProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    return DefMDIChildProcW(handle(), message, wParam, lParam);
+}
+
+void InputFormWindow::onCommand(int id, int notification) {
+    const auto control = controlOfId(id);
+    if (!control) return;
+    const HWND window = item(id);
+    wchar_t className[16] = L"";
+    GetClassNameW(window, className, 16);
+    const std::wstring kind = className;
+    if (kind == L"Edit") {
+        if (notification == EN_CHANGE) events_.changed(*control);
+        if (notification == EN_SETFOCUS) lastFocused_ = window;
+        if (notification == EN_KILLFOCUS) events_.lostFocus(*control);
+    } else if (kind == L"ComboBox") {
+        if (notification == CBN_SETFOCUS) lastFocused_ = window;
+        if (notification == CBN_SELCHANGE) {
+            events_.changed(*control);
+            events_.clicked(*control);
+        }
+        if (notification == CBN_KILLFOCUS) events_.lostFocus(*control);
+    } else if (notification == BN_CLICKED) {
+        clickButton(*control, window);
+    }
+}
+
+void InputFormWindow::clickButton(Control control, HWND button) {
+    const auto state = static_cast<int>(SendMessageW(button, BM_GETCHECK, 0, 0));
+    if (control.field == Field::kavko) {
+        events_.clicked({control.field, state});
+    } else if (state == BST_CHECKED) {
+        // Walking through a group with the arrow keys also tells of the button that is left.
+        events_.clicked(control);
+    }
+}
+
+LRESULT InputFormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_CLOSE:
+        // The form lives as long as the main window.
+        return 0;
+    case WM_SETFOCUS:
+        SetFocus(lastFocused_ != nullptr ? lastFocused_ : item(controlId({Field::rubrik})));
+        return 0;
+    case WM_LBUTTONDOWN:
+        events_.formClicked();
+        return 0;
+    case WM_NOTIFY: {
+        const auto& header = *reinterpret_cast<const NMHDR*>(lParam);
+        if (header.code != UDN_DELTAPOS) break;
+        const auto& step = *reinterpret_cast<const NMUPDOWN*>(lParam);
+        if (step.iDelta > 0) {
+            events_.spinUp();
+        } else {
+            events_.spinDown();
+        }
+        // The control's own position means nothing; it must not run into its end.
+        return TRUE;
+    }
+    default:
+        break;
+    }
+    return FormWindow::onMessage(message, wParam, lParam);
+}
+
+} // namespace varno
