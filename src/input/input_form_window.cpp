@@ -2,6 +2,7 @@
 
 #include <commctrl.h>
 
+#include "input/form_keys.h"
 #include "input/form_layout.h"
 #include "shell/control_ids.h"
 #include "win32/strings.h"
@@ -72,7 +73,8 @@ void InputFormWindow::setText(Control control, const std::string& text) {
 void InputFormWindow::setVisible(Control control, bool visible) {
     ShowWindow(this->control(control), visible ? SW_SHOWNA : SW_HIDE);
     // The number above a column comes and goes with it.
-    if (control.field == Field::spv) ShowWindow(item(spanHeadId(control.index)), visible ? SW_SHOWNA : SW_HIDE);
+    if (control.field == Field::spv)
+        ShowWindow(item(spanHeadId(control.index)), visible ? SW_SHOWNA : SW_HIDE);
 }
 
 void InputFormWindow::setEnabled(Control control, bool enabled) {
@@ -167,6 +169,72 @@ void InputFormWindow::clickButton(Control control, HWND button) {
     } else if (state == BST_CHECKED) {
         // Walking through a group with the arrow keys also tells of the button that is left.
         events_.clicked(control);
+    }
+}
+
+void InputFormWindow::enter(HWND control) {
+    SetFocus(control);
+    // As Windows does for Tab: what is typed next replaces what is there.
+    if ((SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0)
+        SendMessageW(control, EM_SETSEL, 0, -1);
+}
+
+void InputFormWindow::focusEnd(bool last) {
+    const HWND first = GetNextDlgTabItem(handle(), nullptr, FALSE);
+    enter(last ? GetNextDlgTabItem(handle(), first, TRUE) : first);
+}
+
+bool InputFormWindow::moveOn(HWND from, bool backwards) {
+    const HWND first = GetNextDlgTabItem(handle(), nullptr, FALSE);
+    const HWND next = GetNextDlgTabItem(handle(), from, backwards);
+    if (backwards ? from == first : next == first) {
+        events_.tabbedOut();
+    } else {
+        enter(next);
+    }
+    return true;
+}
+
+bool InputFormWindow::moveInColumn(Control from, int rows) {
+    if (from.field == Field::nfack) {
+        if (rows < 0) {
+            events_.spinUp();
+        } else {
+            events_.spinDown();
+        }
+        enter(control({Field::nfack}));
+        return true;
+    }
+    // A locked box is passed over.
+    for (auto next = gridNeighbour(from, rows); next; next = gridNeighbour(*next, rows)) {
+        const HWND box = control(*next);
+        if (!IsWindowVisible(box) || !IsWindowEnabled(box)) continue;
+        enter(box);
+        return true;
+    }
+    return gridNeighbour(from, 1).has_value() || gridNeighbour(from, -1).has_value();
+}
+
+bool InputFormWindow::translateKey(const MSG& message) {
+    if (message.message != WM_KEYDOWN) return false;
+    const HWND focus = GetFocus();
+    if (focus == nullptr || GetParent(focus) != handle()) return false;
+    const auto control = controlOfId(GetDlgCtrlID(focus));
+    const bool shift = GetKeyState(VK_SHIFT) < 0;
+    switch (message.wParam) {
+    case VK_TAB:
+        if (GetKeyState(VK_CONTROL) < 0) return false;
+        return moveOn(focus, shift);
+    case VK_RETURN:
+        // An open list takes Enter itself, to close.
+        if (SendMessageW(focus, CB_GETDROPPEDSTATE, 0, 0) != 0) return false;
+        return moveOn(focus, shift);
+    case VK_UP:
+        return control && moveInColumn(*control, -1);
+    case VK_DOWN:
+        return control && moveInColumn(*control, 1);
+    default:
+        return false;
     }
 }
 

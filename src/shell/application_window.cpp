@@ -37,7 +37,11 @@ Application::Application()
     form_.create(main_.mdiClient());
     fileInfo_ = std::make_unique<FileInfoWindow>(host(), main_.handle());
     viewer_ = std::make_unique<ResultViewerWindow>(
-        host(), main_.handle(), [this] { chooseFont(); }, [this] { main_.show(form_.naturalSize()); });
+        host(), main_.handle(), [this] { chooseFont(); },
+        [this] {
+            main_.show(form_.naturalSize());
+            input_.activated();
+        });
 }
 
 Application::~Application() {
@@ -69,7 +73,27 @@ bool Application::translate(MSG& message) {
     if (root != main_.handle()) return root != nullptr && IsDialogMessageW(root, &message);
     if (TranslateMDISysAccel(main_.mdiClient(), &message)) return true;
     const bool inForm = message.hwnd == form_.handle() || IsChild(form_.handle(), message.hwnd);
-    return inForm && IsDialogMessageW(form_.handle(), &message);
+    if (!inForm) return translateFlagKey(message);
+    bool taken = false;
+    try {
+        taken = form_.translateKey(message);
+    } catch (const RunTimeError& error) {
+        report(error);
+        return true;
+    }
+    return taken || IsDialogMessageW(form_.handle(), &message);
+}
+
+// The flag stands beside the form: Tab leads there from its end, and back into it; Enter presses it.
+bool Application::translateFlagKey(const MSG& message) {
+    if (message.message != WM_KEYDOWN || message.hwnd != main_.flagButton()) return false;
+    if (message.wParam == VK_TAB) {
+        form_.focusEnd(GetKeyState(VK_SHIFT) < 0);
+        return true;
+    }
+    if (message.wParam != VK_RETURN) return false;
+    SendMessageW(message.hwnd, BM_CLICK, 0, 0);
+    return true;
 }
 
 // Main window
@@ -111,7 +135,19 @@ void Application::fileMenuOpened() {
     form_.focus({Field::rubrik});
 }
 void Application::flagClicked(int flag) {
+    const bool keyboard = GetFocus() == main_.flagButton();
     input_.flagClicked(flag);
+    // The flag that was pressed is hidden now; the next one takes its place for the next key.
+    if (keyboard) SetFocus(main_.flagButton());
+}
+
+void Application::flagMenu(POINT place) {
+    constexpr UINT swedishRules = 1;
+    const win32::UniqueMenu menu(CreatePopupMenu());
+    AppendMenuW(menu.get(), MF_STRING, swedishRules, L"Byt till svenska byggregler (BKR)");
+    const BOOL chosen =
+        TrackPopupMenu(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, place.x, place.y, 0, main_.handle(), nullptr);
+    if (chosen == static_cast<BOOL>(swedishRules)) input_.switchToSwedishRules();
 }
 
 bool Application::closing() {
@@ -155,6 +191,10 @@ void Application::spinDown() {
 }
 void Application::formClicked() {
     input_.formClicked();
+}
+
+void Application::tabbedOut() {
+    SetFocus(main_.flagButton());
 }
 
 // Document

@@ -43,6 +43,7 @@ class Application : private win32::WindowHost,
     void command(int id) override;
     void fileMenuOpened() override;
     void flagClicked(int flag) override;
+    void flagMenu(POINT place) override;
     bool closing() override;
     void dpiChanged(int dpi) override;
     void clientResized(int width, int height) override;
@@ -55,6 +56,7 @@ class Application : private win32::WindowHost,
     void spinUp() override;
     void spinDown() override;
     void formClicked() override;
+    void tabbedOut() override;
 
     // DocumentView
     SaveAnswer askToSave(const std::string& caption, const std::string& text, bool cancelOffered) override;
@@ -70,6 +72,7 @@ class Application : private win32::WindowHost,
     void setResultFont(const std::string& face) override;
 
     win32::WindowHost& host() { return *this; }
+    bool translateFlagKey(const MSG& message);
     void calculate();
     void showResult();
     void chooseFont();

@@ -1,5 +1,7 @@
 #include "shell/main_window.h"
 
+#include <windowsx.h>
+
 #include <algorithm>
 #include <cmath>
 
@@ -268,6 +270,18 @@ LRESULT MainWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_INITMENUPOPUP:
         if (reinterpret_cast<HMENU>(wParam) == fileMenu_) events_.fileMenuOpened();
         break;
+    case WM_CONTEXTMENU: {
+        if (reinterpret_cast<HWND>(wParam) != flagButton()) break;
+        POINT place{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+        if (lParam == -1) {
+            // From the keyboard: below the flag.
+            RECT box{};
+            GetWindowRect(flagButton(), &box);
+            place = {box.left, box.bottom};
+        }
+        events_.flagMenu(place);
+        return 0;
+    }
     case WM_DRAWITEM: {
         const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
         if (item.CtlType != ODT_BUTTON) break;

@@ -5,6 +5,7 @@
 
 #include "input/sketch_picture.h"
 #include "model/main_view.h"
+#include "shell/control_ids.h"
 #include "shell/toolbar_window.h"
 #include "win32/picture_window.h"
 #include "win32/unique.h"
@@ -20,6 +21,8 @@ class MainEvents {
     /// The top-level menu "Arkiv" is opened.
     virtual void fileMenuOpened() = 0;
     virtual void flagClicked(int flag) = 0;
+    /// The flag's context menu was asked for at a place of the screen.
+    virtual void flagMenu(POINT place) = 0;
     /// The close box, or Windows ending; true when the program has ended.
     virtual bool closing() = 0;
     /// The child windows are to be laid out at this resolution.
@@ -42,6 +45,8 @@ class MainWindow : public win32::Window, public MainView {
     void show(SIZE form);
     HWND mdiClient() const { return mdiClient_; }
     int dpi() const { return dpi_; }
+    /// The flag that is shown: what stands beside the form for Tab.
+    HWND flagButton() const { return GetDlgItem(handle(), idFlag + flag_); }
     /// Paints the sketch and places the support buttons as they are now.
     void sketchChanged();
     /// Later, when the current event is over, MainEvents::showRunTimeError is called.

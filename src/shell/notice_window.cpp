@@ -28,7 +28,7 @@ constexpr std::array noticeControls{
 };
 
 constexpr int disclaimerWidth = raster(560);
-constexpr int disclaimerHeight = raster(300);
+constexpr int disclaimerHeight = raster(278);
 constexpr std::array disclaimerControls{
     ControlSpec{idPicture, ControlKind::picture, "", raster(16), raster(16), raster(64), raster(64)},
     ControlSpec{idProductLabel, ControlKind::label, productLabel, raster(100), raster(18), raster(444),
@@ -38,7 +38,7 @@ constexpr std::array disclaimerControls{
         "OBS! Beräkningen anger armering endast i bjälklagsfält och innerstöd med avseende på bärförmåga för "
         "angivna laster. Annan erforderlig armering för sprickfördelning, inspänning, kantarmering eller för "
         "totalstabilitet redovisas ej.",
-        raster(100), raster(58), raster(444), raster(70)},
+        raster(100), raster(54), raster(444), raster(64)},
     ControlSpec{
         idTextTwo, ControlKind::label,
         "I detta program finns vissa begränsningar inbyggda som gör att storheter utanför vissa gränser inte "
@@ -46,8 +46,8 @@ constexpr std::array disclaimerControls{
         "olämpliga "
         "men ändå kan ge ett svar av datorn. Användare av programmet måste därför själv ansvara för att "
         "använda programmet med ett ingenjörsmässigt omdöme.",
-        raster(100), raster(138), raster(444), raster(104)},
-    ControlSpec{idOkButton, ControlKind::defaultButton, "OK", raster(235), raster(256), raster(90),
+        raster(100), raster(124), raster(444), raster(96)},
+    ControlSpec{idOkButton, ControlKind::defaultButton, "OK", raster(235), raster(234), raster(90),
                 raster(28)},
 };
 

@@ -13,6 +13,7 @@ namespace varno {
 
 Toolbar::~Toolbar() {
     if (images_ != nullptr) ImageList_Destroy(images_);
+    if (fadedImages_ != nullptr) ImageList_Destroy(fadedImages_);
 }
 
 void Toolbar::create(HWND parent) {
@@ -40,15 +41,19 @@ void Toolbar::create(HWND parent) {
 
 void Toolbar::setDpi(int dpi) {
     const int size = win32::pixels(raster(20), dpi);
-    const HIMAGELIST images =
-        ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, static_cast<int>(toolbarKeys.size()), 0);
-    for (const ToolbarKey& key : toolbarKeys) {
-        const win32::UniqueIcon icon = win32::toolbarPicture(key.key, size);
-        ImageList_ReplaceIcon(images, -1, icon.get());
-    }
-    SendMessageW(handle_, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(images));
-    if (images_ != nullptr) ImageList_Destroy(images_);
-    images_ = images;
+    const auto use = [&](HIMAGELIST& list, UINT message, bool faded) {
+        const HIMAGELIST fresh =
+            ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, static_cast<int>(toolbarKeys.size()), 0);
+        for (const ToolbarKey& key : toolbarKeys) {
+            const win32::UniqueIcon icon = win32::toolbarPicture(key.key, size, faded);
+            ImageList_ReplaceIcon(fresh, -1, icon.get());
+        }
+        SendMessageW(handle_, message, 0, reinterpret_cast<LPARAM>(fresh));
+        if (list != nullptr) ImageList_Destroy(list);
+        list = fresh;
+    };
+    use(images_, TB_SETIMAGELIST, false);
+    use(fadedImages_, TB_SETDISABLEDIMAGELIST, true);
     SendMessageW(handle_, TB_SETBUTTONSIZE, 0, MAKELPARAM(size + size * 3 / 5, size + size / 2));
     SendMessageW(handle_, TB_AUTOSIZE, 0, 0);
 }

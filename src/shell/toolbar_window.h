@@ -23,6 +23,7 @@ class Toolbar {
   private:
     HWND handle_ = nullptr;
     HIMAGELIST images_ = nullptr;
+    HIMAGELIST fadedImages_ = nullptr;
 };
 
 } // namespace varno

@@ -33,7 +33,7 @@ void GdiCanvas::line(Point from, Point to, Colour colour, int width) {
     MoveToEx(dc_, a.x, a.y, nullptr);
     LineTo(dc_, b.x, b.y);
     // A line of one pixel leaves out its last one.
-    LineTo(dc_, b.x + 1, b.y);
+    if (penWidth(width) == 1) LineTo(dc_, b.x + 1, b.y);
 }
 
 void GdiCanvas::box(Point corner, Point opposite, Colour colour, Fill fill) {

@@ -90,7 +90,7 @@ void drawSmooth(HDC dc, const RECT& box, COLORREF background, const SmoothPaint&
     BitBlt(dc, box.left, box.top, width, height, memory.get(), 0, 0, SRCCOPY);
 }
 
-UniqueIcon smoothIcon(int size, const SmoothPaint& paint) {
+UniqueIcon smoothIcon(int size, const SmoothPaint& paint, bool faded) {
     // Drawn on black and on white: where the two differ the picture is transparent, by as much as they
     // differ.
     const std::vector<Pixel> onBlack = average(size, size, RGB(0, 0, 0), paint);
@@ -100,8 +100,13 @@ UniqueIcon smoothIcon(int size, const SmoothPaint& paint) {
     for (std::size_t i = 0; i < onBlack.size(); ++i) {
         const int alpha = 255 - (onWhite[i].green - onBlack[i].green);
         const auto straight = [alpha](int value) { return alpha > 0 ? value * 255 / alpha : 0; };
-        bits.pixels[i] =
-            argb(alpha, straight(onBlack[i].red), straight(onBlack[i].green), straight(onBlack[i].blue));
+        const Pixel pixel{straight(onBlack[i].red), straight(onBlack[i].green), straight(onBlack[i].blue)};
+        if (faded) {
+            const int grey = (pixel.red * 30 + pixel.green * 59 + pixel.blue * 11) / 100;
+            bits.pixels[i] = argb(alpha * 2 / 5, grey, grey, grey);
+        } else {
+            bits.pixels[i] = argb(alpha, pixel.red, pixel.green, pixel.blue);
+        }
     }
     const UniqueBitmap mask(CreateBitmap(size, size, 1, 1, nullptr));
     {

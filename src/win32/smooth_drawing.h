@@ -16,7 +16,7 @@ using SmoothPaint = std::function<void(HDC dc, int width, int height)>;
 /// Over what is there in `box`.
 void drawSmooth(HDC dc, const RECT& box, COLORREF background, const SmoothPaint& paint);
 
-/// A square icon with a transparent background.
-UniqueIcon smoothIcon(int size, const SmoothPaint& paint);
+/// A square icon with a transparent background; `faded` is how it looks when it does nothing.
+UniqueIcon smoothIcon(int size, const SmoothPaint& paint, bool faded = false);
 
 } // namespace varno::win32

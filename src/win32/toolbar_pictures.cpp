@@ -146,11 +146,12 @@ void drawKey(Pencil& pencil, std::string_view key) {
 
 } // namespace
 
-UniqueIcon toolbarPicture(const char* key, int size) {
-    return smoothIcon(size, [key](HDC dc, int width, int) {
+UniqueIcon toolbarPicture(const char* key, int size, bool faded) {
+    const auto paint = [key](HDC dc, int width, int) {
         Pencil pencil(dc, width);
         drawKey(pencil, key);
-    });
+    };
+    return smoothIcon(size, paint, faded);
 }
 
 } // namespace varno::win32

@@ -5,6 +5,6 @@
 namespace varno::win32 {
 
 /// The picture of a toolbar button, by its key string, `size` pixels square; "folder" is a closed folder.
-UniqueIcon toolbarPicture(const char* key, int size);
+UniqueIcon toolbarPicture(const char* key, int size, bool faded = false);
 
 } // namespace varno::win32

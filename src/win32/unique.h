@@ -42,6 +42,13 @@ struct IconDestroyer {
 };
 using UniqueIcon = std::unique_ptr<HICON, IconDestroyer>;
 
+struct MenuDestroyer {
+    using pointer = HMENU;
+    void operator()(HMENU menu) const { DestroyMenu(menu); }
+};
+/// A menu that no window owns.
+using UniqueMenu = std::unique_ptr<HMENU, MenuDestroyer>;
+
 /// Selects an object into a device context for as long as it lives.
 class Selected {
   public:
