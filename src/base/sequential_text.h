@@ -10,11 +10,14 @@ namespace varno {
 
 /// Reads the bytes of a text file from front to back, field by field or line by line.
 ///
-///     file   = { field separator }
-///     field  = blanks ( quoted | plain )
-///     quoted = '"' { any byte but '"' } '"'      it may hold commas and line ends; after it blanks are
-///     skipped plain  = { any byte but ',' CR LF }        trailing blanks belong to it; a '"' inside it is an
-///     ordinary byte separator = "," | CR LF | CR | LF | end of file
+///     file      = { field separator }
+///     field     = blanks ( quoted | plain )
+///     quoted    = '"' { any byte but '"' } '"'
+///     plain     = { any byte but ',' CR LF }
+///     separator = "," | CR LF | CR | LF | end of file
+///
+/// A quoted field may hold commas and line ends; blanks behind it are skipped. Blanks behind a plain field belong
+/// to it, and a '"' inside it is an ordinary byte.
 ///
 /// What one might not expect: an empty line is an empty field, a comma at the end of a line is followed by an
 /// empty field, a quotation without its closing quote runs to the end of the file, and what follows a closing

@@ -2,9 +2,11 @@
 
 #include <commctrl.h>
 
+#include "input/accessible_names.h"
 #include "input/form_keys.h"
 #include "input/form_layout.h"
 #include "shell/control_ids.h"
+#include "win32/accessible_names.h"
 #include "win32/strings.h"
 
 namespace varno {
@@ -49,6 +51,11 @@ void InputFormWindow::create(HWND mdiClient) {
     setDpi(win32::dpiOf(mdiClient));
     addControls(inputFormLayout());
     SendMessageW(item(controlId({Field::rubrik})), EM_SETLIMITTEXT, 255, 0);
+    for (const ControlSpec& spec : inputFormLayout()) {
+        const auto known = controlOfId(spec.id);
+        const std::string name = known ? accessibleName(*known) : std::string();
+        if (!name.empty()) win32::nameForScreenReaders(item(spec.id), name);
+    }
     layOut();
 }
 

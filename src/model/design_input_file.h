@@ -10,10 +10,9 @@
 
 // The design input file: one design case as 37 lines of text in a fixed order, each ended by CR LF, all
 // single bytes. The one table below drives the reader and the writer. What one might not expect:
-//   - the two text lines carry DOS codes for the first occurrence of each Swedish letter, Windows-1252 for
-//   the rest;
-//   - a line is read as one field, so a comma in the title splits it and shifts every later value; the writer
-//   does
+//   - the two text lines carry DOS codes for the first occurrence of each Swedish letter, Windows-1252 for the
+//     rest;
+//   - a line is read as one field, so a comma in the title splits it and shifts every later value; the writer does
 //     not guard against it, because the engine and existing files know no quotes;
 //   - leading blanks of a line are skipped, also of a column line; cells are cut by byte position after that;
 //   - a number wider than its cell is cut on the right: 12345678 is read back as 1234567;

@@ -7,6 +7,14 @@
 
 namespace varno {
 
+// How a line of the file that holds one number of its own is shown.
+struct ShownLine {
+    int line;
+    Field field;
+    enum { row, option, whole, limit, check } as;
+    std::int16_t DesignCase::*value;
+};
+
 namespace {
 
 // By rule set, from 1.
@@ -17,14 +25,6 @@ constexpr std::array flags{1, 5, 2, 4, 3, 6};
 bool hasPresets(int ruleSet) {
     return ruleSet >= 1 && ruleSet <= maxLoadCode;
 }
-
-// How a line of the file that holds one number of its own is shown.
-struct ShownLine {
-    int line;
-    Field field;
-    enum { row, option, whole, limit, check } as;
-    std::int16_t DesignCase::*value;
-};
 
 constexpr std::array shownLines{
     ShownLine{5, Field::nfack, ShownLine::whole, &DesignCase::nfack},
@@ -160,25 +160,28 @@ void CaseFormFiller::lineRead(int number) {
         break;
     }
     for (const ShownLine& shown : shownLines) {
-        if (shown.line != number) continue;
-        const std::int16_t value = case_.*shown.value;
-        switch (shown.as) {
-        case ShownLine::row:
-            form_.selectRow(shown.field, value - 1);
-            break;
-        case ShownLine::option:
-            form_.selectOption(shown.field, value);
-            break;
-        case ShownLine::whole:
-            showWhole(shown.field, value);
-            break;
-        case ShownLine::limit:
-            showWhole(shown.field, value, "####");
-            break;
-        case ShownLine::check:
-            form_.setChecked(shown.field, value != 0);
-            break;
-        }
+        if (shown.line == number) showLine(shown);
+    }
+}
+
+void CaseFormFiller::showLine(const ShownLine& shown) {
+    const std::int16_t value = case_.*shown.value;
+    switch (shown.as) {
+    case ShownLine::row:
+        form_.selectRow(shown.field, value - 1);
+        break;
+    case ShownLine::option:
+        form_.selectOption(shown.field, value);
+        break;
+    case ShownLine::whole:
+        showWhole(shown.field, value);
+        break;
+    case ShownLine::limit:
+        showWhole(shown.field, value, "####");
+        break;
+    case ShownLine::check:
+        form_.setChecked(shown.field, value != 0);
+        break;
     }
 }
 

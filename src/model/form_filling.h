@@ -19,6 +19,8 @@ Field classGroup(int ruleSet);
 /// The flag picture (1..6) that stands for a rule set, 0 for a rule set without one.
 int flagOfRuleSet(int ruleSet);
 
+struct ShownLine;
+
 /// Shows the one design case in the input form: fills its lists, and follows the reader line by line.
 class CaseFormFiller : public CaseDisplay {
   public:
@@ -56,6 +58,7 @@ class CaseFormFiller : public CaseDisplay {
     void showLoadFrameCaption();
 
   private:
+    void showLine(const ShownLine& shown);
     void showWhole(Field field, int value, std::string_view pattern = "#0");
     template <typename Number>
     void showNumber(Control control, Number value, std::string_view pattern);

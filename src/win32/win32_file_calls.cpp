@@ -69,6 +69,11 @@ class WindowsFileCalls : public FileCalls {
     }
 
     void checkWritable(const std::string& path) override {
+        // The attribute is asked for itself: an administrator's open of a read-only file need not fail.
+        const DWORD attributes = GetFileAttributesW(wide(path).c_str());
+        if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0) {
+            failWith(ERROR_ACCESS_DENIED);
+        }
         const HANDLE handle =
             CreateFileW(wide(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr,
                         OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);

@@ -2,6 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
+#include "input/accessible_names.h"
+#include "input/form_layout.h"
+#include "shell/control_ids.h"
+
 namespace varno::testing {
 namespace {
 
@@ -20,6 +26,22 @@ TEST(FormKeys, TheGridHasAnEnd) {
     EXPECT_EQ(gridNeighbour({Field::upl, 1}, 1), std::nullopt);
     EXPECT_EQ(gridNeighbour({Field::konsv}, 1), std::nullopt);
     EXPECT_EQ(gridNeighbour({Field::rubrik}, 1), std::nullopt);
+}
+
+TEST(AccessibleNames, EveryBoxAndListHasANameOfItsOwn) {
+    std::set<std::string> names;
+    for (const ControlSpec& spec : inputFormLayout()) {
+        const bool spoken = spec.kind == ControlKind::edit || spec.kind == ControlKind::numberEdit ||
+                            spec.kind == ControlKind::dropDown;
+        if (!spoken) continue;
+        const auto control = controlOfId(spec.id);
+        ASSERT_TRUE(control.has_value()) << spec.id;
+        const std::string name = accessibleName(*control);
+        EXPECT_FALSE(name.empty()) << spec.id;
+        EXPECT_TRUE(names.insert(name).second) << name;
+    }
+    EXPECT_TRUE(names.contains("Upplagsbredd (m), stöd 0"));
+    EXPECT_TRUE(names.contains("Spännvidd (m), fack 10"));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <clocale>
+#include <iostream>
 #include <locale>
 #include <string>
 
@@ -18,8 +19,9 @@ class CommaLocale {
             if (std::setlocale(LC_ALL, name) == nullptr) continue;
             if (std::localeconv()->decimal_point != std::string(",")) continue;
             cLocale = name;
-            break;
+            return;
         }
+        std::cout << "No language with a decimal comma is installed: the C library keeps its point here.\n";
     }
     ~CommaLocale() {
         std::locale::global(before_);

@@ -1,0 +1,209 @@
+#include "base/numbers.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "support/comma_locale.h"
+#include "support/memory_files.h"
+
+namespace varno {
+
+namespace {
+
+using testing::errorOf;
+
+constexpr double infinite = std::numeric_limits<double>::infinity();
+
+struct NumberText {
+    std::string text;
+    double value;      ///< with the comma rule
+    double plainValue; ///< without it
+};
+
+// Good and bad texts alike: nothing is refused, and what a text means must be seen in one place.
+const NumberText numberTexts[] = {
+    // Nothing that is a number
+    {"", 0, 0},
+    {"   ", 0, 0},
+    {"abc", 0, 0},
+    {"x12", 0, 0},
+    {"-", 0, 0},
+    {"+", 0, 0},
+    {".", 0, 0},
+    {",", 0, 0},
+    {"-.", 0, 0},
+    {"--3", 0, 0},
+    {"+-3", 0, 0},
+    {"e5", 0, 0},
+    {".e5", 0, 0},
+    {"nan", 0, 0},
+    {"inf", 0, 0},
+    {"-infinity", 0, 0},
+    {"\n5", 0, 0},
+    {"\xA0"
+     "5",
+     0, 0}, // a no-break space is not a blank
+    {std::string("\0"
+                 "5",
+                 2),
+     0, 0},
+    // Whole numbers, decimals, signs
+    {"0", 0, 0},
+    {"12", 12, 12},
+    {"+12", 12, 12},
+    {"-12", -12, -12},
+    {"007", 7, 7},
+    {"6.25", 6.25, 6.25},
+    {".5", 0.5, 0.5},
+    {"-.5", -0.5, -0.5},
+    {"5.", 5, 5},
+    {"-1.500", -1.5, -1.5},
+    {"0.250  ", 0.25, 0.25},
+    {"9007199254740993", 9007199254740992.0, 9007199254740992.0},
+    // The comma: only the first one counts as a point
+    {"2,5", 2.5, 2},
+    {",5", 0.5, 0},
+    {"-,5", -0.5, 0},
+    {"1,234,5", 1.234, 1},
+    {"1,234.5", 1.234, 1},
+    {"1.5,5", 1.5, 1.5},
+    {"7,", 7, 7},
+    {"12,50 m", 12.5, 12},
+    {"abc,5", 0, 0},
+    // Blanks and tabs are skipped wherever they stand
+    {"  7.6", 7.6, 7.6},
+    {"\t7.6", 7.6, 7.6},
+    {"1 234,5", 1234.5, 1234},
+    {"- 5", -5, -5},
+    {"1 . 5", 1.5, 1.5},
+    {"2 e 3", 2000, 2000},
+    // The number ends at the first character that cannot continue it
+    {"12abc", 12, 12},
+    {"12 mm", 12, 12},
+    {"1.2.3", 1.2, 1.2},
+    {"5-3", 5, 5},
+    {"0x10", 0, 0},
+    {"1'000", 1, 1},
+    {"5\r", 5, 5},
+    {"5\n6", 5, 5},
+    {"5%", 5, 5},
+    {"3\xBD", 3, 3}, // 3½
+    {std::string("5\0"
+                 "6",
+                 3),
+     5, 5},
+    // Exponents, with E and D
+    {"1E3", 1000, 1000},
+    {"1e-3", 0.001, 0.001},
+    {"1D3", 1000, 1000},
+    {"1.5d+2", 150, 150},
+    {"1,5e2", 150, 1},
+    {"1e", 1, 1},
+    {"1e+", 1, 1},
+    {"1ex", 1, 1},
+    {"1ee5", 1, 1},
+    {"1e2.5", 100, 100},
+    {"12d abc", 12, 12},
+    // Beyond the range of a double
+    {"1e400", infinite, infinite},
+    {"-1e400", -infinite, -infinite},
+    {"1e-400", 0, 0},
+    {"0e400", 0, 0},
+    {"1e99999999999999999999", infinite, infinite},
+    {"1e-99999999999999999999", 0, 0},
+    {"0.000e99999999999999999999", 0, 0},
+};
+
+TEST(ParseNumber, TakesTheNumberThatATextBeginsWith) {
+    for (const NumberText& row : numberTexts) {
+        EXPECT_EQ(VARNO1::parseNumber(row.text), row.value) << '"' << row.text << '"';
+        EXPECT_EQ(VARNO1::plainNumber(row.text), row.plainValue) << '"' << row.text << '"';
+    }
+}
+
+TEST(ParseNumber, TakesTextsOfAnyLength) {
+    EXPECT_EQ(VARNO1::parseNumber(std::string(400, '9')), infinite);
+    EXPECT_EQ(VARNO1::parseNumber("-" + std::string(400, '9')), -infinite);
+    EXPECT_EQ(VARNO1::parseNumber("0." + std::string(400, '0') + "1"), 0);
+    EXPECT_EQ(VARNO1::parseNumber("0." + std::string(400, '0') + "1e401"), 1);
+    EXPECT_EQ(VARNO1::parseNumber(std::string(400, '0') + "7"), 7);
+    EXPECT_EQ(VARNO1::parseNumber("1" + std::string(400, '0') + "e-400"), 1);
+    EXPECT_EQ(VARNO1::parseNumber(std::string(100000, ' ') + "7"), 7);
+}
+
+TEST(ParseNumber, KeepsTheSignOfZero) {
+    EXPECT_TRUE(std::signbit(VARNO1::parseNumber("-0")));
+    EXPECT_FALSE(std::signbit(VARNO1::parseNumber("0")));
+}
+
+// A program that was started under a Swedish desktop reads and writes the same files as any other.
+TEST(Numbers, DoNotDependOnTheLocale) {
+    const testing::CommaLocale locale;
+    RecordProperty("cLocale", locale.cLocale.empty() ? "none installed" : locale.cLocale);
+    EXPECT_EQ(VARNO1::parseNumber("1.5"), 1.5);
+    EXPECT_EQ(VARNO1::parseNumber("1,5"), 1.5);
+    EXPECT_EQ(VARNO1::plainNumber("1,5"), 1);
+    EXPECT_EQ(formatNumber(1234.5, "##0.000"), "1234.500");
+    EXPECT_EQ(formatNumber(1234567.5f, "##,##0.00"), "1,234,567.50");
+    EXPECT_EQ(generalForm(1.25f), "1.25");
+    EXPECT_EQ(generalForm(1.5e-7), "1.5E-07");
+}
+
+TEST(ToInteger, RoundsTiesToEvenInto16Bits) {
+    const struct {
+        double value;
+        int whole;
+    } rows[] = {
+        {0, 0},
+        {0.4, 0},
+        {0.5, 0},
+        {0.50000001, 1},
+        {1.5, 2},
+        {2.5, 2},
+        {22.5, 22},
+        {23.5, 24},
+        {7.6, 8},
+        {-0.5, 0},
+        {-1.5, -2},
+        {-2.5, -2},
+        {-7.6, -8},
+        {32767, 32767},
+        {32767.4999, 32767},
+        {-32768, -32768},
+        {-32768.5, -32768},
+        {-1e-300, 0},
+        {0.49999999999999994, 0},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(toInteger(row.value), row.whole) << row.value;
+}
+
+TEST(ToInteger, OverflowsOutside16Bits) {
+    for (const double value : {32767.5, 32768.0, 65536.0, 1e300, -32768.6, -32769.0, -1e300, infinite,
+                               -infinite, std::numeric_limits<double>::quiet_NaN()}) {
+        EXPECT_EQ(errorOf([&] { toInteger(value); }), errOverflow) << value;
+    }
+}
+
+TEST(ToSingle, RoundsToSinglePrecision) {
+    constexpr double largest = std::numeric_limits<float>::max();
+    EXPECT_EQ(toSingle(0.1), 0.1f);
+    EXPECT_EQ(toSingle(-5.3), -5.3f);
+    EXPECT_EQ(toSingle(largest), std::numeric_limits<float>::max());
+    EXPECT_EQ(toSingle(std::nextafter(largest, infinite)), std::numeric_limits<float>::max());
+    EXPECT_EQ(toSingle(1e-60), 0.0f);
+}
+
+TEST(ToSingle, OverflowsBeyondTheLargestSingle) {
+    const double midway = std::ldexp(2.0 - std::ldexp(1.0, -24), 127);
+    EXPECT_EQ(toSingle(std::nextafter(midway, 0.0)), std::numeric_limits<float>::max());
+    for (const double value :
+         {midway, -midway, 3.5e38, -1e300, infinite, std::numeric_limits<double>::quiet_NaN()})
+        EXPECT_EQ(errorOf([&] { toSingle(value); }), errOverflow) << value;
+}
+
+} // namespace
+
+} // namespace varno
