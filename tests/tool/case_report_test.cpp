@@ -1,0 +1,190 @@
+#include "tool/case_report.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "support/case_files.h"
+#include "tool/case_words.h"
+#include "tool/text_table.h"
+
+namespace varno {
+
+namespace {
+
+tool::LoadedCase loadedOf(const testing::CaseFile& caseFile) {
+    tool::LoadedCase loaded{caseFile.designCase, {}, caseFile.title};
+    loaded.document.currentFileName = caseFile.name;
+    return loaded;
+}
+
+std::string reportWith(const std::function<void(DesignCase&)>& change) {
+    tool::LoadedCase loaded = loadedOf(testing::sampleCase());
+    change(loaded.designCase);
+    return tool::caseReport(loaded);
+}
+
+void expectLine(const std::string& report, const std::string& line) {
+    EXPECT_NE(report.find("\n" + line + "\n"), std::string::npos) << '"' << line << "\" is not in\n"
+                                                                  << report;
+}
+
+constexpr const char* sampleReport = R"(NAMNLÖS.IND
+===========
+Bärlägg för Ångström
+
+Lastförutsättningar
+  Lastregler                    Eurokod Sverige
+  Pålitlighetsklass             2
+  Lastkategori                  B-Kontor
+  Lastkombination               6.10 a och 6.10 b
+  Partialkoefficient λG         1,35
+  Reduktionsfaktor ξ            0,89
+  Partialkoefficient λQ         1,50
+  Lastfaktorer ψ0, ψ1, ψ2       0,70  0,50  0,30
+
+Fack (3)
+  Fack  Spännvidd  Plattjocklek  Permanent last  Variabel last
+                m             m           kN/m²          kN/m²
+     1      6,00          0,170           0,50           2,50
+     2     12,50          0,200           1,00           3,00
+     3      0,25          0,175          -1,50           4,00
+
+Upplag och konsoler
+  Upplag  Bredd
+              m
+       0  0,000
+       1  0,100
+       2  0,250
+       3  0,000
+  Konsol vänster                1,20 m
+  Konsol höger                  saknas
+
+Linjelaster (2)
+  Nr  Fack  Avstånd    Last
+                  m    kN/m
+   1     1    2,50   10,00
+   2     3    0,125   7,75
+
+Betong och armering
+  Betongklass                   C25/30
+  Överkant: stål fyk            400 MPa
+  Överkant: stångdiameter       ø 12
+  Överkant: täckande skikt      22 mm
+  Överkant: avkortning          ja
+  Underkant: stål fyk           600 MPa
+  Underkant: stångdiameter      ø 16
+  Underkant: avst. tyngdpunkt   42 mm
+
+Brand
+  Brandklass                    Brandteknisk klass
+  Beräkningsmetod               REI 60
+  Undertak                      Saknas
+
+Deformation
+  Laster                        Karakteristiska laster
+  Initiell nedböjning           L / 400
+  Tillkommande nedböjning       L / 300
+  Överhöjning                   20 mm
+)";
+
+TEST(CaseReport, ShowsACaseAsAPersonWouldReadIt) {
+    EXPECT_EQ(tool::caseReport(loadedOf(testing::sampleCase())), sampleReport);
+}
+
+TEST(CaseReport, ShowsNumbersOutsideTheListsAsNumbers) {
+    const std::string report = reportWith([](DesignCase& c) {
+        c.safetyClass(3) = 0;
+        c.lastkomb = 4;
+        c.btg = 10;
+        c.aok = 0;
+        c.dok = 6;
+        c.auk = -1;
+        c.duk = 0;
+        c.brandk = 3;
+        c.brandb = 5;
+        c.kutak = 0;
+        c.brukskomb = 9;
+        c.initiell = 0;
+        c.kavko = 0;
+    });
+    expectLine(report, "  Pålitlighetsklass             0");
+    expectLine(report, "  Lastkombination               4");
+    expectLine(report, "  Betongklass                   10");
+    expectLine(report, "  Överkant: stål fyk            0");
+    expectLine(report, "  Överkant: stångdiameter       6");
+    expectLine(report, "  Underkant: stål fyk           -1");
+    expectLine(report, "  Brandklass                    3");
+    expectLine(report, "  Beräkningsmetod               5");
+    expectLine(report, "  Undertak                      0");
+    expectLine(report, "  Laster                        9");
+    expectLine(report, "  Initiell nedböjning           anges ej");
+    expectLine(report, "  Överkant: avkortning          nej");
+}
+
+TEST(CaseReport, ShowsACaseWithoutRulesAndLineLoads) {
+    const std::string report = reportWith([](DesignCase& c) {
+        c.loadCode = 0;
+        c.nllast = 0;
+        c.nfack = 0;
+    });
+    expectLine(report, "  Lastregler                    0");
+    expectLine(report, "  Partialkoefficient λG         –");
+    expectLine(report, "Linjelaster (0)\n  Inga");
+}
+
+TEST(CaseReport, ShowsAllSpansAndNoMoreLineLoadsThanThereAre) {
+    const std::string report = reportWith([](DesignCase& c) {
+        c.nfack = 15;
+        c.spv(15) = 7.125f;
+        c.nllast = 7;
+    });
+    expectLine(report, "    15      7,125         0,000           0,00           0,00");
+    expectLine(report, "   5     0    0,00    0,00");
+    EXPECT_EQ(report.find("   6     0"), std::string::npos);
+}
+
+TEST(CaseWords, NameTheRuleSets) {
+    const char* names[] = {"0",
+                           "BKR (svenska byggregler)",
+                           "Eurokod Polen",
+                           "Eurokod Sverige",
+                           "Eurokod Finland",
+                           "Eurokod Danmark",
+                           "Eurokod allmän",
+                           "7"};
+    const char* captions[] = {"Säkerhetsklass", "Säkerhetsklass",       "Säkerhetsklass", "Pålitlighetsklass",
+                              "Säkerhetsklass", "Konstruktionssklasse", "Säkerhetsklass", "Säkerhetsklass"};
+    const char* secondClass[] = {"2", "2", "RC2", "2", "RC2", "2", "RC2", "2"};
+    for (int ruleSet = 0; ruleSet <= 7; ++ruleSet) {
+        EXPECT_EQ(tool::ruleSetWords(ruleSet), names[ruleSet]);
+        EXPECT_EQ(tool::classCaption(ruleSet), captions[ruleSet]);
+        EXPECT_EQ(tool::classWords(ruleSet, 2), secondClass[ruleSet]);
+    }
+}
+
+TEST(CaseWords, NameTheChoices) {
+    EXPECT_EQ(tool::loadCategoryWords(0), "Valfri last");
+    EXPECT_EQ(tool::loadCategoryWords(1), "A-Bostäder");
+    EXPECT_EQ(tool::loadCategoryWords(9), "D2");
+    EXPECT_EQ(tool::loadCombinationWords(1), "6.10 a");
+    EXPECT_EQ(tool::loadCombinationWords(2), "6.10 b");
+    EXPECT_EQ(tool::serviceCombinationWords(1), "Frekventa laster");
+    EXPECT_EQ(tool::ceilingWords(2), "13 Gips");
+    EXPECT_EQ(tool::fireMethodWords(1, 4), "REI 120");
+    EXPECT_EQ(tool::fireMethodWords(2, 1), "100 MJ/m²");
+    EXPECT_EQ(tool::fireMethodWords(2, 4), "250 MJ/m²");
+}
+
+TEST(TextTable, AlignsCharactersAndNotBytes) {
+    tool::TextTable table;
+    table.addRow({"Å", "bb"});
+    table.addRow({"ccc", "ö", ""});
+    EXPECT_EQ(table.text(1), "   Å  bb\n ccc   ö\n");
+    EXPECT_EQ(tool::widthOf("Åäö €"), 5u);
+    EXPECT_EQ(tool::TextTable().text(2), "");
+}
+
+} // namespace
+
+} // namespace varno

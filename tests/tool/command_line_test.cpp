@@ -1,0 +1,101 @@
+#include "tool/command_line.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "support/case_files.h"
+#include "support/memory_files.h"
+
+namespace varno {
+
+namespace {
+
+class CommandLine : public ::testing::Test {
+  protected:
+    int run(const std::vector<std::string>& arguments) {
+        out.str("");
+        err.str("");
+        return tool::runTool(arguments, files, out, err);
+    }
+
+    testing::MemoryFiles files;
+    std::ostringstream out;
+    std::ostringstream err;
+};
+
+TEST_F(CommandLine, RunsItsCommands) {
+    files.content["Åäö prov/A.IND"] = testing::sampleFile();
+    files.content["A.res"] = "text\r\n";
+    EXPECT_EQ(run({"json", "Åäö prov/A.IND"}), 0);
+    EXPECT_TRUE(out.str().starts_with("{\n  \"currentFileName\": \"NAMNLÖS\",\n"));
+    EXPECT_EQ(run({"show", "Åäö prov/A.IND"}), 0);
+    EXPECT_TRUE(out.str().starts_with("NAMNLÖS.IND\n"));
+    EXPECT_EQ(run({"result", "A.res"}), 0);
+    EXPECT_EQ(out.str(), "\r\ntext");
+    EXPECT_EQ(run({"rewrite", "Åäö prov/A.IND", "/B.IND"}), 0);
+    EXPECT_EQ(out.str(), "");
+    EXPECT_EQ(files.content["/B.IND"], testing::sampleFile());
+    EXPECT_EQ(err.str(), "");
+}
+
+TEST_F(CommandLine, TellsARunTimeErrorAndEndsWith1) {
+    EXPECT_EQ(run({"json", "MISSING.IND"}), 1);
+    EXPECT_EQ(err.str(), "run-time error 52: Bad file name or number\n");
+    EXPECT_EQ(out.str(), "");
+    files.content["A.IND"] = testing::sampleFileWith(3, "7");
+    EXPECT_EQ(run({"show", "A.IND"}), 1);
+    EXPECT_EQ(err.str(), "run-time error 9: Subscript out of range\n");
+    files.content["A.IND"] = testing::sampleFileWith(5, "99999");
+    EXPECT_EQ(run({"json", "A.IND"}), 1);
+    EXPECT_EQ(err.str(), "run-time error 6: Overflow\n");
+    files.content["A.IND"] = "A\r\n";
+    EXPECT_EQ(run({"rewrite", "A.IND", "A.IND"}), 1);
+    EXPECT_EQ(err.str(), "run-time error 62: Input past end of file\n");
+    EXPECT_EQ(files.content["A.IND"], "A\r\n");
+}
+
+TEST_F(CommandLine, TellsAFileErrorOnceAndEnds) {
+    files.fault = [](const std::string&, const std::string&) { return errPathNotFound; };
+    EXPECT_EQ(run({"json", "X:\\A.IND"}), 1);
+    EXPECT_EQ(err.str(), "Disk Error: Path Does Not Exist\nrun-time error 52: Bad file name or number\n");
+}
+
+TEST_F(CommandLine, WrongUsageEndsWith2) {
+    const std::vector<std::string> wrong[] = {
+        {},
+        {"nonsense"},
+        {"json"},
+        {"json", "a", "b"},
+        {"rewrite", "a"},
+        {"result"},
+        {"rewrite", "a", "b", "c"},
+        {"--nonsense"},
+        {"json", "--nonsense", "a"},
+        {"show"},
+        {"json", "a", "show", "b"},
+    };
+    for (const auto& arguments : wrong) {
+        EXPECT_EQ(run(arguments), 2) << ::testing::PrintToString(arguments);
+        EXPECT_TRUE(err.str().starts_with("Fel användning.\n"));
+        EXPECT_NE(err.str().find("Användning: varnotool"), std::string::npos) << err.str();
+        EXPECT_EQ(out.str(), "");
+    }
+    EXPECT_TRUE(files.calls.empty());
+}
+
+TEST_F(CommandLine, ExplainsItselfInSwedish) {
+    EXPECT_EQ(run({"--help"}), 0);
+    for (const char* part : {"Användning: varnotool [VAL] KOMMANDO", "json", "rewrite", "result", "show",
+                             "Visar den här hjälpen"})
+        EXPECT_NE(out.str().find(part), std::string::npos) << part;
+    EXPECT_EQ(err.str(), "");
+    EXPECT_EQ(run({"rewrite", "--help"}), 0);
+    EXPECT_NE(out.str().find("Användning: varnotool rewrite [VAL] IN UT"), std::string::npos) << out.str();
+    for (const char* english : {"Usage", "Options", "OPTIONS", "REQUIRED", "TEXT", "Positionals"})
+        EXPECT_EQ(out.str().find(english), std::string::npos) << english;
+}
+
+} // namespace
+
+} // namespace varno

@@ -1,0 +1,62 @@
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <sys/wait.h>
+
+#include "support/case_files.h"
+#include "support/temporary_folder.h"
+
+// The real program: what only it can get wrong, its exit codes and its streams.
+namespace varno {
+
+namespace {
+
+class Program : public ::testing::Test {
+  protected:
+    // `arguments` go through the shell.
+    int run(const std::string& arguments) {
+        const std::string command =
+            "'" VARNOTOOL "' " + arguments + " >'" + folder.path("out") + "' 2>'" + folder.path("err") + "'";
+        const int status = std::system(command.c_str());
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+    std::string quoted(const std::string& name) const { return "'" + folder.path(name) + "'"; }
+
+    testing::TemporaryFolder folder;
+};
+
+TEST_F(Program, Ends0AndPrintsUtf8) {
+    folder.write("Å.IND", testing::sampleFile());
+    EXPECT_EQ(run("json " + quoted("Å.IND")), 0);
+    EXPECT_TRUE(folder.read("out").starts_with("{\n  \"currentFileName\": \"NAMNLÖS\",\n"));
+    EXPECT_EQ(folder.read("err"), "");
+    EXPECT_EQ(run("rewrite " + quoted("Å.IND") + " " + quoted("Ö.IND")), 0);
+    EXPECT_EQ(folder.read("Ö.IND"), testing::sampleFile());
+    EXPECT_EQ(run("--help"), 0);
+}
+
+TEST_F(Program, Ends1AtARunTimeError) {
+    EXPECT_EQ(run("json " + quoted("saknas.IND")), 1);
+    EXPECT_EQ(folder.read("err"), "run-time error 52: Bad file name or number\n");
+    EXPECT_EQ(folder.read("out"), "");
+}
+
+TEST_F(Program, Ends2AtWrongUsage) {
+    EXPECT_EQ(run(""), 2);
+    EXPECT_EQ(run("nonsense"), 2);
+    EXPECT_TRUE(folder.read("err").starts_with("Fel användning.\n"));
+    EXPECT_EQ(folder.read("out"), "");
+}
+
+TEST_F(Program, Ends1WhenItsOutputIsLost) {
+    folder.write("A.IND", testing::sampleFile());
+    const std::string command = "'" VARNOTOOL "' json " + quoted("A.IND") + " >/dev/full 2>" + quoted("err");
+    const int status = std::system(command.c_str());
+    ASSERT_TRUE(WIFEXITED(status));
+    EXPECT_EQ(WEXITSTATUS(status), 1);
+    EXPECT_EQ(folder.read("err"), "run-time error 57: Device I/O error\n");
+}
+
+} // namespace
+
+} // namespace varno

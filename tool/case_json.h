@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+#include "tool/commands.h"
+
+namespace varno::tool {
+
+/// The case as one JSON object, UTF-8: the record's fields by their names, arrays in their full index range
+/// from 0. A number is the shortest decimal that reads back as the same single or double, an empty factor
+/// cell is null.
+std::string caseJson(const LoadedCase& loaded);
+
+} // namespace varno::tool

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+#include "tool/commands.h"
+
+namespace varno::tool {
+
+/// The case in readable Swedish, UTF-8 with LF: choices in words, spans, supports and line loads as tables,
+/// decimal commas. Only what is in use is shown; numbers that the file can hold are not rounded away.
+std::string caseReport(const LoadedCase& loaded);
+
+} // namespace varno::tool

@@ -1,0 +1,64 @@
+#include "tool/commands.h"
+
+#include <ostream>
+
+#include "model/design_input_file.h"
+#include "model/reference_tables.h"
+#include "results/result_text.h"
+#include "tool/case_json.h"
+#include "tool/case_report.h"
+
+namespace varno::tool {
+
+namespace {
+
+constexpr std::int16_t forOutput = 1;
+constexpr std::int16_t forInput = 2;
+
+class TitleKeeper : public CaseDisplay {
+  public:
+    explicit TitleKeeper(std::string& title) : title_(title) {}
+    void setTitle(const std::string& title) override { title_ = title; }
+
+  private:
+    std::string& title_;
+};
+
+} // namespace
+
+MessageAnswer ConsoleBoxes::show(const std::string& text, int style, const std::string& title) {
+    err_ << title << (title.empty() ? "" : ": ") << text << '\n';
+    return style == msgYesNo ? MessageAnswer::no : MessageAnswer::cancel;
+}
+
+LoadedCase loadCase(FileOpener& opener, const std::string& path) {
+    LoadedCase loaded;
+    presetDesignCase(loaded.designCase);
+    TitleKeeper display(loaded.title);
+    File file = opener.openFile(path, forInput);
+    VARNO1::readDesignCase(file, loaded.designCase, loaded.document, display);
+    file.close();
+    return loaded;
+}
+
+void printJson(FileOpener& opener, const std::string& path, std::ostream& out) {
+    out << caseJson(loadCase(opener, path));
+}
+
+void rewriteCase(FileOpener& opener, const std::string& from, const std::string& to) {
+    const LoadedCase loaded = loadCase(opener, from);
+    File file = opener.openFile(to, forOutput);
+    VARNO1::writeDesignCase(file, loaded.designCase, loaded.document, loaded.title);
+    file.close();
+}
+
+void printResult(FileOpener& opener, const std::string& path, std::ostream& out) {
+    File file = opener.openFile(path, forInput);
+    out << decodeWindows1252(VARNO1::readResultText(file));
+}
+
+void printReport(FileOpener& opener, const std::string& path, std::ostream& out) {
+    out << caseReport(loadCase(opener, path));
+}
+
+} // namespace varno::tool
