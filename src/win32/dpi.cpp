@@ -62,6 +62,8 @@ UniqueFont fontOf(const wchar_t* face, int points, int dpi) {
     font.lfHeight = -MulDiv(points, dpi, 72);
     font.lfCharSet = DEFAULT_CHARSET;
     font.lfWeight = FW_NORMAL;
+    // Where the face is not installed, another of fixed pitch takes its place: results are laid out for one.
+    font.lfPitchAndFamily = FIXED_PITCH | FF_MODERN;
     std::wcsncpy(font.lfFaceName, face, LF_FACESIZE - 1);
     return UniqueFont(CreateFontIndirectW(&font));
 }
