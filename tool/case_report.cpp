@@ -66,9 +66,9 @@ std::string rules(const DesignCase& c) {
     section.add(classCaption(c.loadCode), classWords(c.loadCode, c.safetyClass(c.loadCode)));
     section.add("Lastkategori", loadCategoryWords(c.lokt));
     section.add("Lastkombination", loadCombinationWords(c.lastkomb));
-    section.add("Partialkoefficient λG", factorText(c.lambdaG(c.loadCode)));
+    section.add("Partialkoefficient γG", factorText(c.lambdaG(c.loadCode)));
     section.add("Reduktionsfaktor ξ", factorText(c.ksi(c.loadCode)));
-    section.add("Partialkoefficient λQ", factorText(c.lambdaQ(c.loadCode)));
+    section.add("Partialkoefficient γQ", factorText(c.lambdaQ(c.loadCode)));
     section.add("Lastfaktorer ψ0, ψ1, ψ2", factorText(c.psi0(c.loadCode, c.lokt)) + "  " +
                                                factorText(c.psi1(c.loadCode, c.lokt)) + "  " +
                                                factorText(c.psi2(c.loadCode, c.lokt)));

@@ -99,8 +99,8 @@ bool Application::translateFlagKey(const MSG& message) {
 // Main window
 
 void Application::command(int id) {
-    // As opening "Arkiv" does, every command first ends the editing of the field that has the focus.
-    form_.focus({Field::rubrik});
+    // However a file command was given: what is being typed belongs to the case it works on.
+    if (id >= idNew && id <= idExit) endTyping();
     switch (id) {
     case idNew:
         document_.newCase(settings_.workFolder);
@@ -131,7 +131,7 @@ void Application::command(int id) {
     }
 }
 
-void Application::fileMenuOpened() {
+void Application::endTyping() {
     form_.focus({Field::rubrik});
 }
 void Application::flagClicked(int flag) {
@@ -145,13 +145,13 @@ void Application::flagMenu(POINT place) {
     constexpr UINT swedishRules = 1;
     const win32::UniqueMenu menu(CreatePopupMenu());
     AppendMenuW(menu.get(), MF_STRING, swedishRules, L"Byt till svenska byggregler (BKR)");
-    const BOOL chosen =
-        TrackPopupMenu(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, place.x, place.y, 0, main_.handle(), nullptr);
+    const BOOL chosen = TrackPopupMenu(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, place.x, place.y, 0,
+                                       main_.handle(), nullptr);
     if (chosen == static_cast<BOOL>(swedishRules)) input_.switchToSwedishRules();
 }
 
 bool Application::closing() {
-    form_.focus({Field::rubrik});
+    endTyping();
     document_.exit();
     return ended_;
 }

@@ -41,7 +41,7 @@ class Application : private win32::WindowHost,
 
     // MainEvents
     void command(int id) override;
-    void fileMenuOpened() override;
+    void endTyping() override;
     void flagClicked(int flag) override;
     void flagMenu(POINT place) override;
     bool closing() override;

@@ -253,6 +253,8 @@ LRESULT MainWindow::onCommand(WPARAM wParam, LPARAM lParam) {
         return 0;
     }
     if (commands_.contains(id)) {
+        // A toolbar button leaves the focus where it is; the field being typed in is ended as "Arkiv" ends it.
+        if (reinterpret_cast<HWND>(lParam) == toolbar_.handle()) events_.endTyping();
         events_.command(id);
         return 0;
     }
@@ -268,7 +270,7 @@ LRESULT MainWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_COMMAND:
         return onCommand(wParam, lParam);
     case WM_INITMENUPOPUP:
-        if (reinterpret_cast<HMENU>(wParam) == fileMenu_) events_.fileMenuOpened();
+        if (reinterpret_cast<HMENU>(wParam) == fileMenu_) events_.endTyping();
         break;
     case WM_CONTEXTMENU: {
         if (reinterpret_cast<HWND>(wParam) != flagButton()) break;

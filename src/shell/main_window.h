@@ -18,8 +18,9 @@ class MainEvents {
   public:
     virtual ~MainEvents() = default;
     virtual void command(int id) = 0;
-    /// The top-level menu "Arkiv" is opened.
-    virtual void fileMenuOpened() = 0;
+    /// The top-level menu "Arkiv" is opened, or a toolbar button pressed: the field being typed in loses the focus
+    /// before any command runs.
+    virtual void endTyping() = 0;
     virtual void flagClicked(int flag) = 0;
     /// The flag's context menu was asked for at a place of the screen.
     virtual void flagMenu(POINT place) = 0;

@@ -38,9 +38,9 @@ Lastförutsättningar
   Pålitlighetsklass             2
   Lastkategori                  B-Kontor
   Lastkombination               6.10 a och 6.10 b
-  Partialkoefficient λG         1,35
+  Partialkoefficient γG         1,35
   Reduktionsfaktor ξ            0,89
-  Partialkoefficient λQ         1,50
+  Partialkoefficient γQ         1,50
   Lastfaktorer ψ0, ψ1, ψ2       0,70  0,50  0,30
 
 Fack (3)
@@ -129,7 +129,7 @@ TEST(CaseReport, ShowsACaseWithoutRulesAndLineLoads) {
         c.nfack = 0;
     });
     expectLine(report, "  Lastregler                    0");
-    expectLine(report, "  Partialkoefficient λG         –");
+    expectLine(report, "  Partialkoefficient γG         –");
     expectLine(report, "Linjelaster (0)\n  Inga");
 }
 
