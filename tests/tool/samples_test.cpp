@@ -11,9 +11,14 @@ namespace varno {
 
 namespace {
 
+// The folder's name is UTF-8, whatever the code page of the system is.
+std::filesystem::path sampleFolder() {
+    return reinterpret_cast<const char8_t*>(VARNO_SAMPLES);
+}
+
 std::vector<std::filesystem::path> samples() {
     std::vector<std::filesystem::path> found;
-    for (const auto& entry : std::filesystem::directory_iterator(VARNO_SAMPLES)) {
+    for (const auto& entry : std::filesystem::directory_iterator(sampleFolder())) {
         const auto extension = entry.path().extension();
         if (extension == ".IND" || extension == ".def") found.push_back(entry.path());
     }
