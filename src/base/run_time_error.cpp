@@ -30,6 +30,7 @@ constexpr std::array errorTexts{
     ErrorText{errDiskNotReady, "Disk not ready"},
     ErrorText{errPathFileAccess, "Path/File access error"},
     ErrorText{errPathNotFound, "Path not found"},
+    ErrorText{errPrinter, "Printer error"},
 };
 
 struct WindowsCode {

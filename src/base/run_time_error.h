@@ -24,6 +24,7 @@ enum RunTimeErrorNumber : int {
     errDiskNotReady = 71,
     errPathFileAccess = 75,
     errPathNotFound = 76,
+    errPrinter = 482,
 };
 
 /// The one exception type of the program: a numbered run-time error. An error that no command handles stops

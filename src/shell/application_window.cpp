@@ -4,9 +4,9 @@
 #include <set>
 
 #include "base/run_time_error.h"
-#include "results/font_choice.h"
-#include "results/result_viewer.h"
+#include "shell/application_parts_window.h"
 #include "shell/control_ids.h"
+#include "shell/help_contexts_window.h"
 #include "shell/save_prompt_window.h"
 #include "win32/dpi.h"
 #include "win32/printer_fonts.h"
@@ -17,7 +17,10 @@ namespace varno {
 namespace {
 
 // The menu items that have a command.
-const std::set<int> commands{idNew, idOpen, idSave, idSaveAs, idExit, idRun, idShowResult, idImportant};
+const std::set<int> commands{idNew,          idOpen,          idSave,         idSaveAs,     idPrint,
+                             idPrinterSetup, idExit,          idLineLoads,    idRun,        idShowResult,
+                             idPrintResult,  idDeleteResults, idDeleteInputs, idDeleteBoth, idMoment,
+                             idImportant,    idFreeLineLoads};
 
 constexpr const char* errorTitle = "Varno";
 
@@ -31,20 +34,21 @@ Application::Application()
     : locale_(win32::userNumberLocale()), files_(systemFileCalls(), boxes_), fileDialog_(folders_, boxes_),
       main_(*this, *this, picture_), form_(*this, *this),
       sketch_(case_, picture_.loadPicture, picture_.slabStrip, picture_, [this] { main_.sketchChanged(); }),
-      filler_(case_, form_, main_, locale_, [this] { sketch_.fullRefresh(); }), input_(inputContext()),
-      document_(case_, state_, filler_, form_, main_, files_, fileDialog_, boxes_, *this) {
+      filler_(case_, form_, main_, locale_, [this] { caseShown(); }), input_(inputContext()),
+      document_(case_, state_, filler_, form_, main_, files_, fileDialog_, boxes_, *this),
+      printing_(files_, boxes_, main_, printer_), deletion_(folders_, systemFileCalls()),
+      diagram_(case_, sketch_) {
     main_.create(commands);
     form_.create(main_.mdiClient());
+    setHelpContexts(main_.handle(), form_.handle());
+    helpSystem_.setOwner(main_.handle());
     fileInfo_ = std::make_unique<FileInfoWindow>(host(), main_.handle());
     viewer_ = std::make_unique<ResultViewerWindow>(
-        host(), main_.handle(), [this] { chooseFont(); },
-        [this] {
-            main_.show(form_.naturalSize());
-            input_.activated();
-        });
+        host(), main_.handle(), [this] { chooseFont(); }, [this] { showForm(); });
 }
 
 Application::~Application() {
+    help_.close();
     listening_ = false;
 }
 
@@ -69,6 +73,7 @@ void Application::report(const RunTimeError& error) {
 }
 
 bool Application::translate(MSG& message) {
+    if (translateHelpKey(message)) return true;
     const HWND root = GetAncestor(message.hwnd, GA_ROOT);
     if (root != main_.handle()) return root != nullptr && IsDialogMessageW(root, &message);
     if (TranslateMDISysAccel(main_.mdiClient(), &message)) return true;
@@ -82,6 +87,15 @@ bool Application::translate(MSG& message) {
         return true;
     }
     return taken || IsDialogMessageW(form_.handle(), &message);
+}
+
+bool Application::translateHelpKey(const MSG& message) {
+    // Windows posts this one besides the key itself; it would end as WM_HELP and show the help twice.
+    constexpr UINT keyF1 = 0x004D;
+    if (message.message == keyF1) return true;
+    if (message.message != WM_KEYDOWN || message.wParam != VK_F1) return false;
+    help_.show(helpTopicOfFocus(message.hwnd), settings_.workFolder);
+    return true;
 }
 
 // The flag stands beside the form: Tab leads there from its end, and back into it; Enter presses it.
@@ -117,11 +131,34 @@ void Application::command(int id) {
     case idExit:
         document_.exit();
         break;
+    case idPrint:
+        printChosen();
+        break;
+    case idPrinterSetup:
+        setUpPrinter();
+        break;
+    case idLineLoads:
+        openLineLoads(lineLoads_, caseLineLoads);
+        break;
+    case idFreeLineLoads:
+        openLineLoads(freeLoads_, freeLineLoads);
+        break;
     case idRun:
         calculate();
         break;
     case idShowResult:
         showResult();
+        break;
+    case idPrintResult:
+        printCurrent();
+        break;
+    case idDeleteResults:
+    case idDeleteInputs:
+    case idDeleteBoth:
+        deleteFiles(deletionMenu[static_cast<std::size_t>(id - idDeleteResults)].pattern);
+        break;
+    case idMoment:
+        showMoments();
         break;
     case idImportant:
         showImportant();
@@ -141,13 +178,26 @@ void Application::flagClicked(int flag) {
     if (keyboard) SetFocus(main_.flagButton());
 }
 
-void Application::flagMenu(POINT place) {
-    constexpr UINT swedishRules = 1;
+namespace {
+
+// A context menu with one item; true when it was chosen.
+bool chosenFromMenu(HWND owner, POINT place, const wchar_t* caption) {
+    constexpr UINT item = 1;
     const win32::UniqueMenu menu(CreatePopupMenu());
-    AppendMenuW(menu.get(), MF_STRING, swedishRules, L"Byt till svenska byggregler (BKR)");
-    const BOOL chosen = TrackPopupMenu(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, place.x, place.y, 0,
-                                       main_.handle(), nullptr);
-    if (chosen == static_cast<BOOL>(swedishRules)) input_.switchToSwedishRules();
+    AppendMenuW(menu.get(), MF_STRING, item, caption);
+    return TrackPopupMenu(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, place.x, place.y, 0, owner, nullptr) ==
+           static_cast<BOOL>(item);
+}
+
+} // namespace
+
+void Application::flagMenu(POINT place) {
+    if (chosenFromMenu(main_.handle(), place, L"Byt till svenska byggregler (BKR)"))
+        input_.switchToSwedishRules();
+}
+
+void Application::loadPictureMenu(POINT place) {
+    if (chosenFromMenu(main_.handle(), place, L"Fria linjelaster")) openLineLoads(freeLoads_, freeLineLoads);
 }
 
 bool Application::closing() {
@@ -166,6 +216,11 @@ void Application::clientResized(int width, int height) {
     const SIZE natural = form_.naturalSize();
     SetWindowPos(form_.handle(), nullptr, 0, 0, std::max<int>(width, natural.cx),
                  std::max<int>(height, natural.cy), SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Application::helpRequested(const HELPINFO& request) {
+    const std::string_view topic = helpTopicOfRequest(request);
+    if (!topic.empty()) help_.show(topic, settings_.workFolder);
 }
 
 void Application::showRunTimeError(int number) {
@@ -240,28 +295,6 @@ std::string Application::printerFontName() {
 }
 void Application::setResultFont(const std::string& face) {
     viewer_->setFont(face);
-}
-
-// Results
-
-void Application::calculate() {
-    CalculationRun(files_, boxes_, processes_, main_, *viewer_)
-        .run(state_, settings_.workFolder, settings_.resultFontName);
-}
-
-void Application::showResult() {
-    showResults(files_, boxes_, main_, *viewer_, state_, settings_.resultFontName);
-}
-
-void Application::chooseFont() {
-    FontChooserWindow chooser(*this, viewer_->handle());
-    FontChoice choice(settings_.resultFontName, files_, *viewer_, chooser);
-    chooser.ask(choice, win32::printerFonts(), [this] { return fileDialog_.lists().directory(); });
-}
-
-void Application::showImportant() {
-    if (!important_) important_ = std::make_unique<DisclaimerWindow>(host(), main_.handle());
-    important_->showModeless();
 }
 
 } // namespace varno

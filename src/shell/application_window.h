@@ -2,18 +2,26 @@
 
 #include <memory>
 
+#include "diagram/diagram_window.h"
+#include "diagram/moment_diagram.h"
 #include "input/input_form.h"
 #include "input/input_form_window.h"
 #include "input/sketch.h"
 #include "input/sketch_picture.h"
+#include "lineloads/line_load_window.h"
 #include "results/calculation_run.h"
+#include "results/file_deletion.h"
 #include "results/font_chooser_window.h"
+#include "results/result_printing.h"
 #include "results/result_viewer_window.h"
 #include "shell/document.h"
 #include "shell/file_info_window.h"
+#include "shell/help_viewer.h"
 #include "shell/main_window.h"
 #include "shell/notice_window.h"
 #include "shell/start_up.h"
+#include "win32/gdi_printer.h"
+#include "win32/help.h"
 #include "win32/message_box.h"
 #include "win32/process.h"
 #include "win32/win32_folders.h"
@@ -44,10 +52,12 @@ class Application : private win32::WindowHost,
     void endTyping() override;
     void flagClicked(int flag) override;
     void flagMenu(POINT place) override;
+    void loadPictureMenu(POINT place) override;
     bool closing() override;
     void dpiChanged(int dpi) override;
     void clientResized(int width, int height) override;
     void showRunTimeError(int number) override;
+    void helpRequested(const HELPINFO& request) override;
 
     // FormEvents
     void changed(Control control) override;
@@ -73,10 +83,23 @@ class Application : private win32::WindowHost,
 
     win32::WindowHost& host() { return *this; }
     bool translateFlagKey(const MSG& message);
+    bool translateHelpKey(const MSG& message);
     void calculate();
     void showResult();
     void chooseFont();
     void showImportant();
+    void printCurrent();
+    void printChosen();
+    void setUpPrinter();
+    void deleteFiles(const char* pattern);
+    void showMoments();
+    void plotMoments();
+    bool printerThere();
+    /// A line load editor with its window, made on first use.
+    struct LineLoads;
+    void openLineLoads(std::unique_ptr<LineLoads>& editor, const LineLoadSet& set);
+    void showForm();
+    void caseShown();
     InputContext inputContext();
 
     NumberLocale locale_;
@@ -91,6 +114,8 @@ class Application : private win32::WindowHost,
     win32::WindowsFolders folders_;
     win32::ProcessRunner processes_;
     FileOpener files_;
+    win32::WindowsHelp helpSystem_;
+    HelpViewer help_{helpSystem_, boxes_};
     FileDialog fileDialog_;
 
     MainWindow main_;
@@ -99,9 +124,16 @@ class Application : private win32::WindowHost,
     CaseFormFiller filler_;
     InputForm input_;
     Document document_;
+    win32::GdiPrinter printer_;
+    ResultPrinting printing_;
+    FileDeletion deletion_;
+    MomentDiagram diagram_;
     std::unique_ptr<FileInfoWindow> fileInfo_;
     std::unique_ptr<ResultViewerWindow> viewer_;
     std::unique_ptr<DisclaimerWindow> important_;
+    std::unique_ptr<DiagramWindow> diagramWindow_;
+    std::unique_ptr<LineLoads> lineLoads_;
+    std::unique_ptr<LineLoads> freeLoads_;
 };
 
 } // namespace varno

@@ -26,6 +26,10 @@ enum MenuId : int {
     idMoment,        // mom
     idImportant,     // vikt
     idEditFont,      // "Redigera" of the result viewer
+    idFreeLineLoads, // the free line load editor: a toolbar button and the load picture's context menu
+    /// The help command, in the window's own menu too: Windows keeps the lowest four bits of IDs there.
+    idHelp = 0x0820,
+    idLayout,        // "Layout" of a line load editor
 };
 
 /// Parts of the main window.
@@ -65,6 +69,14 @@ enum DialogId : int {
     idInstalledFonts = 401,
     idStoredFont,
     idCurrentFont,
+    idDelete = 501,
+    idDeletionHelp,
+    idConfirm,  ///< `bekr`
+    idPosition, ///< the hidden label with the place of the file in its list
+    idPlot = 601,
+    idDiagramPicture,
+    idLineLoadSpin = 701,
+    idLineLoadField = 710, ///< + 10 * LineLoadBox + row
 };
 
 /// Controls of the main input form: one number a field, and a block of numbers for every control array and

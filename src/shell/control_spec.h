@@ -17,7 +17,8 @@ enum class ControlKind {
     check,
     dropDown, ///< a list that shows its selected row and opens
     listBox,
-    folderList, ///< a list of folders, drawn with their depth
+    multiListBox, ///< several rows can be selected
+    folderList,   ///< a list of folders, drawn with their depth
     spin,
     picture, ///< the program's picture
 };

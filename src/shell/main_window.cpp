@@ -89,6 +89,8 @@ void MainWindow::create(const std::set<int>& commands) {
     commands_ = commands;
     Window::create(L"VarnoMain", "", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, 0, nullptr, buildMenu(commands),
                    {});
+    // The menu tree is fixed, so the help command stands in the menu of the window itself.
+    AppendMenuW(GetSystemMenu(handle(), FALSE), MF_STRING, idHelp, L"Hjälp\tF1");
     createParts();
     for (const ToolbarKey& key : toolbarKeys)
         toolbar_.setEnabled(key.id, commands_.contains(key.id));
@@ -252,6 +254,10 @@ LRESULT MainWindow::onCommand(WPARAM wParam, LPARAM lParam) {
         if (HIWORD(wParam) == BN_CLICKED) events_.flagClicked(id - idFlag);
         return 0;
     }
+    if (id == idHelp) {
+        sendHelpKey();
+        return 0;
+    }
     if (commands_.contains(id)) {
         // A toolbar button leaves the focus where it is; the field being typed in is ended as "Arkiv" ends it.
         if (reinterpret_cast<HWND>(lParam) == toolbar_.handle()) events_.endTyping();
@@ -259,6 +265,13 @@ LRESULT MainWindow::onCommand(WPARAM wParam, LPARAM lParam) {
         return 0;
     }
     return defaultProc(WM_COMMAND, wParam, lParam);
+}
+
+// The help command: as if the user had pressed F1.
+void MainWindow::sendHelpKey() {
+    const HWND focus = GetFocus() != nullptr ? GetFocus() : handle();
+    PostMessageW(focus, WM_KEYDOWN, VK_F1, 1);
+    PostMessageW(focus, WM_KEYUP, VK_F1, 1);
 }
 
 LRESULT MainWindow::defaultProc(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -273,15 +286,20 @@ LRESULT MainWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         if (reinterpret_cast<HMENU>(wParam) == fileMenu_) events_.endTyping();
         break;
     case WM_CONTEXTMENU: {
-        if (reinterpret_cast<HWND>(wParam) != flagButton()) break;
+        const auto window = reinterpret_cast<HWND>(wParam);
+        if (window != flagButton() && window != loadPicture_.handle()) break;
         POINT place{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
         if (lParam == -1) {
-            // From the keyboard: below the flag.
+            // From the keyboard: below it.
             RECT box{};
-            GetWindowRect(flagButton(), &box);
+            GetWindowRect(window, &box);
             place = {box.left, box.bottom};
         }
-        events_.flagMenu(place);
+        if (window == flagButton()) {
+            events_.flagMenu(place);
+        } else {
+            events_.loadPictureMenu(place);
+        }
         return 0;
     }
     case WM_DRAWITEM: {
@@ -321,6 +339,13 @@ LRESULT MainWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return 0;
     case WM_QUERYENDSESSION:
         return events_.closing() ? TRUE : FALSE;
+    case WM_HELP:
+        events_.helpRequested(*reinterpret_cast<const HELPINFO*>(lParam));
+        return TRUE;
+    case WM_SYSCOMMAND:
+        if ((wParam & 0xFFF0) != idHelp) break;
+        sendHelpKey();
+        return 0;
     case showErrorMessage:
         events_.showRunTimeError(static_cast<int>(wParam));
         return 0;

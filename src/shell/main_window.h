@@ -24,6 +24,8 @@ class MainEvents {
     virtual void flagClicked(int flag) = 0;
     /// The flag's context menu was asked for at a place of the screen.
     virtual void flagMenu(POINT place) = 0;
+    /// The same of the load picture.
+    virtual void loadPictureMenu(POINT place) = 0;
     /// The close box, or Windows ending; true when the program has ended.
     virtual bool closing() = 0;
     /// The child windows are to be laid out at this resolution.
@@ -31,6 +33,8 @@ class MainEvents {
     /// The MDI client has this size in pixels.
     virtual void clientResized(int width, int height) = 0;
     virtual void showRunTimeError(int number) = 0;
+    /// F1 was pressed in an open menu or in a message box.
+    virtual void helpRequested(const HELPINFO& request) = 0;
 };
 
 /// The main window: an MDI frame with menu, toolbar, the sketch (load picture, slab strip, support buttons),
@@ -73,6 +77,7 @@ class MainWindow : public win32::Window, public MainView {
     void placeSupportButtons();
     void drawFlag(const DRAWITEMSTRUCT& item) const;
     LRESULT onCommand(WPARAM wParam, LPARAM lParam);
+    void sendHelpKey();
 
     MainEvents& events_;
     const SketchPicture& sketch_;

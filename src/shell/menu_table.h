@@ -55,10 +55,15 @@ struct ToolbarKey {
 };
 
 inline constexpr std::array toolbarKeys{
-    ToolbarKey{"new", "Ny", idNew},           ToolbarKey{"open", "Öppna...", idOpen},
-    ToolbarKey{"save", "Spara", idSave},      ToolbarKey{"print", "Resultat på skrivare", idPrintResult},
-    ToolbarKey{"berakning", "Kör...", idRun}, ToolbarKey{"res1", "Resultat på skärm", idShowResult},
+    ToolbarKey{"new", "Ny", idNew},
+    ToolbarKey{"open", "Öppna...", idOpen},
+    ToolbarKey{"save", "Spara", idSave},
+    ToolbarKey{"print", "Resultat på skrivare", idPrintResult},
+    ToolbarKey{"berakning", "Kör...", idRun},
+    ToolbarKey{"res1", "Resultat på skärm", idShowResult},
     ToolbarKey{"momk", "Moment", idMoment},
+    // The free line load editor has no place in the fixed menu tree.
+    ToolbarKey{"fria", "Fria linjelaster", idFreeLineLoads},
 };
 
 /// The menu item that a toolbar button of this key runs, 0 for any other key.

@@ -58,8 +58,12 @@ UniqueFont systemFont(int dpi, FontRole role) {
 }
 
 UniqueFont fontOf(const wchar_t* face, int points, int dpi) {
+    return fontOfHeight(face, -MulDiv(points, dpi, 72));
+}
+
+UniqueFont fontOfHeight(const wchar_t* face, int height) {
     LOGFONTW font{};
-    font.lfHeight = -MulDiv(points, dpi, 72);
+    font.lfHeight = height;
     font.lfCharSet = DEFAULT_CHARSET;
     font.lfWeight = FW_NORMAL;
     // Where the face is not installed, another of fixed pitch takes its place: results are laid out for one.

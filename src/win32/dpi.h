@@ -24,4 +24,7 @@ UniqueFont systemFont(int dpi, FontRole role = FontRole::text);
 /// A font of a face at a size in points.
 UniqueFont fontOf(const wchar_t* face, int points, int dpi);
 
+/// The same at a character height (negative) or cell height (positive) in the unit of the device.
+UniqueFont fontOfHeight(const wchar_t* face, int height);
+
 } // namespace varno::win32

@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "win32/resource_ids.h"
@@ -51,6 +52,10 @@ KindStyle styleOf(ControlKind kind) {
         return {L"COMBOBOX", stop | CBS_DROPDOWNLIST | WS_VSCROLL | WS_GROUP, 0};
     case ControlKind::listBox:
         return {L"LISTBOX", stop | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_GROUP,
+                WS_EX_CLIENTEDGE};
+    case ControlKind::multiListBox:
+        return {L"LISTBOX",
+                stop | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_EXTENDEDSEL | WS_VSCROLL | WS_GROUP,
                 WS_EX_CLIENTEDGE};
     case ControlKind::folderList:
         return {L"LISTBOX",
@@ -124,6 +129,8 @@ HWND FormWindow::createControl(const ControlSpec& spec) {
         kind.exStyle, kind.className, wide(spec.text).c_str(), WS_CHILD | WS_VISIBLE | kind.style, 0, 0, 0, 0,
         handle(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(spec.id)), programInstance(), nullptr);
     if (spec.kind == ControlKind::memo) SendMessageW(control, EM_SETLIMITTEXT, 0, 0);
+    // Of itself a spin button's range runs from 100 down to 0, and its upper arrow counts down.
+    if (spec.kind == ControlKind::spin) SendMessageW(control, UDM_SETRANGE32, 0, 100);
     return control;
 }
 
@@ -138,11 +145,23 @@ void FormWindow::addControls(std::span<const ControlSpec> controls) {
 
 void FormWindow::adopt(HWND control, RECT twips, FontRole role) {
     placed_.push_back({control, twips, role});
-    SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font(role)), TRUE);
+    setFont(control, role);
 }
 
 HFONT FormWindow::font(FontRole role) const {
     return fonts_[static_cast<int>(role)].get();
+}
+
+void FormWindow::setFont(HWND control, FontRole role) {
+    SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font(role)), TRUE);
+    wchar_t className[8] = L"";
+    GetClassNameW(control, className, 8);
+    if (std::wstring_view(className) != L"Edit" || (GetWindowLongPtrW(control, GWL_STYLE) & ES_RIGHT) == 0)
+        return;
+    // A new font brings margins of its own, which leave a number box so little room that it scrolls the first
+    // digit of "0,170" away when the caret stands behind the last.
+    const int margin = px(raster(1));
+    SendMessageW(control, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(margin, margin));
 }
 
 void FormWindow::setFontRole(int id, FontRole role) {
@@ -150,18 +169,17 @@ void FormWindow::setFontRole(int id, FontRole role) {
     for (Placed& placed : placed_) {
         if (placed.control == control) placed.role = role;
     }
-    SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font(role)), TRUE);
+    setFont(control, role);
 }
 
 void FormWindow::setDpi(int dpi) {
     dpi_ = dpi;
-    UniqueFont fresh[4];
-    for (int role = 0; role < 4; ++role)
+    UniqueFont fresh[fontRoles];
+    for (int role = 0; role < fontRoles; ++role)
         fresh[role] = systemFont(dpi, static_cast<FontRole>(role));
-    std::swap_ranges(fresh, fresh + 4, fonts_);
-    for (const Placed& placed : placed_) {
-        SendMessageW(placed.control, WM_SETFONT, reinterpret_cast<WPARAM>(font(placed.role)), TRUE);
-    }
+    std::swap_ranges(fresh, fresh + fontRoles, fonts_);
+    for (const Placed& placed : placed_)
+        setFont(placed.control, placed.role);
     fontsChanged();
 }
 

@@ -64,6 +64,7 @@ class FormWindow : public Window {
     void drawItem(const DRAWITEMSTRUCT& item);
     void drawSymbol(const DRAWITEMSTRUCT& item);
     HFONT font(FontRole role) const;
+    void setFont(HWND control, FontRole role);
 
     std::vector<Placed> placed_;
     UniqueFont fonts_[fontRoles];

@@ -123,6 +123,14 @@ void drawMoment(Pencil& pencil) {
     pencil.stroke(curve, 1.5f, {{8.4f, 9}, {10, 3}, {11.6f, 9}});
 }
 
+void drawFreeLoads(Pencil& pencil) {
+    pencil.shape(steel, {{1.5f, 14.5f}, {18.5f, 14.5f}, {18.5f, 17}, {1.5f, 17}}, ink, 0.8f);
+    for (const float x : {6.0f, 14.0f}) {
+        pencil.stroke(RGB(0x1E, 0x7E, 0x34), 1.7f, {{x, 2.5f}, {x, 13}});
+        pencil.stroke(RGB(0x1E, 0x7E, 0x34), 1.7f, {{x - 2.4f, 10}, {x, 13}, {x + 2.4f, 10}});
+    }
+}
+
 void drawKey(Pencil& pencil, std::string_view key) {
     if (key == "new") {
         page(pencil);
@@ -141,6 +149,8 @@ void drawKey(Pencil& pencil, std::string_view key) {
         textLines(pencil, 8.5f, 16);
     } else if (key == "momk") {
         drawMoment(pencil);
+    } else if (key == "fria") {
+        drawFreeLoads(pencil);
     }
 }
 

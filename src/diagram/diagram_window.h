@@ -1,0 +1,36 @@
+#pragma once
+
+#include <functional>
+
+#include "diagram/diagram_commands.h"
+#include "drawing/recording_canvas.h"
+#include "win32/form_window.h"
+#include "win32/picture_window.h"
+
+namespace varno {
+
+/// The window "Momentdiagram" (`Momkurva`), modeless.
+class DiagramWindow : public win32::FormWindow, public DiagramView {
+  public:
+    DiagramWindow(win32::WindowHost& host, HWND owner, std::function<void()> plot,
+                  std::function<void()> back);
+
+    Canvas& picture() override { return drawing_; }
+    void paint() override { picture_.redraw(); }
+    void show() override;
+    void close() override { closeForm(); }
+
+  protected:
+    void onCommand(int id, int notification) override;
+    void onCloseBox() override { back_(); }
+    void layOut() override;
+
+  private:
+    std::function<void()> plot_;
+    std::function<void()> back_;
+    RecordingCanvas drawing_;
+    win32::PictureWindow picture_;
+    bool placed_ = false;
+};
+
+} // namespace varno

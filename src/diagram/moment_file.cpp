@@ -1,0 +1,16 @@
+#include "diagram/moment_file.h"
+
+#include "base/numbers.h"
+#include "model/design_case.h"
+
+namespace varno {
+
+MomentFile::MomentFile(File& file) : file_(file), spans_(toInteger(VARNO1::parseNumber(file.readField()))) {
+    if (spans_ > SpanArray::last) throw RunTimeError(errSubscriptOutOfRange);
+}
+
+float MomentFile::number() {
+    return toSingle(VARNO1::parseNumber(file_.readField()));
+}
+
+} // namespace varno

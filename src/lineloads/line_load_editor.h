@@ -1,0 +1,79 @@
+#pragma once
+
+#include <map>
+#include <string>
+
+#include "base/numbers.h"
+#include "input/sketch_refresh.h"
+#include "lineloads/line_load_set.h"
+#include "lineloads/line_load_view.h"
+#include "model/main_view.h"
+
+namespace varno {
+
+/// What the rules of a line load editor work on. Everything outlives them.
+struct LineLoadContext {
+    DesignCase& designCase;
+    DocumentState& document;
+    MainView& window;
+    SketchRefresh& sketch;
+    LineLoadView& view;
+    NumberLocale locale; ///< of the display; what is typed may have "," or "." whatever it says
+};
+
+/// The rules of both line load editors. The window forwards its events and shows what it is told.
+///
+/// Only the count marks the case as changed. An edit of a row goes into the record and the sketch without a
+/// mark: the program asks nothing about it when it ends. That is meant.
+///
+/// Input is not rejected, apart from what no number type holds (run-time error 6) and a count that the arrays
+/// have no room for (9): the event stops there, record and boxes are as they were and the text stays for
+/// correction. An error of the sketch comes after everything is stored and shown.
+///
+/// Events arrive while a rule runs: taking the focus brings the event of the box that had it.
+class LineLoadEditor {
+  public:
+    LineLoadEditor(const LineLoadSet& set, const LineLoadContext& context) : set_(set), context_(context) {}
+    LineLoadEditor(const LineLoadEditor&) = delete;
+    LineLoadEditor& operator=(const LineLoadEditor&) = delete;
+
+    /// The menu item: shows the window, filled from the record when it was not open. \throws RunTimeError 9
+    /// for a record with more line loads than the arrays hold; nothing is shown then.
+    void opened();
+    /// Another case is in the record: what an open window shows is brought into line.
+    void caseRead();
+    /// The item "Layout", and the close box.
+    void layout();
+
+    void spanNumberLeft(int row);
+    void distanceLeft(int row);
+    void loadLeft(int row);
+    /// Only rewrites the box (1..4): multipliers are not kept.
+    void multiplierLeft(int multiplier);
+
+    void spinUp();
+    void spinDown();
+    void backgroundClicked();
+
+  private:
+    using Rows = BoundedArray<bool, 1, maxLineLoads>;
+
+    std::int16_t& count() const { return context_.designCase.*set_.count; }
+    void showRecord();
+    void fillRow(int row);
+    void showRows(int last);
+    template <typename Number>
+    void write(LineLoadControl control, Number value, const char* pattern);
+    bool isUntouched(LineLoadControl control) const;
+    void leaveReal(LineLoadControl control, float& stored, const char* pattern);
+    int countFrom(double wanted) const;
+    void enterCount(int wanted);
+
+    const LineLoadSet& set_;
+    LineLoadContext context_;
+    bool open_ = false;
+    Rows visible_;
+    std::map<std::pair<LineLoadBox, int>, std::string> written_; ///< what was last shown in a box from here
+};
+
+} // namespace varno

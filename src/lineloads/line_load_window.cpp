@@ -1,0 +1,216 @@
+#include "lineloads/line_load_window.h"
+
+#include <commctrl.h>
+
+#include <array>
+#include <optional>
+#include <vector>
+
+#include "shell/control_ids.h"
+#include "win32/accessible_names.h"
+#include "win32/strings.h"
+
+namespace varno {
+
+namespace {
+
+// All measures are pixels of the 96 dpi raster.
+constexpr int width = 430;
+constexpr int rowsTop = 92;
+constexpr int rowPitch = 27;
+constexpr int frameBottom = rowsTop + maxLineLoads * rowPitch + 10;
+constexpr int panelTop = frameBottom + 10;
+constexpr int panelHeight = 34 + 4 * rowPitch + 8;
+constexpr std::array columnX{30, 130, 300};
+constexpr std::array boxWidth{54, 84, 84};
+
+constexpr std::array rowBoxes{LineLoadBox::llfnr, LineLoadBox::avst, LineLoadBox::lllast};
+
+int idOf(LineLoadControl control) {
+    return idLineLoadField + 10 * static_cast<int>(control.box) + control.index;
+}
+
+std::optional<LineLoadControl> controlOf(int id) {
+    const int offset = id - idLineLoadField;
+    if (offset < 0 || offset >= 10 * (static_cast<int>(LineLoadBox::multiplier) + 1)) return std::nullopt;
+    return LineLoadControl{static_cast<LineLoadBox>(offset / 10), offset % 10};
+}
+
+class Layout {
+  public:
+    void add(int id, ControlKind kind, const char* text, int x, int y, int w, int h) {
+        controls.push_back({id, kind, text, raster(x), raster(y), raster(w), raster(h)});
+    }
+    void label(const char* text, int x, int y, int w, int h = 15) {
+        add(0, ControlKind::label, text, x, y, w, h);
+    }
+    void number(LineLoadControl control, int x, int y, int w) {
+        add(idOf(control), ControlKind::numberEdit, "", x, y, w, 21);
+    }
+    std::vector<ControlSpec> controls;
+};
+
+void addRows(Layout& form) {
+    form.add(0, ControlKind::group, lineLoadFrame, 10, 8, width - 20, frameBottom - 8);
+    form.label(lineLoadCount, 24, 32, 110);
+    form.number({LineLoadBox::nllast}, 138, 29, 34);
+    form.add(idLineLoadSpin, ControlKind::spin, "", 172, 29, 18, 21);
+    for (std::size_t column = 0; column < columnX.size(); ++column) {
+        form.label(lineLoadColumns[column].heading, columnX[column], 58, 165);
+        form.label(lineLoadColumns[column].unit, columnX[column], 74, 80);
+    }
+    for (int row = 1; row <= maxLineLoads; ++row) {
+        for (std::size_t column = 0; column < columnX.size(); ++column) {
+            form.number({rowBoxes[column], row}, columnX[column], rowsTop + (row - 1) * rowPitch + 3,
+                        boxWidth[column]);
+        }
+    }
+}
+
+void addMultipliers(Layout& form) {
+    form.add(0, ControlKind::group, multiplierFrame, 10, panelTop, width - 20, panelHeight);
+    form.label(multiplierLoadCase, 30, panelTop + 20, 120);
+    form.label(multiplierValue, 170, panelTop + 20, 120);
+    for (std::size_t i = 0; i < multiplierBoxes.size(); ++i) {
+        const int y = panelTop + 40 + static_cast<int>(i) * rowPitch;
+        form.label(multiplierBoxes[i].label, 30, y + 3, 120);
+        form.number({LineLoadBox::multiplier, static_cast<int>(i) + 1}, 170, y, 70);
+    }
+    form.label(multiplierNote, 14, panelTop + panelHeight + 8, width - 28, 32);
+}
+
+int heightOf(const LineLoadSet& set) {
+    return set.hasMultipliers ? panelTop + panelHeight + 48 : frameBottom + 12;
+}
+
+HMENU editorMenu() {
+    const HMENU back = CreatePopupMenu();
+    AppendMenuW(back, MF_STRING, idLayout, L"Layout");
+    const HMENU bar = CreateMenu();
+    AppendMenuW(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(back), L"Återgå till...");
+    return bar;
+}
+
+void nameBoxes(const win32::FormWindow& window, const LineLoadSet& set) {
+    win32::nameForScreenReaders(window.item(idOf({LineLoadBox::nllast})), "Antal linjelaster");
+    for (int row = 1; row <= maxLineLoads; ++row) {
+        const std::string number = ", linjelast " + std::to_string(row);
+        win32::nameForScreenReaders(window.item(idOf({LineLoadBox::llfnr, row})), "Fack nr" + number);
+        win32::nameForScreenReaders(window.item(idOf({LineLoadBox::avst, row})),
+                                    "Avstånd från vänster stöd (m)" + number);
+        win32::nameForScreenReaders(window.item(idOf({LineLoadBox::lllast, row})), "Last (kN/m)" + number);
+    }
+    if (!set.hasMultipliers) return;
+    for (std::size_t i = 0; i < multiplierBoxes.size(); ++i) {
+        win32::nameForScreenReaders(window.item(idOf({LineLoadBox::multiplier, static_cast<int>(i) + 1})),
+                                    std::string("Multiplikator, ") + multiplierBoxes[i].label);
+    }
+}
+
+} // namespace
+
+LineLoadWindow::LineLoadWindow(win32::WindowHost& host, HWND owner, const LineLoadSet& set,
+                               std::function<void()> returned)
+    : FormWindow(host), set_(set), returned_(std::move(returned)) {
+    // Without WS_CLIPCHILDREN: a frame shows the window's background.
+    create(set.hasMultipliers ? L"VarnoFreeLineLoads" : L"VarnoLineLoads", set.caption,
+           WS_POPUP | WS_CAPTION | WS_SYSMENU, WS_EX_DLGMODALFRAME, owner, editorMenu(), {});
+    Layout form;
+    addRows(form);
+    if (set.hasMultipliers) addMultipliers(form);
+    addControls(form.controls);
+    nameBoxes(*this, set);
+}
+
+std::string LineLoadWindow::text(LineLoadControl control) const {
+    return win32::textOf(item(idOf(control)));
+}
+
+void LineLoadWindow::setText(LineLoadControl control, const std::string& text) {
+    if (this->text(control) != text) win32::setText(item(idOf(control)), text);
+}
+
+void LineLoadWindow::setRowVisible(int row, bool visible) {
+    for (const LineLoadBox box : rowBoxes)
+        ShowWindow(item(idOf({box, row})), visible ? SW_SHOWNA : SW_HIDE);
+}
+
+void LineLoadWindow::focus(LineLoadControl control) {
+    SetFocus(item(idOf(control)));
+}
+
+void LineLoadWindow::show() {
+    if (!placed_) {
+        placed_ = true;
+        // Over the input form, so that the sketch above it stays in sight.
+        sizeAndCentre(raster(width), raster(heightOf(set_)), GetDlgItem(GetWindow(handle(), GW_OWNER), idMdiClient));
+    }
+    ShowWindow(handle(), SW_SHOW);
+    SetForegroundWindow(handle());
+}
+
+void LineLoadWindow::close() {
+    closeForm();
+    returned_();
+}
+
+void LineLoadWindow::left(LineLoadControl control) {
+    switch (control.box) {
+    case LineLoadBox::nllast:
+        break;
+    case LineLoadBox::llfnr:
+        editor_->spanNumberLeft(control.index);
+        break;
+    case LineLoadBox::avst:
+        editor_->distanceLeft(control.index);
+        break;
+    case LineLoadBox::lllast:
+        editor_->loadLeft(control.index);
+        break;
+    case LineLoadBox::multiplier:
+        editor_->multiplierLeft(control.index);
+        break;
+    }
+}
+
+void LineLoadWindow::onCommand(int id, int notification) {
+    if (editor_ == nullptr) return;
+    if (id == idLayout) {
+        editor_->layout();
+        return;
+    }
+    if (id == idOkButton) {
+        // Enter moves on like Tab.
+        PostMessageW(GetFocus(), WM_KEYDOWN, VK_TAB, 0);
+        return;
+    }
+    const auto control = controlOf(id);
+    if (control && notification == EN_KILLFOCUS) {
+        left(*control);
+        return;
+    }
+    FormWindow::onCommand(id, notification);
+}
+
+void LineLoadWindow::onCloseBox() {
+    if (editor_ != nullptr) editor_->layout();
+}
+
+LRESULT LineLoadWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (editor_ == nullptr) return FormWindow::onMessage(message, wParam, lParam);
+    if (message == WM_LBUTTONDOWN) {
+        editor_->backgroundClicked();
+        return 0;
+    }
+    if (message == WM_NOTIFY && reinterpret_cast<const NMHDR*>(lParam)->code == UDN_DELTAPOS) {
+        if (reinterpret_cast<const NMUPDOWN*>(lParam)->iDelta > 0) {
+            editor_->spinUp();
+        } else {
+            editor_->spinDown();
+        }
+        return TRUE;
+    }
+    return FormWindow::onMessage(message, wParam, lParam);
+}
+
+} // namespace varno

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+
+#include "drawing/canvas.h"
+
+namespace varno {
+
+/// The printer with its current document, which lives as long as the program: whoever prints goes on where
+/// the last one left off, until `endDocument`. The document starts with the first thing printed. A printer
+/// that fails raises a RunTimeError.
+class Printer {
+  public:
+    virtual ~Printer() = default;
+
+    /// The font face of the text that follows; it stays until the next one.
+    virtual void setFontName(const std::string& face) = 0;
+    /// Prints a text (UTF-8) and a line end. CR LF within it begins a new line too. Every new page starts at
+    /// the top left of the printable area.
+    virtual void printLine(const std::string& text) = 0;
+    /// The number of the page being printed, from 1 in every document.
+    virtual int page() = 0;
+    virtual void newPage() = 0;
+    /// Hands the document to the spooler; without one it does nothing. A page that nothing was printed on is
+    /// not put out at the end.
+    virtual void endDocument() = 0;
+    /// The current page to draw on, twips from the top left of the printable area. Starts the document when
+    /// there is none.
+    virtual Canvas& canvas() = 0;
+};
+
+} // namespace varno

@@ -1,0 +1,47 @@
+#include "results/result_printing.h"
+
+#include <vector>
+
+#include "results/result_pages.h"
+#include "results/result_viewer.h"
+
+namespace varno {
+
+namespace {
+
+constexpr std::int16_t forInput = 2;
+constexpr std::size_t pageNumberColumn = 68; // blanks before it
+
+} // namespace
+
+void ResultPrinting::print(const std::string& path, const std::string* fontName) {
+    File file = files_.openFile(path, forInput);
+    const BusyPointer busy(window_);
+    const std::vector<Bytes> pages = VARNO1::readResultPages(file);
+    file.close();
+    if (fontName != nullptr) printer_.setFontName(*fontName);
+    for (const Bytes& page : pages) {
+        printer_.printLine(std::string(pageNumberColumn, ' ') + "sid " + std::to_string(printer_.page()));
+        printer_.printLine(decodeWindows1252(page));
+        printer_.newPage();
+    }
+    printer_.endDocument();
+}
+
+void ResultPrinting::printCurrent(const DocumentState& document, const std::string& resultFontName) {
+    showingMissingResult(boxes_, document.currentFileName,
+                         [&] { print(document.currentFileName + ".res", &resultFontName); });
+}
+
+void ResultPrinting::printChosen(const DocumentState& document, FileDialog& dialog,
+                                 const std::function<void(FileDialog&)>& showModally) {
+    dialog.dialogForSaving = 0;
+    dialog.lists().setPattern("*.RES");
+    dialog.caption = "Välj Resultatfil";
+    showModally(dialog);
+    if (dialog.dialogAnswer != 0) return;
+    showingMissingResult(boxes_, document.currentFileName,
+                         [&] { print(dialog.path(dialog.typedName), nullptr); });
+}
+
+} // namespace varno

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/message_boxes.h"
+
+namespace varno {
+
+/// What showing help needs of the system. Paths are UTF-8.
+class HelpSystem {
+  public:
+    virtual ~HelpSystem() = default;
+    virtual bool exists(const std::string& path) = 0;
+    /// The folder of the running program, without a backslash at the end.
+    virtual std::string programFolder() = 0;
+    /// Shows a topic of a .HLP file; false where Windows has no viewer for it.
+    virtual bool winHelp(const std::string& file, unsigned context) = 0;
+    /// Closes the viewer that `winHelp` opened, unless another program uses it.
+    virtual void quitWinHelp(const std::string& file) = 0;
+    /// Opens a file in the program that the user has for it; false when there is none.
+    virtual bool openDocument(const std::string& path) = 0;
+};
+
+/// The application's help file, as it is registered.
+inline constexpr const char* registeredHelpFile = "c:\\varnow\\run\\varno.hlp";
+
+/// Said when F1 finds neither form of the help.
+inline constexpr const char* helpMissing = "Hjälpen hittas inte. Varno.HLP, eller mappen help med hjälpen i "
+                                           "HTML, ska ligga i arbetsmappen eller bredvid "
+                                           "programmet.";
+
+/// Shows the help: the .HLP file, or its HTML twin where there is no viewer for the file or no file. Both are looked
+/// for where the help is registered, in the work folder and beside the program, in this order.
+class HelpViewer {
+  public:
+    HelpViewer(HelpSystem& system, MessageBoxes& boxes) : system_(system), boxes_(boxes) {}
+
+    /// `workFolder` may be empty: it is not known before varno.ini is read.
+    void show(std::string_view topic, const std::string& workFolder);
+    /// Closes the viewer; called at the end of the program.
+    void close();
+
+  private:
+    std::vector<std::string> folders(const std::string& workFolder);
+    bool showFile(std::string_view topic, const std::vector<std::string>& folders);
+    bool showTwin(std::string_view topic, const std::vector<std::string>& folders);
+
+    HelpSystem& system_;
+    MessageBoxes& boxes_;
+    std::string shown_; ///< the .HLP file that the viewer has open
+};
+
+} // namespace varno

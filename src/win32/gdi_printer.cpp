@@ -1,0 +1,186 @@
+#include "win32/gdi_printer.h"
+
+#include <commdlg.h>
+#include <winspool.h>
+
+#include <utility>
+
+#include "base/run_time_error.h"
+#include "win32/dpi.h"
+#include "win32/printer_fonts.h"
+#include "win32/strings.h"
+
+namespace varno::win32 {
+
+namespace {
+
+// A result page: the header, an empty line and 70 lines of at most 80 characters.
+constexpr int linesOnPage = 72;
+constexpr int charactersOnLine = 80;
+constexpr int largestFont = 100; // tenths of a point
+constexpr int smallestFont = 40;
+
+class LockedGlobal {
+  public:
+    explicit LockedGlobal(HGLOBAL memory)
+        : memory_(memory), data_(memory != nullptr ? GlobalLock(memory) : nullptr) {}
+    ~LockedGlobal() {
+        if (data_ != nullptr) GlobalUnlock(memory_);
+    }
+    LockedGlobal(const LockedGlobal&) = delete;
+    LockedGlobal& operator=(const LockedGlobal&) = delete;
+    void* get() const { return data_; }
+
+  private:
+    HGLOBAL memory_;
+    void* data_;
+};
+
+std::wstring defaultPrinterName() {
+    DWORD length = 0;
+    GetDefaultPrinterW(nullptr, &length);
+    if (length == 0) return {};
+    std::wstring name(length, L'\0');
+    if (!GetDefaultPrinterW(name.data(), &length)) return {};
+    name.resize(length - 1);
+    return name;
+}
+
+} // namespace
+
+GdiPrinter::~GdiPrinter() {
+    if (dc_ == nullptr) return;
+    if (pageOpen_) EndPage(dc_.get());
+    EndDoc(dc_.get());
+}
+
+UniqueDc GdiPrinter::createDc() const {
+    const LockedGlobal mode(mode_.get());
+    const LockedGlobal names(names_.get());
+    if (names.get() != nullptr) {
+        const auto* devNames = static_cast<const DEVNAMES*>(names.get());
+        const auto* texts = static_cast<const wchar_t*>(names.get());
+        return UniqueDc(CreateDCW(L"WINSPOOL", texts + devNames->wDeviceOffset, nullptr,
+                                  static_cast<const DEVMODEW*>(mode.get())));
+    }
+    const std::wstring name = defaultPrinterName();
+    if (name.empty()) return nullptr;
+    return UniqueDc(CreateDCW(L"WINSPOOL", name.c_str(), nullptr, nullptr));
+}
+
+bool GdiPrinter::available() const {
+    return dc_ != nullptr || createDc() != nullptr;
+}
+
+void GdiPrinter::setUp(HWND owner) {
+    PRINTDLGW dialog{};
+    dialog.lStructSize = sizeof dialog;
+    dialog.hwndOwner = owner;
+    dialog.Flags = PD_PRINTSETUP;
+    // What was chosen before stands in the dialog: its orientation and its number of copies.
+    dialog.hDevMode = mode_.release();
+    dialog.hDevNames = names_.release();
+    PrintDlgW(&dialog);
+    mode_.reset(dialog.hDevMode);
+    names_.reset(dialog.hDevNames);
+}
+
+void GdiPrinter::startDocument() {
+    if (dc_ != nullptr) return;
+    UniqueDc dc = createDc();
+    DOCINFOW info{};
+    info.cbSize = sizeof info;
+    info.lpszDocName = L"Kalvora Tessaplan";
+    if (dc == nullptr || StartDocW(dc.get(), &info) <= 0) throw RunTimeError(errPrinter);
+    dc_ = std::move(dc);
+    canvas_ = std::make_unique<GdiCanvas>(dc_.get(), deviceCaps(LOGPIXELSX), RGB(0, 0, 0));
+    page_ = 1;
+    pageOpen_ = false;
+    fontFace_.clear();
+}
+
+void GdiPrinter::startPage() {
+    startDocument();
+    if (pageOpen_) return;
+    if (StartPage(dc_.get()) <= 0) throw RunTimeError(errPrinter);
+    pageOpen_ = true;
+    drawn_ = false;
+    y_ = 0;
+    SetBkMode(dc_.get(), TRANSPARENT);
+}
+
+void GdiPrinter::endPage() {
+    if (!std::exchange(pageOpen_, false)) return;
+    if (EndPage(dc_.get()) <= 0) throw RunTimeError(errPrinter);
+}
+
+void GdiPrinter::newPage() {
+    startPage();
+    endPage();
+    ++page_;
+}
+
+int GdiPrinter::page() {
+    // Text never runs over a drawing: it begins on the next page.
+    if (pageOpen_ && drawn_) newPage();
+    return page_;
+}
+
+// The largest font of the face, up to 10 points, in which a whole result page fits the printable area.
+void GdiPrinter::chooseFont() {
+    if (face_.empty()) face_ = printerFontName();
+    if (fontFace_ == face_) return;
+    const std::wstring face = wide(face_);
+    const int dpi = deviceCaps(LOGPIXELSY);
+    for (int tenths = largestFont; tenths >= smallestFont; tenths -= 2) {
+        font_ = fontOfHeight(face.c_str(), -MulDiv(tenths, dpi, 720));
+        const Selected selected(dc_.get(), font_.get());
+        TEXTMETRICW metrics{};
+        GetTextMetricsW(dc_.get(), &metrics);
+        lineHeight_ = static_cast<int>(metrics.tmHeight + metrics.tmExternalLeading);
+        const bool high = lineHeight_ * linesOnPage > deviceCaps(VERTRES);
+        const bool broad = metrics.tmAveCharWidth * charactersOnLine > deviceCaps(HORZRES);
+        if (!high && !broad) break;
+    }
+    fontFace_ = face_;
+}
+
+void GdiPrinter::printOneLine(const std::wstring& line) {
+    startPage();
+    chooseFont();
+    if (y_ + lineHeight_ > deviceCaps(VERTRES)) {
+        newPage();
+        startPage();
+    }
+    const Selected selected(dc_.get(), font_.get());
+    TextOutW(dc_.get(), 0, y_, line.c_str(), static_cast<int>(line.size()));
+    y_ += lineHeight_;
+}
+
+void GdiPrinter::printLine(const std::string& text) {
+    if (pageOpen_ && drawn_) newPage();
+    std::wstring rest = wide(text);
+    while (true) {
+        const auto end = rest.find(L"\r\n");
+        printOneLine(rest.substr(0, end));
+        if (end == std::wstring::npos) return;
+        rest.erase(0, end + 2);
+    }
+}
+
+void GdiPrinter::endDocument() {
+    if (dc_ == nullptr) return;
+    endPage();
+    const bool ended = EndDoc(dc_.get()) > 0;
+    canvas_.reset();
+    dc_.reset();
+    if (!ended) throw RunTimeError(errPrinter);
+}
+
+Canvas& GdiPrinter::canvas() {
+    startPage();
+    drawn_ = true;
+    return *canvas_;
+}
+
+} // namespace varno::win32

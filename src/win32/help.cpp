@@ -1,0 +1,77 @@
+#include "win32/help.h"
+
+#include <shellapi.h>
+
+#include <optional>
+
+#include "win32/strings.h"
+
+namespace varno::win32 {
+
+namespace {
+
+// Windows from Vista on has a winhlp32.exe that only tells that it is not there any more, and WinHelp reports success
+// all the same. That program is about 10 KB, the viewer some hundred.
+constexpr DWORD leastViewerSize = 64 * 1024;
+
+bool hasViewer() {
+    wchar_t folder[MAX_PATH] = L"";
+    if (GetWindowsDirectoryW(folder, MAX_PATH) == 0) return false;
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    const std::wstring path = std::wstring(folder) + L"\\winhlp32.exe";
+    if (GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data) == 0) return false;
+    return data.nFileSizeHigh > 0 || data.nFileSizeLow >= leastViewerSize;
+}
+
+// The path in the letters of the ANSI functions; nothing when it has others.
+std::optional<std::string> ansiPath(const std::wstring& path) {
+    BOOL lost = FALSE;
+    const int length = static_cast<int>(path.size());
+    std::string out(path.size() * 2, '\0');
+    const int used = WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, path.data(), length, out.data(),
+                                         static_cast<int>(out.size()), nullptr, &lost);
+    if (used == 0 || lost != 0) return std::nullopt;
+    out.resize(static_cast<std::size_t>(used));
+    return out;
+}
+
+std::wstring shortPath(const std::wstring& path) {
+    wchar_t out[MAX_PATH] = L"";
+    const DWORD length = GetShortPathNameW(path.c_str(), out, MAX_PATH);
+    return length == 0 || length >= MAX_PATH ? path : std::wstring(out, length);
+}
+
+} // namespace
+
+bool WindowsHelp::exists(const std::string& path) {
+    const DWORD attributes = GetFileAttributesW(wide(path).c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+std::string WindowsHelp::programFolder() {
+    wchar_t path[MAX_PATH] = L"";
+    GetModuleFileNameW(nullptr, path, MAX_PATH);
+    const std::string program = narrow(path);
+    return program.substr(0, program.rfind('\\'));
+}
+
+bool WindowsHelp::winHelp(const std::string& file, unsigned context) {
+    if (!hasViewer()) return false;
+    // The viewer's own interface is ANSI.
+    const std::wstring path = wide(file);
+    auto name = ansiPath(path);
+    if (!name) name = ansiPath(shortPath(path));
+    return name && WinHelpA(owner_, name->c_str(), HELP_CONTEXT, context) != 0;
+}
+
+void WindowsHelp::quitWinHelp(const std::string& file) {
+    WinHelpW(owner_, wide(file).c_str(), HELP_QUIT, 0);
+}
+
+bool WindowsHelp::openDocument(const std::string& path) {
+    const auto result = reinterpret_cast<INT_PTR>(
+        ShellExecuteW(owner_, L"open", wide(path).c_str(), nullptr, nullptr, SW_SHOWNORMAL));
+    return result > 32;
+}
+
+} // namespace varno::win32
