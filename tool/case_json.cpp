@@ -1,46 +1,23 @@
 #include "tool/case_json.h"
 
-#include <cmath>
-#include <cstdio>
-
-#include "base/numbers.h"
+#include "tool/json_text.h"
 
 namespace varno::tool {
 
 namespace {
 
-std::string jsonOf(const std::string& utf8) {
-    std::string out = "\"";
-    for (const char c : utf8) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (c == '"' || c == '\\') {
-            out += '\\';
-            out += c;
-        } else if (byte < 0x20 || byte == 0x7F) {
-            char escape[8];
-            std::snprintf(escape, sizeof escape, "\\u%04x", static_cast<unsigned>(byte));
-            out += escape;
-        } else {
-            out += c;
-        }
-    }
-    return out + '"';
-}
-
 std::string jsonOf(std::int16_t value) {
     return std::to_string(value);
 }
 
-// The general form has no sign for a zero, a single may have one.
-template <typename Real>
-std::string jsonOfReal(Real value) {
-    return value == 0 && std::signbit(value) ? "-0.0" : generalForm(value);
+std::string jsonOf(const std::string& utf8) {
+    return jsonText(utf8);
 }
 std::string jsonOf(float value) {
-    return jsonOfReal(value);
+    return jsonNumber(value);
 }
 std::string jsonOf(const Factor& factor) {
-    return factor ? jsonOfReal(*factor) : "null";
+    return factor ? jsonNumber(*factor) : "null";
 }
 
 template <typename T, int First, int Last>

@@ -6,6 +6,7 @@
 #include <ostream>
 
 #include "tool/commands.h"
+#include "tool/drawing_commands.h"
 
 namespace varno::tool {
 
@@ -15,6 +16,7 @@ enum ExitCode { done = 0, runTimeError = 1, wrongUsage = 2 };
 
 struct Request {
     std::string file;
+    std::string moments;
     std::string target;
     std::function<void(FileOpener&, std::ostream&)> run;
 };
@@ -55,6 +57,43 @@ void addFileCommand(CLI::App& app, Request& request, const char* name, const cha
     });
 }
 
+using Action = std::function<void(FileOpener&, std::ostream&)>;
+
+// A picture is either listed or drawn into a file.
+void addPictureOptions(CLI::App& command, Request& request, const Action& list, const Action& draw) {
+    const std::string listDescription = "Skriver det som ritas, ett JSON-objekt per rad";
+    const CLI::Option* listed = command.add_flag("--list", listDescription)->group("Val");
+    const CLI::Option* drawn =
+        command.add_option("--svg", request.target, "Ritar till en SVG-fil")->type_name("UT")->group("Val");
+    command.callback([listed, drawn, list, draw, &request] {
+        if ((listed->count() != 0) == (drawn->count() != 0)) throw CLI::RequiredError("--list | --svg");
+        request.run = listed->count() != 0 ? list : draw;
+    });
+}
+
+void addSketch(CLI::App& app, Request& request) {
+    CLI::App* sketch = addCommand(app, "sketch", "Ritar skissen till en indatafil");
+    addPath(*sketch, "FIL", request.file, "Filen som läses");
+    addPictureOptions(
+        *sketch, request,
+        [&request](FileOpener& opener, std::ostream& out) { listSketch(opener, request.file, out); },
+        [&request](FileOpener& opener, std::ostream&) { drawSketch(opener, request.file, request.target); });
+}
+
+void addDiagram(CLI::App& app, Request& request) {
+    CLI::App* diagram = addCommand(app, "diagram", "Ritar momentdiagrammet till en indatafil");
+    addPath(*diagram, "FIL", request.file, "Indatafilen");
+    addPath(*diagram, "MOMK", request.moments, "Filen med momentkurvorna");
+    addPictureOptions(
+        *diagram, request,
+        [&request](FileOpener& opener, std::ostream& out) {
+            listDiagram(opener, request.file, request.moments, out);
+        },
+        [&request](FileOpener& opener, std::ostream&) {
+            drawDiagram(opener, request.file, request.moments, request.target);
+        });
+}
+
 void addCommands(CLI::App& app, Request& request) {
     speakSwedish(app);
     app.require_subcommand(1);
@@ -68,7 +107,10 @@ void addCommands(CLI::App& app, Request& request) {
         };
     });
     addFileCommand(app, request, "result", "Skriver texten i en resultatfil", printResult);
+    addFileCommand(app, request, "pages", "Skriver utskriftens sidor som JSON", printPages);
     addFileCommand(app, request, "show", "Visar indata i läsbar form", printReport);
+    addSketch(app, request);
+    addDiagram(app, request);
 }
 
 } // namespace

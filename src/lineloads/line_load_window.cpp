@@ -143,7 +143,8 @@ void LineLoadWindow::show() {
     if (!placed_) {
         placed_ = true;
         // Over the input form, so that the sketch above it stays in sight.
-        sizeAndCentre(raster(width), raster(heightOf(set_)), GetDlgItem(GetWindow(handle(), GW_OWNER), idMdiClient));
+        sizeAndCentre(raster(width), raster(heightOf(set_)),
+                      GetDlgItem(GetWindow(handle(), GW_OWNER), idMdiClient));
     }
     ShowWindow(handle(), SW_SHOW);
     SetForegroundWindow(handle());

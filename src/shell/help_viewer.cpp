@@ -32,17 +32,23 @@ bool HelpViewer::showFile(std::string_view topic, const std::vector<std::string>
 
 // A page of its own for each topic leads to the place in the one long page: Windows drops what stands behind "#" when
 // it is asked to open a file.
-bool HelpViewer::showTwin(std::string_view topic, const std::vector<std::string>& folders) {
+std::string HelpViewer::twinPage(std::string_view topic, const std::vector<std::string>& folders) {
     for (const std::string& folder : folders) {
         const std::string page = folder + "\\help\\amnen\\" + std::string(topic) + ".html";
-        if (system_.exists(page) && system_.openDocument(page)) return true;
+        if (system_.exists(page)) return page;
     }
-    return false;
+    return {};
 }
 
 void HelpViewer::show(std::string_view topic, const std::string& workFolder) {
     const auto places = folders(workFolder);
-    if (!showFile(topic, places) && !showTwin(topic, places)) boxes_.tell(helpMissing);
+    if (showFile(topic, places)) return;
+    const std::string page = twinPage(topic, places);
+    if (page.empty()) {
+        boxes_.tell(helpMissing);
+    } else if (!system_.openDocument(page)) {
+        boxes_.tell(helpNotOpened + page);
+    }
 }
 
 void HelpViewer::close() {

@@ -31,6 +31,10 @@ inline constexpr const char* helpMissing = "Hjälpen hittas inte. Varno.HLP, ell
                                            "HTML, ska ligga i arbetsmappen eller bredvid "
                                            "programmet.";
 
+/// Said, with the path behind it, when Windows has no program for the page.
+inline constexpr const char* helpNotOpened =
+    "Hjälpen kunde inte öppnas. Öppna den här filen i en webbläsare: ";
+
 /// Shows the help: the .HLP file, or its HTML twin where there is no viewer for the file or no file. Both are looked
 /// for where the help is registered, in the work folder and beside the program, in this order.
 class HelpViewer {
@@ -45,7 +49,7 @@ class HelpViewer {
   private:
     std::vector<std::string> folders(const std::string& workFolder);
     bool showFile(std::string_view topic, const std::vector<std::string>& folders);
-    bool showTwin(std::string_view topic, const std::vector<std::string>& folders);
+    std::string twinPage(std::string_view topic, const std::vector<std::string>& folders);
 
     HelpSystem& system_;
     MessageBoxes& boxes_;

@@ -1,0 +1,195 @@
+#include "driver/program.h"
+
+#include "driver/wait.h"
+#include "win32/strings.h"
+
+namespace varno::gui {
+
+using win32::narrow;
+using win32::wide;
+
+namespace {
+
+struct Search {
+    DWORD process;
+    std::wstring className;
+    HWND found;
+};
+
+BOOL CALLBACK matches(HWND window, LPARAM data) {
+    auto& search = *reinterpret_cast<Search*>(data);
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    if (process != search.process || !IsWindowVisible(window)) return TRUE;
+    wchar_t name[64] = L"";
+    GetClassNameW(window, name, 64);
+    if (name != search.className) return TRUE;
+    search.found = window;
+    return FALSE;
+}
+
+// The program takes its environment from this process.
+class ToldDpi {
+  public:
+    explicit ToldDpi(int dpi) {
+        const std::wstring text = std::to_wstring(dpi);
+        SetEnvironmentVariableW(L"VARNO_DPI", dpi != 0 ? text.c_str() : nullptr);
+    }
+    ~ToldDpi() { SetEnvironmentVariableW(L"VARNO_DPI", nullptr); }
+    ToldDpi(const ToldDpi&) = delete;
+    ToldDpi& operator=(const ToldDpi&) = delete;
+};
+
+} // namespace
+
+Program::Program(const Scene& scene, const StartOptions& options)
+    : Program(StartOptions{options.currentFolder.empty() ? scene.folder() : options.currentFolder,
+                           options.program, options.dpi}) {}
+
+Program::Program(const StartOptions& options) {
+    const ToldDpi dpi(options.dpi);
+    const std::wstring program =
+        wide(options.program.empty() ? programsFolder() + "\\varno.exe" : options.program);
+    std::wstring line = L"\"" + program + L"\"";
+    const std::wstring current = wide(options.currentFolder);
+    STARTUPINFOW start{};
+    start.cb = sizeof start;
+    PROCESS_INFORMATION started{};
+    if (!CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr, current.c_str(),
+                        &start, &started)) {
+        throw GuiError(narrow(program) + " cannot be started");
+    }
+    CloseHandle(started.hThread);
+    process_.reset(started.hProcess);
+    id_ = started.dwProcessId;
+    thread_ = started.dwThreadId;
+}
+
+Program::~Program() {
+    if (running()) TerminateProcess(process(), 99);
+    WaitForSingleObject(process(), patience);
+}
+
+bool Program::running() const {
+    return WaitForSingleObject(process(), 0) == WAIT_TIMEOUT;
+}
+
+DWORD Program::exitCode() {
+    if (WaitForSingleObject(process(), patience) != WAIT_OBJECT_0) throw GuiError("the program does not end");
+    DWORD code = 0;
+    GetExitCodeProcess(process(), &code);
+    return code;
+}
+
+bool Program::until(const std::function<bool()>& done) const {
+    return waitUntil(done, process());
+}
+
+std::optional<Control> Program::find(const std::string& className) const {
+    Search search{id_, wide(className), nullptr};
+    EnumWindows(matches, reinterpret_cast<LPARAM>(&search));
+    if (search.found == nullptr) return std::nullopt;
+    return Control(search.found);
+}
+
+Control Program::window(const std::string& className) const {
+    std::optional<Control> found;
+    if (!until([&] { return (found = find(className)).has_value(); })) {
+        throw GuiError("the program does not show the window " + className);
+    }
+    return *found;
+}
+
+void Program::waitGone(const Control& window) const {
+    if (!until([&] { return !window.visible(); })) throw GuiError("the window does not go");
+}
+
+Control Program::form() const {
+    const Control client = main().item(idMdiClient);
+    const HWND form = FindWindowExW(client.handle(), nullptr, wide(formClass).c_str(), nullptr);
+    if (form == nullptr) throw GuiError("there is no input form");
+    return Control(form);
+}
+
+void Program::passStartUp() {
+    while (true) {
+        std::optional<Control> box;
+        if (!until([&] { return (box = find(noticeClass)) || (box = find(disclaimerClass)); })) {
+            throw GuiError("the program does not start");
+        }
+        const bool last = box->className() == disclaimerClass;
+        box->item(idOkButton).click();
+        waitGone(*box);
+        if (last) break;
+    }
+    if (!until([&] { return main().enabled() && !caption().empty() && focused() == field(Field::rubrik); })) {
+        throw GuiError("start-up does not come to its end");
+    }
+}
+
+Control Program::focused() const {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(thread_, &info);
+    return Control(info.hwndFocus);
+}
+
+void Program::typeInto(varno::Control control, const std::string& text) const {
+    const Control box = field(control);
+    // Where the focus already is, the click would come after the selecting and undo it.
+    if (focused() != box) box.clickInto();
+    if (!until([&] { return focused() == box; })) throw GuiError("a field does not take the focus");
+    box.selectAll();
+    // An empty text is the selection deleted.
+    if (text.empty()) box.key(VK_DELETE);
+    box.type(text);
+    if (!until([&] { return box.text() == text; })) throw GuiError("a field does not take the text " + text);
+}
+
+Message Program::message() const {
+    const Control box = window(messageBoxClass);
+    Message message{box.text(), ""};
+    for (const Control& part : box.children()) {
+        if (part.className() == "Static" && message.text.empty()) message.text = part.text();
+    }
+    return message;
+}
+
+Message Program::answer(int button) const {
+    const Message said = message();
+    const Control box = window(messageBoxClass);
+    box.item(button).click();
+    // The next box may come at once, so this one is waited for and not its class.
+    if (!until([&] { return !IsWindow(box.handle()) || !box.visible(); })) {
+        throw GuiError("a message box does not go");
+    }
+    return said;
+}
+
+void Program::chooseFile(const std::string& name) const {
+    const Control dialog = window(fileDialogClass);
+    dialog.item(idFileName).setText(name);
+    dialog.item(idOkButton).click();
+}
+
+// Waits until the file-name dialog is gone and `done`. A message instead is an error.
+void Program::settle(const std::function<bool()>& done, const std::string& failure) const {
+    const bool settled = until(
+        [&] { return shows(messageBoxClass) || (!shows(fileDialogClass) && main().enabled() && done()); });
+    if (shows(messageBoxClass)) throw GuiError(failure + ": " + message().text);
+    if (!settled) throw GuiError(failure);
+}
+
+void Program::open(const std::string& name) const {
+    command(idOpen);
+    chooseFile(name);
+    settle([&] { return focused() == field(Field::rubrik); }, name + " is not opened");
+}
+
+void Program::saveAs(const std::string& name) const {
+    command(idSaveAs);
+    chooseFile(name);
+    settle([] { return true; }, name + " is not saved");
+}
+
+} // namespace varno::gui

@@ -1,0 +1,123 @@
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <initializer_list>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "driver/control.h"
+#include "driver/scene.h"
+#include "model/form_view.h"
+#include "shell/control_ids.h"
+#include "win32/unique.h"
+
+namespace varno::gui {
+
+// The window classes of the program.
+inline constexpr const char* mainClass = "VarnoMain";
+inline constexpr const char* formClass = "VarnoInputForm";
+inline constexpr const char* noticeClass = "VarnoForm10";
+inline constexpr const char* disclaimerClass = "VarnoForm9";
+inline constexpr const char* fileDialogClass = "VarnoFileInfo";
+inline constexpr const char* savePromptClass = "VarnoSavePrompt";
+inline constexpr const char* viewerClass = "VarnoForm6";
+inline constexpr const char* fontChooserClass = "VarnoTypsn";
+inline constexpr const char* messageBoxClass = "#32770";
+
+struct StartOptions {
+    std::string currentFolder; ///< the scene's own when empty
+    std::string program;       ///< its path; the one that was built when empty
+    int dpi = 0;               ///< the resolution that the program is told; 0: the screen's
+};
+
+/// A menu line read back from a window, with its depth below the menu bar.
+struct MenuLine {
+    int depth;
+    std::string caption; ///< "-" for a separator
+    int id;              ///< 0 for a separator or a menu
+    bool enabled;
+    bool operator==(const MenuLine&) const = default;
+};
+
+struct ToolbarButton {
+    int id;
+    std::string tip;
+    bool enabled;
+};
+
+struct Message {
+    std::string title;
+    std::string text;
+    bool operator==(const Message&) const = default;
+};
+
+/// The running `varno.exe`. Its end ends the process too, whatever state it is in.
+class Program {
+  public:
+    explicit Program(const Scene& scene, const StartOptions& options = {});
+    explicit Program(const StartOptions& options);
+    ~Program();
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    /// Past the notice, if it comes, and the disclaimer, to the main window with the case in it.
+    void passStartUp();
+
+    HANDLE process() const { return process_.get(); }
+    bool running() const;
+    /// Waits for the end. \throws GuiError when it does not end.
+    DWORD exitCode();
+
+    /// The visible window of a class, if any.
+    std::optional<Control> find(const std::string& className) const;
+    bool shows(const std::string& className) const { return find(className).has_value(); }
+    /// Waits for it. \throws GuiError when it does not come.
+    Control window(const std::string& className) const;
+    void waitGone(const Control& window) const;
+    bool until(const std::function<bool()>& done) const;
+
+    Control main() const { return window(mainClass); }
+    Control form() const;
+    Control field(varno::Control control) const { return form().item(controlId(control)); }
+    Control field(Field field, int index = 0) const { return this->field(varno::Control{field, index}); }
+    std::string caption() const { return main().text(); }
+    /// The control that has the keyboard focus.
+    Control focused() const;
+
+    /// Gives a menu command; it may open a modal window, so nothing is waited for.
+    void command(int id) const { main().post(WM_COMMAND, static_cast<WPARAM>(id)); }
+    /// Puts a text into a field of the form as a user does: clicks into it, selects all, types. The field
+    /// keeps the focus.
+    void typeInto(varno::Control control, const std::string& text) const;
+
+    /// Waits for a message box and closes it with one of its buttons.
+    Message answer(int button = IDOK) const;
+    Message message() const; ///< the same, left open
+
+    /// The file-name dialog: waits for it, types the name, presses "OK".
+    void chooseFile(const std::string& name) const;
+    void open(const std::string& name) const;
+    void saveAs(const std::string& name) const;
+
+    std::vector<MenuLine> menuOf(const Control& window) const;
+    bool diagramEnabled() const;
+    std::vector<ToolbarButton> toolbarButtons() const;
+    void clickToolbar(int id) const;
+    LOGFONTW fontOf(const Control& control) const;
+    std::string currentDirectory() const;
+
+  private:
+    void settle(const std::function<bool()>& done, const std::string& failure) const;
+    void readMenu(DWORD menu, int depth, std::vector<MenuLine>& lines) const;
+    DWORD user(const char* function, std::initializer_list<DWORD> arguments) const;
+
+    win32::UniqueHandle process_;
+    DWORD id_ = 0;
+    DWORD thread_ = 0;
+};
+
+} // namespace varno::gui

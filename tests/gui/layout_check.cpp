@@ -1,0 +1,144 @@
+#include "layout_check.h"
+
+#include <algorithm>
+
+#include "win32/strings.h"
+#include "win32/unique.h"
+
+namespace varno::gui {
+
+namespace {
+
+SIZE sizeOf(const RECT& box) {
+    return {box.right - box.left, box.bottom - box.top};
+}
+
+// Measures texts in the font of a control of the program, made again in this process.
+class Measure {
+  public:
+    Measure(const Program& program, const Control& control)
+        : font_([&] {
+              const LOGFONTW font = program.fontOf(control);
+              return CreateFontIndirectW(&font);
+          }()),
+          selected_(dc_.get(), font_.get()) {}
+
+    LONG width(const std::string& text) const {
+        const std::wstring letters = win32::wide(text);
+        SIZE size{};
+        GetTextExtentPoint32W(dc_.get(), letters.c_str(), static_cast<int>(letters.size()), &size);
+        return size.cx;
+    }
+    // The height of the text broken into lines of this width, and the width that it then takes.
+    SIZE broken(const std::string& text, LONG within) const {
+        RECT box{0, 0, within, 0};
+        DrawTextW(dc_.get(), win32::wide(text).c_str(), -1, &box, DT_WORDBREAK | DT_CALCRECT | DT_NOPREFIX);
+        return sizeOf(box);
+    }
+
+  private:
+    win32::WindowDc dc_{nullptr};
+    win32::UniqueFont font_;
+    win32::Selected selected_;
+};
+
+bool isGroup(const Control& control) {
+    return control.className() == "Button" && (control.style() & BS_TYPEMASK) == BS_GROUPBOX;
+}
+
+bool buttonFits(const Control& control, const Measure& measure, int dpi) {
+    const LONG text = measure.width(control.text());
+    const LONG width = sizeOf(control.place()).cx;
+    switch (control.style() & BS_TYPEMASK) {
+    case BS_OWNERDRAW:
+        return true;
+    case BS_GROUPBOX:
+        return text + MulDiv(16, dpi, 96) <= width;
+    case BS_AUTORADIOBUTTON:
+    case BS_AUTOCHECKBOX:
+        // The circle or box, and the room behind it.
+        return text + MulDiv(13 + 5, dpi, 96) <= width;
+    default:
+        return text + MulDiv(10, dpi, 96) <= width;
+    }
+}
+
+bool staticFits(const Control& control, const Measure& measure) {
+    const SIZE room = sizeOf(control.place());
+    std::string text = control.text();
+    if ((control.style() & SS_TYPEMASK) == SS_OWNERDRAW) {
+        // A letter five quarters as large, and a smaller subscript behind the "_".
+        text.erase(std::remove(text.begin(), text.end(), '_'), text.end());
+        return measure.width(text) * 5 / 4 <= room.cx;
+    }
+    const SIZE needed = measure.broken(text, room.cx);
+    return needed.cx <= room.cx && needed.cy <= room.cy;
+}
+
+bool editFits(const Control& control, const Measure& measure) {
+    // Only numbers have their place; a title or a path may be longer than its box.
+    if ((control.style() & ES_RIGHT) == 0) return true;
+    RECT inside{};
+    control.send(EM_GETRECT, 0, reinterpret_cast<LPARAM>(&inside));
+    // With the caret behind it, or the box scrolls its first digit away.
+    return measure.width(control.text()) + 1 <= sizeOf(inside).cx;
+}
+
+bool listFits(const Control& control, const Measure& measure, int dpi) {
+    LONG widest = 0;
+    for (const std::string& row : control.rows())
+        widest = std::max(widest, measure.width(row));
+    return widest + MulDiv(17 + 8, dpi, 96) <= sizeOf(control.place()).cx;
+}
+
+bool fits(const Program& program, const Control& control, int dpi) {
+    const Measure measure(program, control);
+    const std::string kind = control.className();
+    if (kind == "Button") return buttonFits(control, measure, dpi);
+    if (kind == "Static") return staticFits(control, measure);
+    if (kind == "Edit") return editFits(control, measure);
+    if (kind == "ComboBox") return listFits(control, measure, dpi);
+    return true;
+}
+
+std::string nameOf(const Control& control) {
+    return control.className() + " " + std::to_string(control.id()) + " \"" + control.text() + "\"";
+}
+
+bool canBeMeasured(const Control& control) {
+    const std::string kind = control.className();
+    return kind == "Button" || kind == "Static" || kind == "Edit" || kind == "ComboBox";
+}
+
+} // namespace
+
+std::vector<std::string> layoutFaults(const Program& program, const Control& window, int dpi) {
+    std::vector<std::string> faults;
+    RECT client{};
+    GetClientRect(window.handle(), &client);
+    const auto children = window.children();
+    std::vector<Control> shown;
+    for (const Control& child : children) {
+        if (canBeMeasured(child) && !fits(program, child, dpi)) faults.push_back(nameOf(child) + " is cut");
+        const RECT box = child.place();
+        RECT common{};
+        // A label without a text takes no room.
+        if (!child.visible() || (child.className() == "Static" && child.text().empty())) continue;
+        IntersectRect(&common, &box, &client);
+        if (!EqualRect(&common, &box)) faults.push_back(nameOf(child) + " is not inside");
+        // A frame's content lies on it.
+        if (!isGroup(child)) shown.push_back(child);
+    }
+    for (std::size_t i = 0; i < shown.size(); ++i) {
+        for (std::size_t k = i + 1; k < shown.size(); ++k) {
+            const RECT one = shown[i].place();
+            const RECT other = shown[k].place();
+            RECT common{};
+            if (!IntersectRect(&common, &one, &other)) continue;
+            faults.push_back(nameOf(shown[i]) + " overlaps " + nameOf(shown[k]));
+        }
+    }
+    return faults;
+}
+
+} // namespace varno::gui

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "driver/program.h"
+
+namespace varno::gui {
+
+/// What is wrong with how the controls of a window stand at this resolution, one line each: a caption that
+/// its control cannot show whole, a control outside the window, two that overlap.
+std::vector<std::string> layoutFaults(const Program& program, const Control& window, int dpi);
+
+} // namespace varno::gui

@@ -1,0 +1,95 @@
+// Every window at 100, 150 and 200 %: captions are shown whole and nothing overlaps.
+#include <gtest/gtest.h>
+
+#include "driver/program.h"
+#include "layout_check.h"
+#include "soon.h"
+
+namespace varno::gui {
+namespace {
+
+class Layout : public ::testing::TestWithParam<int> {
+  protected:
+    Layout() {
+        options.dpi = GetParam();
+        scene.remove("varno.ver");
+        scene.write("TIOFACK.res", "Resultat\r\n");
+    }
+
+    static void expectSound(const Program& program, const Control& window) {
+        EXPECT_EQ(layoutFaults(program, window, GetParam()), std::vector<std::string>{})
+            << window.className() << " at " << GetParam() << " dpi";
+    }
+    static void expectBandSound(const Program& program) {
+        for (const std::string& fault : layoutFaults(program, program.main(), GetParam())) {
+            // On a screen that is too small for it, the window shows a part of the band.
+            if (fault.find("is not inside") == std::string::npos) ADD_FAILURE() << fault;
+        }
+    }
+    static void close(const Program& program, const Control& window, int button) {
+        window.item(button).click();
+        program.waitGone(window);
+    }
+
+    Scene scene;
+    StartOptions options;
+};
+
+TEST_P(Layout, OfTheStartUpWindows) {
+    const Program program(scene, options);
+    const Control notice = program.window(noticeClass);
+    expectSound(program, notice);
+    close(program, notice, idOkButton);
+    expectSound(program, program.window(disclaimerClass));
+}
+
+TEST_P(Layout, OfTheFormAndTheBandAboveIt) {
+    Program program(scene, options);
+    program.passStartUp();
+    for (const char* name : {"BOSTAD.IND", "TIOFACK.IND"}) {
+        program.open(name);
+        expectSound(program, program.form());
+    }
+    // The name beside each of the flags.
+    for (int flag = 3; flag < 3 + 6; ++flag) {
+        const Control shown = program.main().item(idFlag + (flag - 1) % 6 + 1);
+        expectSoon(program, true, [&] { return shown.visible(); });
+        expectBandSound(program);
+        shown.click();
+    }
+}
+
+TEST_P(Layout, OfTheDialogsAndTheViewer) {
+    Program program(scene, options);
+    program.passStartUp();
+    program.open("TIOFACK.IND");
+    for (const int command : {idOpen, idSaveAs}) {
+        program.command(command);
+        const Control dialog = program.window(fileDialogClass);
+        expectSound(program, dialog);
+        close(program, dialog, idCancelButton);
+    }
+    program.command(idShowResult);
+    const Control viewer = program.window(viewerClass);
+    expectSound(program, viewer);
+    viewer.post(WM_COMMAND, idEditFont);
+    const Control chooser = program.window(fontChooserClass);
+    expectSound(program, chooser);
+    close(program, chooser, idCancelButton);
+    close(program, viewer, idReturn);
+
+    program.typeInto({Field::rubrik}, "Ändrad");
+    program.command(idNew);
+    const Control prompt = program.window(savePromptClass);
+    expectSound(program, prompt);
+    close(program, prompt, idNoButton);
+    expectCaption(program, "NAMNLÖS.IND");
+    program.typeInto({Field::rubrik}, "Ändrad");
+    program.command(idExit);
+    expectSound(program, program.window(savePromptClass));
+}
+
+INSTANTIATE_TEST_SUITE_P(Scale, Layout, ::testing::Values(96, 144, 192));
+
+} // namespace
+} // namespace varno::gui
