@@ -1,7 +1,6 @@
 #include "shell/application_window.h"
 
 #include <algorithm>
-#include <set>
 
 #include "base/run_time_error.h"
 #include "shell/application_parts_window.h"
@@ -15,12 +14,6 @@
 namespace varno {
 
 namespace {
-
-// The menu items that have a command.
-const std::set<int> commands{idNew,          idOpen,          idSave,         idSaveAs,     idPrint,
-                             idPrinterSetup, idExit,          idLineLoads,    idRun,        idShowResult,
-                             idPrintResult,  idDeleteResults, idDeleteInputs, idDeleteBoth, idMoment,
-                             idImportant,    idFreeLineLoads};
 
 constexpr const char* errorTitle = "Varno";
 
@@ -38,7 +31,8 @@ Application::Application()
       document_(case_, state_, filler_, form_, main_, files_, fileDialog_, boxes_, *this),
       printing_(files_, boxes_, main_, printer_), deletion_(folders_, systemFileCalls()),
       diagram_(case_, sketch_) {
-    main_.create(commands);
+    commands_ = commandTable();
+    main_.create([this](int id) { return commands_.contains(id); });
     form_.create(main_.mdiClient());
     setHelpContexts(main_.handle(), form_.handle());
     helpSystem_.setOwner(main_.handle());
@@ -112,60 +106,37 @@ bool Application::translateFlagKey(const MSG& message) {
 
 // Main window
 
+std::map<int, std::function<void()>> Application::commandTable() {
+    const auto deleting = [this](std::size_t item) {
+        return [this, item] { deleteFiles(deletionMenu[item].pattern); };
+    };
+    return {
+        {idNew, [this] { document_.newCase(settings_.workFolder); }},
+        {idOpen, [this] { document_.open(); }},
+        {idSave, [this] { document_.save(); }},
+        {idSaveAs, [this] { document_.saveAs(); }},
+        {idPrint, [this] { printChosen(); }},
+        {idPrinterSetup, [this] { setUpPrinter(); }},
+        {idExit, [this] { document_.exit(); }},
+        {idLineLoads, [this] { openLineLoads(lineLoads_, caseLineLoads); }},
+        {idFreeLineLoads, [this] { openLineLoads(freeLoads_, freeLineLoads); }},
+        {idRun, [this] { calculate(); }},
+        {idShowResult, [this] { showResult(); }},
+        {idPrintResult, [this] { printCurrent(); }},
+        {idDeleteResults, deleting(0)},
+        {idDeleteInputs, deleting(1)},
+        {idDeleteBoth, deleting(2)},
+        {idMoment, [this] { showMoments(); }},
+        {idImportant, [this] { showImportant(); }},
+    };
+}
+
 void Application::command(int id) {
+    const auto found = commands_.find(id);
+    if (found == commands_.end()) return;
     // However a file command was given: what is being typed belongs to the case it works on.
     if (id >= idNew && id <= idExit) endTyping();
-    switch (id) {
-    case idNew:
-        document_.newCase(settings_.workFolder);
-        break;
-    case idOpen:
-        document_.open();
-        break;
-    case idSave:
-        document_.save();
-        break;
-    case idSaveAs:
-        document_.saveAs();
-        break;
-    case idExit:
-        document_.exit();
-        break;
-    case idPrint:
-        printChosen();
-        break;
-    case idPrinterSetup:
-        setUpPrinter();
-        break;
-    case idLineLoads:
-        openLineLoads(lineLoads_, caseLineLoads);
-        break;
-    case idFreeLineLoads:
-        openLineLoads(freeLoads_, freeLineLoads);
-        break;
-    case idRun:
-        calculate();
-        break;
-    case idShowResult:
-        showResult();
-        break;
-    case idPrintResult:
-        printCurrent();
-        break;
-    case idDeleteResults:
-    case idDeleteInputs:
-    case idDeleteBoth:
-        deleteFiles(deletionMenu[static_cast<std::size_t>(id - idDeleteResults)].pattern);
-        break;
-    case idMoment:
-        showMoments();
-        break;
-    case idImportant:
-        showImportant();
-        break;
-    default:
-        break;
-    }
+    found->second();
 }
 
 void Application::endTyping() {

@@ -50,13 +50,13 @@ int MainWindow::px(int twips) const {
     return win32::pixels(twips, dpi_);
 }
 
-HMENU MainWindow::buildMenu(const std::set<int>& commands) {
+HMENU MainWindow::buildMenu() {
     const HMENU bar = CreateMenu();
     HMENU menu = nullptr;
     HMENU submenu = nullptr;
     for (const MenuEntry& entry : menuTree) {
         const std::wstring caption = win32::wide(entry.caption);
-        const UINT state = commands.contains(entry.id) ? MF_ENABLED : MF_GRAYED;
+        const UINT state = hasCommand_(entry.id) ? MF_ENABLED : MF_GRAYED;
         const auto id = static_cast<UINT_PTR>(entry.id);
         switch (entry.kind) {
         case MenuEntry::menu:
@@ -85,15 +85,14 @@ HMENU MainWindow::buildMenu(const std::set<int>& commands) {
     return bar;
 }
 
-void MainWindow::create(const std::set<int>& commands) {
-    commands_ = commands;
-    Window::create(L"VarnoMain", "", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, 0, nullptr, buildMenu(commands),
-                   {});
+void MainWindow::create(const std::function<bool(int id)>& hasCommand) {
+    hasCommand_ = hasCommand;
+    Window::create(L"VarnoMain", "", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, 0, nullptr, buildMenu(), {});
     // The menu tree is fixed, so the help command stands in the menu of the window itself.
     AppendMenuW(GetSystemMenu(handle(), FALSE), MF_STRING, idHelp, L"Hjälp\tF1");
     createParts();
     for (const ToolbarKey& key : toolbarKeys)
-        toolbar_.setEnabled(key.id, commands_.contains(key.id));
+        toolbar_.setEnabled(key.id, hasCommand_(key.id));
     setDpi(win32::dpiOf(handle()));
 }
 
@@ -231,7 +230,7 @@ void MainWindow::setDiagramEnabled(bool enabled) {
     diagramEnabled_ = enabled;
     EnableMenuItem(GetMenu(handle()), diagramMenuPlace, MF_BYPOSITION | (enabled ? MF_ENABLED : MF_GRAYED));
     DrawMenuBar(handle());
-    toolbar_.setEnabled(idMoment, enabled && commands_.contains(idMoment));
+    toolbar_.setEnabled(idMoment, enabled && hasCommand_(idMoment));
 }
 
 void MainWindow::showFlag(int flag) {
@@ -258,7 +257,7 @@ LRESULT MainWindow::onCommand(WPARAM wParam, LPARAM lParam) {
         sendHelpKey();
         return 0;
     }
-    if (commands_.contains(id)) {
+    if (hasCommand_(id)) {
         // A toolbar button leaves the focus where it is; the field being typed in is ended as "Arkiv" ends it.
         if (reinterpret_cast<HWND>(lParam) == toolbar_.handle()) events_.endTyping();
         events_.command(id);

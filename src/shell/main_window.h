@@ -1,7 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <set>
 
 #include "input/sketch_picture.h"
 #include "model/main_view.h"
@@ -44,8 +43,8 @@ class MainWindow : public win32::Window, public MainView {
     MainWindow(win32::WindowHost& host, MainEvents& events, const SketchPicture& sketch);
     ~MainWindow() override;
 
-    /// Creates the window, hidden. `commands` are the menu items that do something; the others are greyed.
-    void create(const std::set<int>& commands);
+    /// Creates the window, hidden. An item that has no command is greyed.
+    void create(const std::function<bool(int id)>& hasCommand);
     /// Shows it; the first time with room for a form of `form` pixels.
     void show(SIZE form);
     HWND mdiClient() const { return mdiClient_; }
@@ -69,7 +68,7 @@ class MainWindow : public win32::Window, public MainView {
 
   private:
     void createParts();
-    HMENU buildMenu(const std::set<int>& commands);
+    HMENU buildMenu();
     void layOut();
     void setDpi(int dpi);
     int px(int twips) const;
@@ -89,7 +88,7 @@ class MainWindow : public win32::Window, public MainView {
     HMENU fileMenu_ = nullptr;
     win32::UniqueFont font_;
     HWND lastFocus_ = nullptr;
-    std::set<int> commands_;
+    std::function<bool(int id)> hasCommand_;
     bool diagramEnabled_ = true;
     int dpi_ = USER_DEFAULT_SCREEN_DPI;
     int flag_ = -1;
