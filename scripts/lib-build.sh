@@ -53,12 +53,24 @@ prepare_work_folder() {
         program=$(windows_program "$name")
         refresh "$program" "$folder/$name"
     done
+    refresh_help "$folder"
     for file in "$project"/samples/*.IND "$project"/samples/varno.def; do
         name=${file##*/}
         [[ -f $file ]] || fail "samples/$name is missing"
         has_file "$folder" "$name" || cp -- "$file" "$folder/$name"
     done
     write_varno_ini "$folder"
+}
+
+# The program looks for Varno.HLP, and for its HTML twin in a folder named help, in the work folder and beside itself.
+refresh_help() {
+    local built=$project/build/windows/help name
+    for name in Varno.HLP Varno.cnt; do
+        [[ -f $built/$name ]] || fail "the build left no $name"
+        refresh "$built/$name" "$1/$name"
+    done
+    mkdir -p -- "$1/help"
+    cp -R -- "$built/html/." "$1/help/"
 }
 
 # The quotation marks keep a folder with a comma whole; the program reads single bytes.

@@ -23,6 +23,7 @@ constexpr int panelTop = frameBottom + 10;
 constexpr int panelHeight = 34 + 4 * rowPitch + 8;
 constexpr std::array columnX{30, 130, 300};
 constexpr std::array boxWidth{54, 84, 84};
+constexpr std::array headWidth{90, 160, 100};
 
 constexpr std::array rowBoxes{LineLoadBox::llfnr, LineLoadBox::avst, LineLoadBox::lllast};
 
@@ -56,8 +57,8 @@ void addRows(Layout& form) {
     form.number({LineLoadBox::nllast}, 138, 29, 34);
     form.add(idLineLoadSpin, ControlKind::spin, "", 172, 29, 18, 21);
     for (std::size_t column = 0; column < columnX.size(); ++column) {
-        form.label(lineLoadColumns[column].heading, columnX[column], 58, 165);
-        form.label(lineLoadColumns[column].unit, columnX[column], 74, 80);
+        form.label(lineLoadColumns[column].heading, columnX[column], 58, headWidth[column]);
+        form.label(lineLoadColumns[column].unit, columnX[column], 74, headWidth[column]);
     }
     for (int row = 1; row <= maxLineLoads; ++row) {
         for (std::size_t column = 0; column < columnX.size(); ++column) {

@@ -1,0 +1,94 @@
+#include "shell/help_topics.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+#include <string>
+
+#include "help/help_pages.h"
+#include "shell/control_ids.h"
+#include "shell/menu_table.h"
+#include "support/temporary_folder.h"
+
+namespace varno::testing {
+namespace {
+
+TEST(HelpTopics, NoTopicAndNoNumberStandsTwice) {
+    std::set<std::string_view> names;
+    std::set<unsigned> numbers;
+    for (const HelpTopic& topic : helpTopics) {
+        EXPECT_TRUE(names.insert(topic.name).second) << topic.name;
+        EXPECT_TRUE(numbers.insert(topic.context).second) << topic.name;
+        EXPECT_NE(topic.context, 0U);
+        EXPECT_EQ(helpContext(topic.name), topic.context);
+        EXPECT_EQ(helpTopicOfContext(topic.context), topic.name);
+    }
+    EXPECT_EQ(helpContext("falt-finns-inte"), 0U);
+    EXPECT_EQ(helpTopicOfContext(0), "");
+}
+
+TEST(HelpTopics, EveryControlOfTheFormHasATopicOfItsOwnField) {
+    std::set<std::string_view> topics;
+    for (int field = 0; field < static_cast<int>(Field::loadFrame); ++field) {
+        const std::string_view topic = helpTopicOf(Control{static_cast<Field>(field)});
+        EXPECT_NE(helpContext(topic), 0U) << field << " " << topic;
+        EXPECT_TRUE(topic.starts_with("falt-")) << topic;
+        topics.insert(topic);
+    }
+    // The spin button shares the topic of the span count.
+    EXPECT_EQ(topics.size(), static_cast<std::size_t>(Field::loadFrame) - 1);
+    EXPECT_EQ(helpTopicOf(Control{Field::spin1}), helpTopicOf(Control{Field::nfack}));
+    EXPECT_NE(helpContext(helpTopicOf(Control{Field::loadFrame})), 0U);
+}
+
+TEST(HelpTopics, EveryBoxOfTheLineLoadEditorsHasATopic) {
+    std::set<std::string_view> topics;
+    for (const LineLoadBox box :
+         {LineLoadBox::nllast, LineLoadBox::llfnr, LineLoadBox::avst, LineLoadBox::lllast})
+        topics.insert(helpTopicOf(LineLoadControl{box, 1}));
+    for (int multiplier = 1; multiplier <= 4; ++multiplier)
+        topics.insert(helpTopicOf(LineLoadControl{LineLoadBox::multiplier, multiplier}));
+    EXPECT_EQ(topics.size(), 8U);
+    topics.insert(helpTopicOf(LineLoadControl{LineLoadBox::multiplier, 5}));
+    for (const std::string_view topic : topics)
+        EXPECT_NE(helpContext(topic), 0U) << topic;
+}
+
+TEST(HelpTopics, EveryMenuItemHasTheTopicOfItsName) {
+    for (const MenuEntry& entry : menuTree) {
+        if (entry.id == 0) continue;
+        EXPECT_EQ(helpTopicOfMenu(entry.id), std::string("meny-") + entry.name);
+    }
+    EXPECT_EQ(helpTopicOfMenu(0), "menyer");
+    EXPECT_EQ(helpTopicOfMenu(idEditFont), "menyer");
+    EXPECT_NE(helpContext("menyer"), 0U);
+}
+
+TEST(HelpTopics, EveryWindowOfTheProgramHasATopic) {
+    std::set<std::string> classes;
+    for (const auto& file : filesOf(sourceFolder() / "src", "_window.cpp")) {
+        for (const std::string& name : between(contentOf(file), "L\"Varno", "\""))
+            classes.insert("Varno" + name);
+    }
+    // A picture is no window of its own: help is that of the window it stands in.
+    classes.erase("VarnoPicture");
+    EXPECT_GE(classes.size(), 14U);
+    for (const std::string& name : classes) {
+        const std::string_view topic = helpTopicOfWindow(name);
+        EXPECT_TRUE(topic.starts_with("fonster-")) << name;
+        EXPECT_NE(helpContext(topic), 0U) << name << " " << topic;
+    }
+    EXPECT_EQ(helpTopicOfWindow("Edit"), "");
+}
+
+TEST(HelpTopics, AMessageBoxHasTheTopicOfItsTitle) {
+    EXPECT_EQ(helpTopicOfMessage("Disk Error"), "medd-diskfel");
+    EXPECT_EQ(helpTopicOfMessage("Varno"), "medd-korfel");
+    EXPECT_EQ(helpTopicOfMessage(""), "meddelanden");
+    for (const char* title : {"Disk Error", "Varno", ""})
+        EXPECT_NE(helpContext(helpTopicOfMessage(title)), 0U);
+}
+
+} // namespace
+} // namespace varno::testing
