@@ -67,7 +67,7 @@ make_wine_root() {
     # A key that stands in the sources file itself has no name to hand on; apt's own keyrings serve then.
     [[ $signed != /* ]] || options+=" signed-by=$signed"
     [[ $trusted != yes ]] || options+=" trusted=yes"
-    : "${uri:=http://deb.debian.org/debian}"
+    [[ -n $uri ]] || fail "the apt sources of this machine name no Debian mirror to take the 32-bit Wine from"
 
     say "Making a root with 32-bit Wine from $uri (800 MB, in $wine_root)"
     as_root rm -rf --one-file-system -- "$new"
