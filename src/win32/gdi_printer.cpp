@@ -60,8 +60,10 @@ UniqueDc GdiPrinter::createDc() const {
     if (names.get() != nullptr) {
         const auto* devNames = static_cast<const DEVNAMES*>(names.get());
         const auto* texts = static_cast<const wchar_t*>(names.get());
-        return UniqueDc(CreateDCW(L"WINSPOOL", texts + devNames->wDeviceOffset, nullptr,
+        UniqueDc chosen(CreateDCW(L"WINSPOOL", texts + devNames->wDeviceOffset, nullptr,
                                   static_cast<const DEVMODEW*>(mode.get())));
+        // The printer that was chosen may have been removed since.
+        if (chosen) return chosen;
     }
     const std::wstring name = defaultPrinterName();
     if (name.empty()) return nullptr;
@@ -73,6 +75,14 @@ bool GdiPrinter::available() const {
 }
 
 void GdiPrinter::setUp(HWND owner) {
+    if (showSetUp(owner) || CommDlgExtendedError() == 0) return;
+    // The dialog does not come with a printer that has been removed since; it does with the default one.
+    mode_.reset();
+    names_.reset();
+    showSetUp(owner);
+}
+
+bool GdiPrinter::showSetUp(HWND owner) {
     PRINTDLGW dialog{};
     dialog.lStructSize = sizeof dialog;
     dialog.hwndOwner = owner;
@@ -80,9 +90,10 @@ void GdiPrinter::setUp(HWND owner) {
     // What was chosen before stands in the dialog: its orientation and its number of copies.
     dialog.hDevMode = mode_.release();
     dialog.hDevNames = names_.release();
-    PrintDlgW(&dialog);
+    const bool chosen = PrintDlgW(&dialog) != FALSE;
     mode_.reset(dialog.hDevMode);
     names_.reset(dialog.hDevNames);
+    return chosen;
 }
 
 void GdiPrinter::startDocument() {
@@ -94,15 +105,28 @@ void GdiPrinter::startDocument() {
     if (dc == nullptr || StartDocW(dc.get(), &info) <= 0) throw RunTimeError(errPrinter);
     dc_ = std::move(dc);
     canvas_ = std::make_unique<GdiCanvas>(dc_.get(), deviceCaps(LOGPIXELSX), RGB(0, 0, 0));
+    fontFace_.clear();
+}
+
+// The page number is asked for before anything starts the next document.
+void GdiPrinter::forgetDocument() {
+    canvas_.reset();
+    dc_.reset();
     page_ = 1;
     pageOpen_ = false;
-    fontFace_.clear();
+}
+
+// A document that a failing printer broke off would fail again at every later page.
+void GdiPrinter::fail() {
+    AbortDoc(dc_.get());
+    forgetDocument();
+    throw RunTimeError(errPrinter);
 }
 
 void GdiPrinter::startPage() {
     startDocument();
     if (pageOpen_) return;
-    if (StartPage(dc_.get()) <= 0) throw RunTimeError(errPrinter);
+    if (StartPage(dc_.get()) <= 0) fail();
     pageOpen_ = true;
     drawn_ = false;
     y_ = 0;
@@ -111,7 +135,7 @@ void GdiPrinter::startPage() {
 
 void GdiPrinter::endPage() {
     if (!std::exchange(pageOpen_, false)) return;
-    if (EndPage(dc_.get()) <= 0) throw RunTimeError(errPrinter);
+    if (EndPage(dc_.get()) <= 0) fail();
 }
 
 void GdiPrinter::newPage() {
@@ -172,8 +196,7 @@ void GdiPrinter::endDocument() {
     if (dc_ == nullptr) return;
     endPage();
     const bool ended = EndDoc(dc_.get()) > 0;
-    canvas_.reset();
-    dc_.reset();
+    forgetDocument();
     if (!ended) throw RunTimeError(errPrinter);
 }
 

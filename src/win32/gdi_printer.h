@@ -40,7 +40,10 @@ class GdiPrinter : public Printer {
     using UniqueGlobal = std::unique_ptr<HGLOBAL, GlobalFreer>;
 
     UniqueDc createDc() const;
+    bool showSetUp(HWND owner);
     void startDocument();
+    void forgetDocument();
+    [[noreturn]] void fail();
     void startPage();
     void endPage();
     void chooseFont();
