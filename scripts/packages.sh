@@ -1,7 +1,7 @@
 # shellcheck shell=bash disable=SC2034 # read by the scripts that source this file
 # Every package that the scripts install, and what it is for.
 
-# To configure and build on this machine: the core, varnotool, the tests and the benchmarks.
+# To configure and build on this machine: the core, varnotool, the help, the tests and the benchmarks.
 native_packages=(
     cmake
     ninja-build
@@ -10,6 +10,8 @@ native_packages=(
     nlohmann-json3-dev
     libcli11-dev
     libbenchmark-dev
+    halibut
+    python3
 )
 
 # To build varno.exe and its companions for 32-bit Windows, besides the packages above.
@@ -22,6 +24,14 @@ display_packages=(
     xvfb
     xdotool
     imagemagick
+)
+
+# To print without a printer and to look at what was printed.
+printing_packages=(
+    cups
+    cups-client
+    ghostscript
+    poppler-utils
 )
 
 # To make the Wine root when no `wine` on the PATH runs a 32-bit program.
