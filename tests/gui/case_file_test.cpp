@@ -32,7 +32,8 @@ class CaseFiles : public ::testing::Test {
         const Control spin = program.field(Field::spin1);
         const RECT box = spin.place();
         const LONG height = box.bottom - box.top;
-        spin.clickAt(static_cast<int>(box.right - box.left) / 2, static_cast<int>(step > 0 ? height / 4 : height * 3 / 4));
+        spin.clickAt(static_cast<int>(box.right - box.left) / 2,
+                     static_cast<int>(step > 0 ? height / 4 : height * 3 / 4));
     }
 
     Scene scene;

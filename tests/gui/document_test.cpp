@@ -24,7 +24,8 @@ class Documents : public ::testing::Test {
         EXPECT_EQ(prompt.item(idYesButton).text(), "Ja");
         EXPECT_EQ(prompt.item(idNoButton).text(), "Nej");
         EXPECT_EQ(prompt.item(idCancelButton).text(), "Avbryt");
-        EXPECT_EQ(prompt.item(idCancelButton).visible(), caption == "Avsluta") << "only Exit can be cancelled";
+        EXPECT_EQ(prompt.item(idCancelButton).visible(), caption == "Avsluta")
+            << "only Exit can be cancelled";
         prompt.item(button).click();
         program.waitGone(prompt);
     }

@@ -26,6 +26,10 @@ Bytes withLines(Bytes file, const std::map<std::size_t, Bytes>& lines) {
     return file;
 }
 
+Bytes sampleText(const std::string& name) {
+    return readFile(samplesFolder() + "\\" + name);
+}
+
 } // namespace
 
 std::string shown(std::string number) {
@@ -56,9 +60,15 @@ void Editing::TearDown() {
     if (HasFailure()) drop();
 }
 
-void Editing::start() {
-    program_ = std::make_unique<Program>(*scene_);
+void Editing::start(int dpi) {
+    StartOptions options;
+    options.dpi = dpi;
+    program_ = std::make_unique<Program>(*scene_, options);
     program_->passStartUp();
+    main_ = program_->main();
+    form_ = program_->form();
+    mainItems_.clear();
+    formItems_.clear();
 }
 
 void Editing::drop() {
@@ -66,19 +76,26 @@ void Editing::drop() {
     scene_.reset();
 }
 
-void Editing::restart(const Lines& defaultCase) {
+void Editing::restart(const Lines& defaultCase, int dpi) {
     program_.reset();
     scene_ = std::make_unique<Scene>();
-    scene_->write("varno.def", withLines(scene_->read("varno.def"), defaultCase));
-    start();
+    scene_->write("varno.def", withLines(sampleText("varno.def"), defaultCase));
+    start(dpi);
+}
+
+Control Editing::known(const Control& parent, Items& items, int id) {
+    const auto found = items.find(id);
+    if (found != items.end()) return found->second;
+    return items[id] = parent.item(id);
 }
 
 void Editing::open(const Lines& lines, const std::string& sample) {
     const std::string name = "FALL" + std::to_string(++cases_);
-    scene().write(name + ".IND", withLines(withLine(scene().read(sample), 1, name), lines));
+    scene().write(name + ".IND", withLines(withLine(sampleText(sample), 1, name), lines));
     program().command(idOpen);
     std::optional<Control> box;
-    program().until([&] { return (box = program().find(savePromptClass)) || program().shows(fileDialogClass); });
+    program().until(
+        [&] { return (box = program().find(savePromptClass)) || program().shows(fileDialogClass); });
     if (box) box->item(idNoButton).click();
     program().chooseFile(name + ".IND");
     expectCaption(program(), name + ".IND");
@@ -102,7 +119,8 @@ DesignCase Editing::saved() {
 bool Editing::changed() {
     program().command(idRun);
     std::optional<Control> viewer;
-    program().until([&] { return program().shows(messageBoxClass) || (viewer = program().find(viewerClass)); });
+    program().until(
+        [&] { return program().shows(messageBoxClass) || (viewer = program().find(viewerClass)); });
     if (!viewer) {
         EXPECT_EQ(program().answer(), (Message{"", "Du måste spara Filen först !"}));
         return true;
@@ -158,7 +176,8 @@ void Editing::spinTo(int step, const std::string& count) {
 }
 
 void Editing::expectText(Field field, int index, const std::string& expected, std::source_location place) {
-    expectSoon(program(), expected, [&] { return text(field, index); }, place);
+    expectSoon(
+        program(), expected, [&] { return text(field, index); }, place);
 }
 
 void Editing::expectFocus(const Control& box, std::source_location place) {

@@ -32,12 +32,18 @@ class Editing : public ::testing::Test {
     Editing();
     void TearDown() override;
     /// A program that has read nothing but this default case.
-    static void restart(const Lines& defaultCase = {});
+    static void restart(const Lines& defaultCase = {}, int dpi = 96);
 
     static const Scene& scene() { return *scene_; }
     static const Program& program() { return *program_; }
-    static Control field(Field field, int index = 0) { return program().field(field, index); }
-    static std::string text(Field field, int index = 0) { return program().field(field, index).text(); }
+    /// These windows live as long as the program, and some Windows take their time to find one by its number.
+    static const Control& main() { return main_; }
+    static const Control& form() { return form_; }
+    static Control mainItem(int id) { return known(main_, mainItems_, id); }
+    static Control formItem(int id) { return known(form_, formItems_, id); }
+    static Control field(varno::Control control) { return formItem(controlId(control)); }
+    static Control field(Field field, int index = 0) { return Editing::field(varno::Control{field, index}); }
+    static std::string text(Field field, int index = 0) { return Editing::field(field, index).text(); }
 
     /// Opens a sample, some of its lines exchanged. What was not saved before is given up.
     static void open(const Lines& lines = {}, const std::string& sample = "varno.def");
@@ -73,17 +79,24 @@ class Editing : public ::testing::Test {
 
     /// Waits until everything posted so far is dealt with.
     static void settle();
-    static Control loadPicture() { return program().main().item(idLoadPicture); }
-    static Control slabStrip() { return program().main().item(idSlabStrip); }
+    static Control loadPicture() { return mainItem(idLoadPicture); }
+    static Control slabStrip() { return mainItem(idSlabStrip); }
     /// A picture area as it is on the screen now, painted.
     static Picture grab(const Control& area);
 
   private:
-    static void start();
+    static void start(int dpi = 96);
     static void drop();
 
     static inline std::unique_ptr<Scene> scene_;
     static inline std::unique_ptr<Program> program_;
+    using Items = std::map<int, Control>;
+    static Control known(const Control& parent, Items& items, int id);
+
+    static inline Control main_;
+    static inline Control form_;
+    static inline Items mainItems_;
+    static inline Items formItems_;
     static inline int cases_ = 0;
 };
 

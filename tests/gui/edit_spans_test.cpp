@@ -32,7 +32,8 @@ class EditSpans : public Editing {
         return before;
     }
     static void expectRedrawn(const Picture& before) {
-        EXPECT_TRUE(program().until([&] { return !(grab(loadPicture()) == before); })) << "the sketch is redrawn";
+        EXPECT_TRUE(program().until([&] { return !(grab(loadPicture()) == before); }))
+            << "the sketch is redrawn";
     }
 };
 

@@ -125,8 +125,9 @@ void Form::checkNumbers(const CaseText& file) {
     EXPECT_EQ(text(Field::konsv), shown(file.line(14), 2));
     EXPECT_EQ(text(Field::konsh), shown(file.line(15), 2));
     constexpr std::array wholes{
-        std::pair(20u, Field::ktack),    std::pair(23u, Field::duarm),        std::pair(28u, Field::overhojning),
-        std::pair(29u, Field::initiell), std::pair(30u, Field::tillkommande),
+        std::pair(20u, Field::ktack),        std::pair(23u, Field::duarm),
+        std::pair(28u, Field::overhojning),  std::pair(29u, Field::initiell),
+        std::pair(30u, Field::tillkommande),
     };
     for (const auto& [line, field] : wholes)
         EXPECT_EQ(text(field), file.line(line)) << "line " << line;
@@ -134,8 +135,9 @@ void Form::checkNumbers(const CaseText& file) {
 
 void Form::checkChoices(const CaseText& file) {
     constexpr std::array lists{
-        std::pair(9u, Field::lokt), std::pair(16u, Field::btg), std::pair(17u, Field::aok),   std::pair(18u, Field::dok),
-        std::pair(21u, Field::auk), std::pair(22u, Field::duk), std::pair(24u, Field::brandk),
+        std::pair(9u, Field::lokt),    std::pair(16u, Field::btg), std::pair(17u, Field::aok),
+        std::pair(18u, Field::dok),    std::pair(21u, Field::auk), std::pair(22u, Field::duk),
+        std::pair(24u, Field::brandk),
     };
     for (const auto& [line, list] : lists) {
         const int first = line == 9 ? 0 : 1;
@@ -162,7 +164,8 @@ void Form::checkRuleSet(int ruleSet, int safetyClass) {
         EXPECT_EQ(option(groups[static_cast<std::size_t>(ruleSet - 1)], 3), safetyClass);
     }
     for (int flag = 0; flag <= 6; ++flag) {
-        EXPECT_EQ(program().main().item(idFlag + flag).visible(), flag == flags[static_cast<std::size_t>(ruleSet)])
+        EXPECT_EQ(program().main().item(idFlag + flag).visible(),
+                  flag == flags[static_cast<std::size_t>(ruleSet)])
             << "flag " << flag;
     }
     EXPECT_EQ(text(Field::loadFrame), ruleSet == 1 ? "Laster enl. BKR" : "Laster enl. Eurokod");
@@ -190,8 +193,8 @@ TEST_F(Form, ListsHoldTheReferenceRowsWithTheirBlanks) {
     using Rows = std::vector<std::string>;
     const Rows diameters{"ø 6 ", "ø 8 ", "ø 10", "ø 12", "ø 16"};
     const Rows grades{"400 ", "500 ", "600 "};
-    EXPECT_EQ(program().field(Field::btg).rows(), (Rows{"C20/25", "C25/30", "C30/37", "C35/45", "C40/50", "C45/55",
-                                                        "C50/60", "C55/67", "C60/75"}));
+    EXPECT_EQ(program().field(Field::btg).rows(), (Rows{"C20/25", "C25/30", "C30/37", "C35/45", "C40/50",
+                                                        "C45/55", "C50/60", "C55/67", "C60/75"}));
     EXPECT_EQ(program().field(Field::dok).rows(), diameters);
     EXPECT_EQ(program().field(Field::duk).rows(), diameters);
     EXPECT_EQ(program().field(Field::aok).rows(), grades);

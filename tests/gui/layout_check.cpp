@@ -13,15 +13,11 @@ SIZE sizeOf(const RECT& box) {
     return {box.right - box.left, box.bottom - box.top};
 }
 
-// Measures texts in the font of a control of the program, made again in this process.
+// Measures texts in a font of the program, made again in this process.
 class Measure {
   public:
-    Measure(const Program& program, const Control& control)
-        : font_([&] {
-              const LOGFONTW font = program.fontOf(control);
-              return CreateFontIndirectW(&font);
-          }()),
-          selected_(dc_.get(), font_.get()) {}
+    explicit Measure(const LOGFONTW& font)
+        : font_(CreateFontIndirectW(&font)), selected_(dc_.get(), font_.get()) {}
 
     LONG width(const std::string& text) const {
         const std::wstring letters = win32::wide(text);
@@ -50,8 +46,6 @@ bool buttonFits(const Control& control, const Measure& measure, int dpi) {
     const LONG text = measure.width(control.text());
     const LONG width = sizeOf(control.place()).cx;
     switch (control.style() & BS_TYPEMASK) {
-    case BS_OWNERDRAW:
-        return true;
     case BS_GROUPBOX:
         return text + MulDiv(16, dpi, 96) <= width;
     case BS_AUTORADIOBUTTON:
@@ -91,8 +85,8 @@ bool listFits(const Control& control, const Measure& measure, int dpi) {
     return widest + MulDiv(17 + 8, dpi, 96) <= sizeOf(control.place()).cx;
 }
 
-bool fits(const Program& program, const Control& control, int dpi) {
-    const Measure measure(program, control);
+bool fits(const Control& control, const LOGFONTW& font, int dpi) {
+    const Measure measure(font);
     const std::string kind = control.className();
     if (kind == "Button") return buttonFits(control, measure, dpi);
     if (kind == "Static") return staticFits(control, measure);
@@ -105,9 +99,23 @@ std::string nameOf(const Control& control) {
     return control.className() + " " + std::to_string(control.id()) + " \"" + control.text() + "\"";
 }
 
+// A picture or flag draws itself.
 bool canBeMeasured(const Control& control) {
     const std::string kind = control.className();
-    return kind == "Button" || kind == "Static" || kind == "Edit" || kind == "ComboBox";
+    if (kind == "Button") return (control.style() & BS_TYPEMASK) != BS_OWNERDRAW;
+    return kind == "Edit" || kind == "ComboBox" || (kind == "Static" && !control.text().empty());
+}
+
+void findCutCaptions(const Program& program, const std::vector<Control>& controls, int dpi,
+                     std::vector<std::string>& faults) {
+    std::vector<Control> measured;
+    for (const Control& control : controls) {
+        if (canBeMeasured(control)) measured.push_back(control);
+    }
+    const std::vector<LOGFONTW> fonts = program.fontsOf(measured);
+    for (std::size_t i = 0; i < measured.size(); ++i) {
+        if (!fits(measured[i], fonts[i], dpi)) faults.push_back(nameOf(measured[i]) + " is cut");
+    }
 }
 
 } // namespace
@@ -117,9 +125,9 @@ std::vector<std::string> layoutFaults(const Program& program, const Control& win
     RECT client{};
     GetClientRect(window.handle(), &client);
     const auto children = window.children();
+    findCutCaptions(program, children, dpi, faults);
     std::vector<Control> shown;
     for (const Control& child : children) {
-        if (canBeMeasured(child) && !fits(program, child, dpi)) faults.push_back(nameOf(child) + " is cut");
         const RECT box = child.place();
         RECT common{};
         // A label without a text takes no room.

@@ -1,6 +1,7 @@
 #include "picture.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "driver/wait.h"
 #include "win32/unique.h"
@@ -20,17 +21,18 @@ Picture Picture::ofScreen(HWND window) {
     info.bmiHeader.biHeight = -picture.height_;
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 32;
-    const HDC screen = GetDC(nullptr);
-    const win32::UniqueDc memory(CreateCompatibleDC(screen));
+    const win32::WindowDc screen(nullptr);
+    const win32::UniqueDc memory(CreateCompatibleDC(screen.get()));
     void* bits = nullptr;
-    const win32::UniqueBitmap bitmap(CreateDIBSection(screen, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+    const win32::UniqueBitmap bitmap(
+        CreateDIBSection(screen.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0));
     bool read = false;
     {
         const win32::Selected selected(memory.get(), bitmap.get());
-        read = BitBlt(memory.get(), 0, 0, picture.width_, picture.height_, screen, box.left, box.top, SRCCOPY);
+        read = BitBlt(memory.get(), 0, 0, picture.width_, picture.height_, screen.get(), box.left, box.top,
+                      SRCCOPY);
         GdiFlush();
     }
-    ReleaseDC(nullptr, screen);
     if (!read) throw GuiError("the screen cannot be read");
 
     const auto* rgb = static_cast<const RGBQUAD*>(bits);
@@ -41,7 +43,8 @@ Picture Picture::ofScreen(HWND window) {
 }
 
 COLORREF Picture::at(int x, int y) const {
-    return pixels_.at(static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) + static_cast<std::size_t>(x));
+    return pixels_.at(static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
+                      static_cast<std::size_t>(x));
 }
 
 std::vector<int> Picture::columns(int y, COLORREF colour) const {

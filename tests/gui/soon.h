@@ -19,7 +19,8 @@ void expectSoon(const Program& program, const Expected& expected, Actual actual,
 
 inline void expectCaption(const Program& program, const std::string& caption,
                           std::source_location place = std::source_location::current()) {
-    expectSoon(program, caption, [&] { return program.caption(); }, place);
+    expectSoon(
+        program, caption, [&] { return program.caption(); }, place);
 }
 
 } // namespace varno::gui

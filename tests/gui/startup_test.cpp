@@ -93,10 +93,11 @@ TEST(Disclaimer, ComesEveryTimeWithItsTwoTexts) {
         const Program program(scene);
         const Control disclaimer = program.window(disclaimerClass);
         EXPECT_EQ(disclaimer.item(idProductLabel).text(), "Kalvora Tessaplan ver 7.10");
-        EXPECT_EQ(disclaimer.item(idTextOne).text(),
-                  "OBS! Beräkningen anger armering endast i bjälklagsfält och innerstöd med avseende på "
-                  "bärförmåga för angivna laster. Annan erforderlig armering för sprickfördelning, inspänning, "
-                  "kantarmering eller för totalstabilitet redovisas ej.");
+        EXPECT_EQ(
+            disclaimer.item(idTextOne).text(),
+            "OBS! Beräkningen anger armering endast i bjälklagsfält och innerstöd med avseende på "
+            "bärförmåga för angivna laster. Annan erforderlig armering för sprickfördelning, inspänning, "
+            "kantarmering eller för totalstabilitet redovisas ej.");
         EXPECT_EQ(disclaimer.item(idTextTwo).text(),
                   "I detta program finns vissa begränsningar inbyggda som gör att storheter utanför vissa "
                   "gränser inte accepteras. Det har dock inte varit möjligt att begränsa de kombinationer av "

@@ -10,6 +10,7 @@
 #include "driver/keyboard.h"
 #include "driver/program.h"
 #include "driver/wait.h"
+#include "tour_paper.h"
 #include "win32/strings.h"
 
 namespace varno::gui {
@@ -26,11 +27,14 @@ class Tour {
     void run() {
         startUp();
         input();
+        paper_.lineLoads();
         saveAs();
         calculate();
         chooseFont();
         showAgain();
+        paper_.printAndDraw();
         exit();
+        paper_.takePlot();
     }
 
   private:
@@ -67,7 +71,8 @@ class Tour {
         tabTo(control);
         // Tab selects what the field holds, so that typing replaces it.
         keyboard::type(text);
-        requireSoon([&] { return program_.field(control).text() == text; }, "the field takes \"" + text + "\"");
+        requireSoon([&] { return program_.field(control).text() == text; },
+                    "the field takes \"" + text + "\"");
     }
 
     void startUp();
@@ -81,6 +86,7 @@ class Tour {
     const std::string folder_ = currentFolder();
     Program program_{StartOptions{folder_, folder_ + "\\varno.exe", 0}};
     int pictures_ = 0;
+    PaperTour paper_{program_, folder_, [this](const std::string& name) { picture(name); }};
 };
 
 void Tour::startUp() {
@@ -127,7 +133,8 @@ void Tour::saveAs() {
     keyboard::press(VK_RETURN);
     requireSoon([&] { return program_.caption() == "HUS1.IND"; }, "the caption names the case");
     require(has("HUS1.IND"), "the case is saved");
-    require(linesOf(readFile(folder_ + "\\HUS1.IND")).at(5) == "4.800  6.200  5.400  ", "the spans are saved");
+    require(linesOf(readFile(folder_ + "\\HUS1.IND")).at(5) == "4.800  6.200  5.400  ",
+            "the spans are saved");
 }
 
 void Tour::calculate() {
@@ -148,7 +155,8 @@ void Tour::chooseFont() {
     const std::string stored = chooser.item(idStoredFont).rows().at(0);
     std::string face;
     for (const std::string& row : chooser.item(idInstalledFonts).rows()) {
-        if (row != stored && (face.empty() || row.find("Mono") != std::string::npos)) face = row;
+        // A fixed pitch, as the result's tables need one.
+        if (row != stored && (face.empty() || row.find("Courier") != std::string::npos)) face = row;
     }
     chooser.item(idInstalledFonts).choose(face);
     requireSoon([&] { return chooser.item(idCurrentFont).rows() == std::vector<std::string>{face}; },

@@ -25,6 +25,17 @@ void press(WORD virtualKey) {
     send(virtualKey, static_cast<WORD>(MapVirtualKeyW(virtualKey, MAPVK_VK_TO_VSC)), 0);
 }
 
+void pressWith(WORD held, WORD virtualKey) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = held;
+    input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(held, MAPVK_VK_TO_VSC));
+    SendInput(1, &input, sizeof input);
+    press(virtualKey);
+    input.ki.dwFlags = KEYEVENTF_KEYUP;
+    SendInput(1, &input, sizeof input);
+}
+
 void type(const std::string& text) {
     for (const wchar_t letter : win32::wide(text))
         send(0, letter, KEYEVENTF_UNICODE);

@@ -9,6 +9,8 @@ namespace varno::gui::keyboard {
 // Keys as the hand presses them: they go to the window that has the focus, whatever program it belongs to.
 
 void press(WORD virtualKey);
+/// The key while another one is held down, such as VK_SHIFT.
+void pressWith(WORD held, WORD virtualKey);
 /// UTF-8, letter by letter.
 void type(const std::string& text);
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "driver/picture.h"
+#include "driver/paper_picture.h"
 
 namespace varno::gui {
 
@@ -21,7 +21,7 @@ struct PrintedPage {
     double height;
     std::vector<std::string> lines; ///< as laid out, without blanks at the end and without empty lines
     std::vector<PrintedWord> words;
-    Picture picture; ///< ten twips a pixel
+    PaperPicture picture; ///< ten twips a pixel
 };
 
 struct Print {

@@ -1,5 +1,6 @@
 #include "driver/program.h"
 
+#include "driver/remote.h"
 #include "driver/wait.h"
 #include "win32/strings.h"
 
@@ -63,6 +64,8 @@ Program::Program(const StartOptions& options) {
     process_.reset(started.hProcess);
     id_ = started.dwProcessId;
     thread_ = started.dwThreadId;
+    // Its first window waits for the user, or it ended before it had one.
+    if (WaitForInputIdle(process(), patience) == 0 && running()) prepareForCalls(process());
 }
 
 Program::~Program() {
@@ -136,10 +139,11 @@ Control Program::focused() const {
 
 void Program::typeInto(varno::Control control, const std::string& text) const {
     const Control box = field(control);
-    // Where the focus already is, the click would come after the selecting and undo it.
     if (focused() != box) box.clickInto();
     if (!until([&] { return focused() == box; })) throw GuiError("a field does not take the focus");
-    box.selectAll();
+    // Posted behind the click, which would undo the selection if it came after it: the focus may have been on
+    // its way here without it.
+    box.post(EM_SETSEL, 0, -1);
     // An empty text is the selection deleted.
     if (text.empty()) box.key(VK_DELETE);
     box.type(text);
@@ -176,6 +180,8 @@ void Program::chooseFile(const std::string& name) const {
 void Program::settle(const std::function<bool()>& done, const std::string& failure) const {
     const bool settled = until(
         [&] { return shows(messageBoxClass) || (!shows(fileDialogClass) && main().enabled() && done()); });
+    // Answered when the command that showed the dialog is over, or has come to a message.
+    main().send(WM_NULL);
     if (shows(messageBoxClass)) throw GuiError(failure + ": " + message().text);
     if (!settled) throw GuiError(failure);
 }

@@ -3,7 +3,6 @@
 #include <windows.h>
 
 #include <functional>
-#include <initializer_list>
 #include <optional>
 #include <string>
 #include <utility>
@@ -107,13 +106,14 @@ class Program {
     bool diagramEnabled() const;
     std::vector<ToolbarButton> toolbarButtons() const;
     void clickToolbar(int id) const;
-    LOGFONTW fontOf(const Control& control) const;
+    LOGFONTW fontOf(const Control& control) const { return fontsOf({control}).front(); }
+    std::vector<LOGFONTW> fontsOf(const std::vector<Control>& controls) const;
     std::string currentDirectory() const;
 
   private:
     void settle(const std::function<bool()>& done, const std::string& failure) const;
     void readMenu(DWORD menu, int depth, std::vector<MenuLine>& lines) const;
-    DWORD user(const char* function, std::initializer_list<DWORD> arguments) const;
+    DWORD user(const char* function, const std::vector<DWORD>& arguments) const;
 
     win32::UniqueHandle process_;
     DWORD id_ = 0;

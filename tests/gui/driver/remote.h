@@ -2,8 +2,8 @@
 
 #include <windows.h>
 
-#include <initializer_list>
 #include <string>
+#include <vector>
 
 namespace varno::gui {
 
@@ -14,6 +14,9 @@ class RemoteMemory {
     ~RemoteMemory();
     RemoteMemory(const RemoteMemory&) = delete;
     RemoteMemory& operator=(const RemoteMemory&) = delete;
+
+    /// Leaves it to the process for as long as that runs.
+    void leave() { place_ = nullptr; }
 
     DWORD address() const { return reinterpret_cast<DWORD>(place_); }
     void write(const void* from, std::size_t size);
@@ -33,9 +36,25 @@ class RemoteMemory {
     void* place_;
 };
 
-/// Calls a function of Windows inside another process and gives its result. Menus, fonts and the current
-/// directory belong to one process; under Wine no other one can ask for them.
+/// A function of Windows and what it is called with, at most six numbers.
+struct RemoteCall {
+    const wchar_t* module;
+    const char* function;
+    std::vector<DWORD> arguments;
+};
+
+/// Calls functions inside another process, one after the other on one thread, and gives their results. Menus,
+/// fonts and the current directory belong to one process; under Wine no other one can ask for them.
+std::vector<DWORD> callIn(HANDLE process, const std::vector<RemoteCall>& calls);
+/// Makes it safe to ask a process for anything of this file; call it once, when the process waits for input.
+///
+/// Under Wine memory and threads for a process are made by one of its own threads, if need be by interrupting
+/// it wherever it is: in the middle of an allocation it then waits for itself for ever. This leaves a thread in
+/// the process that does nothing but wait for its end; Wine chooses one that waits before all others.
+void prepareForCalls(HANDLE process);
+
+/// One call.
 DWORD callIn(HANDLE process, const wchar_t* module, const char* function,
-             std::initializer_list<DWORD> arguments);
+             const std::vector<DWORD>& arguments);
 
 } // namespace varno::gui

@@ -68,6 +68,8 @@ Scene::Scene(const std::string& name) {
         "varno-gui-" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++count);
     root_ = own(fs::temp_directory_path() / wide(unique));
     folder_ = root_ + "\\" + name;
+    // Process numbers come again; one that was ended by force has left its folder.
+    fs::remove_all(pathOf(root_));
     fs::create_directories(pathOf(folder_));
     for (const char* sample : {"BOSTAD.IND", "KONTOR.IND", "TIOFACK.IND", "varno.def"}) {
         copyFile(samplesFolder() + "\\" + sample, path(sample));

@@ -1,0 +1,61 @@
+// A machine without a printer. These tests are run where there is none: the test printer is for all others.
+#include <gtest/gtest.h>
+
+#include "driver/program.h"
+#include "soon.h"
+
+namespace varno::gui {
+namespace {
+
+class WithoutPrinter : public ::testing::Test {
+  protected:
+    WithoutPrinter() {
+        program.passStartUp();
+        program.open("bostad.ind");
+        program.command(idRun);
+        const Control viewer = program.window(viewerClass);
+        viewer.item(idReturn).click();
+        program.waitGone(viewer);
+    }
+    void expectTold() {
+        EXPECT_EQ(program.answer(),
+                  (Message{"", "Det finns ingen skrivare att skriva ut på. Installera en skrivare "
+                               "i Windows och försök igen."}));
+        EXPECT_TRUE(program.main().enabled());
+    }
+    Scene scene;
+    Program program{scene};
+};
+
+TEST_F(WithoutPrinter, EveryWayToPrintSaysSo) {
+    for (const int command : {idPrintResult, idPrint, idPrinterSetup}) {
+        program.command(command);
+        expectTold();
+        EXPECT_FALSE(program.shows(fileDialogClass));
+    }
+    program.clickToolbar(idPrintResult);
+    expectTold();
+}
+
+TEST_F(WithoutPrinter, PlotSaysSoAndTheDiagramStays) {
+    program.command(idMoment);
+    const Control diagram = program.window("VarnoMomkurva");
+    diagram.item(idPlot).click();
+    expectTold();
+    EXPECT_TRUE(diagram.visible());
+    EXPECT_TRUE(diagram.enabled());
+}
+
+TEST_F(WithoutPrinter, NothingIsLost) {
+    program.typeInto({Field::rubrik}, "Nytt hus");
+    program.command(idPrintResult);
+    expectTold();
+    EXPECT_EQ(program.field(Field::rubrik).text(), "Nytt hus");
+    program.command(idSave);
+    program.command(idExit);
+    EXPECT_EQ(program.exitCode(), 0u);
+    EXPECT_EQ(linesOf(scene.read("BOSTAD.IND")).at(1), "Nytt hus");
+}
+
+} // namespace
+} // namespace varno::gui

@@ -1,0 +1,112 @@
+#include "tour_paper.h"
+
+#include "driver/wait.h"
+#include "lineloads/line_load_view.h"
+
+namespace varno::gui {
+
+namespace {
+
+Control box(const Control& editor, LineLoadBox which, int row = 0) {
+    return editor.item(idLineLoadField + 10 * static_cast<int>(which) + row);
+}
+
+} // namespace
+
+PaperTour::PaperTour(const Program& program, std::string folder,
+                     std::function<void(const std::string&)> picture)
+    : program_(program), folder_(std::move(folder)), picture_(std::move(picture)) {}
+
+void PaperTour::require(bool wanted, const std::string& what) const {
+    if (!wanted) throw GuiError("not so: " + what);
+}
+
+void PaperTour::requireSoon(const std::function<bool()>& wanted, const std::string& what) const {
+    require(program_.until(wanted), what);
+}
+
+void PaperTour::press(const Control& window, int button) const {
+    window.item(button).click();
+    program_.waitGone(window);
+}
+
+void PaperTour::typeInto(const Control& field, const std::string& text) const {
+    field.clickInto();
+    requireSoon([&] { return program_.focused() == field; }, "a box takes the focus");
+    field.selectAll();
+    field.type(text);
+    requireSoon([&] { return field.text() == text; }, "a box takes \"" + text + "\"");
+}
+
+void PaperTour::keep(const Print& print, const std::string& name) const {
+    writeFile(folder_ + "\\" + name, readFile(print.pdf));
+}
+
+void PaperTour::lineLoads() const {
+    program_.command(idLineLoads);
+    const Control editor = program_.window("VarnoLineLoads");
+    const Control count = box(editor, LineLoadBox::nllast);
+    const int before = std::stoi(count.text());
+    editor.item(idLineLoadSpin).clickAt(5, 5);
+    requireSoon([&] { return count.text() == std::to_string(before + 1); }, "there is one more line load");
+    const int row = before + 1;
+    typeInto(box(editor, LineLoadBox::llfnr, row), "2");
+    typeInto(box(editor, LineLoadBox::avst, row), "2,5");
+    typeInto(box(editor, LineLoadBox::lllast, row), "8,5");
+    count.clickInto();
+    requireSoon([&] { return box(editor, LineLoadBox::lllast, row).text() != "8,5"; }, "the load is tidied");
+    picture_("linjelaster");
+    editor.post(WM_COMMAND, idLayout);
+    program_.waitGone(editor);
+}
+
+void PaperTour::printAndDraw() {
+    printResult();
+    plotMoments();
+    deleteFile();
+}
+
+void PaperTour::printResult() {
+    program_.clickToolbar(idPrintResult);
+    const Print print = prints_.next();
+    require(!print.pages.empty() && print.pages[0].lines.at(0).ends_with("sid 1"), "page 1 is numbered");
+    keep(print, "result.pdf");
+}
+
+void PaperTour::plotMoments() const {
+    program_.command(idMoment);
+    const Control diagram = program_.window("VarnoMomkurva");
+    picture_("momentdiagram");
+    diagram.item(idPlot).click();
+    // A question is answered when the pass has run.
+    diagram.item(idPlot).send(WM_NULL);
+    require(!program_.shows(messageBoxClass), "the plot goes well");
+    diagram.post(WM_COMMAND, idReturn);
+    program_.waitGone(diagram);
+}
+
+void PaperTour::deleteFile() const {
+    writeFile(folder_ + "\\GAMMAL.RES", "gammalt resultat\r\n");
+    program_.command(idDeleteResults);
+    const Control window = program_.window("VarnoDelFile");
+    const Control files = window.item(idFileList);
+    files.send(LB_SETSEL, TRUE, 0);
+    picture_("ta-bort-filer");
+    window.item(idDelete).click();
+    const Control question = program_.window("VarnoVeri");
+    require(question.item(idFileName).text() == "GAMMAL.RES", "the old result is asked for");
+    picture_("bekrafta");
+    press(question, idYesButton);
+    requireSoon([&] { return files.send(LB_GETCOUNT) == 1; }, "one result is left");
+    require(!fileExists(folder_ + "\\GAMMAL.RES"), "the old one is deleted");
+    press(window, idCancelButton);
+}
+
+void PaperTour::takePlot() {
+    const Print print = prints_.next();
+    require(print.pages.size() == 1 && print.pages[0].picture.count(RGB(0x80, 0, 0)) > 100,
+            "the red curve is on paper");
+    keep(print, "diagram.pdf");
+}
+
+} // namespace varno::gui
