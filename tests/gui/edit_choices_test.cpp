@@ -186,6 +186,21 @@ TEST_F(EditChoices, PassingThroughKeepsNumbersWithoutARowOrOption) {
     EXPECT_EQ(after.brukskomb, 0);
 }
 
+// Windows tells of an option that merely gets the focus, and of the one that the arrow keys leave, as of a click.
+TEST_F(EditChoices, OptionWithoutATickWasNotChosen) {
+    open();
+    const DesignCase before = saved();
+    for (const auto& [group, option] : {std::pair(Field::lastkomb, 1), {Field::pkl, 3}, {Field::kutak, 2}}) {
+        const Control button = field(group, option);
+        ASSERT_FALSE(button.checked());
+        form().post(WM_COMMAND, MAKEWPARAM(button.id(), BN_CLICKED),
+                    reinterpret_cast<LPARAM>(button.handle()));
+    }
+    settle();
+    EXPECT_FALSE(changed());
+    EXPECT_EQ(saved(), before);
+}
+
 TEST_F(EditChoices, EveryOptionIsStoredAndDisablesTheDiagram) {
     open();
     EXPECT_FALSE(changed());
