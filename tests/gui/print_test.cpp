@@ -155,13 +155,13 @@ TEST_F(PrintingInSerifs, SeventyLinesFitThePage) {
     expectPage(print.pages[0], 1, lines);
 }
 
-// A font that lives in the printer: the program knows its widths only.
-class PrintingInThePrintersCourier : public Printing {
+// One of the printer's faces that need not be installed: what takes its place has to fit the page too.
+class PrintingInCourier : public Printing {
   protected:
-    PrintingInThePrintersCourier() : Printing("Courier") {}
+    PrintingInCourier() : Printing("Courier") {}
 };
 
-TEST_F(PrintingInThePrintersCourier, SeventyLinesFitThePage) {
+TEST_F(PrintingInCourier, SeventyLinesFitThePage) {
     const auto lines = numberedLines(70);
     const Print print = printed(lines);
     ASSERT_EQ(print.pages.size(), 1u);

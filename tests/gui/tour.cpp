@@ -26,6 +26,7 @@ class Tour {
   public:
     void run() {
         startUp();
+        loadRules();
         input();
         paper_.lineLoads();
         saveAs();
@@ -76,6 +77,7 @@ class Tour {
     }
 
     void startUp();
+    void loadRules();
     void input();
     void saveAs();
     void calculate();
@@ -101,6 +103,37 @@ void Tour::startUp() {
     program_.passStartUp();
     require(program_.caption() == "NAMNLÖS.IND", "the default case is shown");
     picture("huvudfonster");
+}
+
+// Once round the flags, and a load category that fixes the loads; both end where they began.
+void Tour::loadRules() {
+    constexpr int first = 2;
+    const auto flag = [this](int number) { return program_.window(mainClass).item(idFlag + number); };
+    int shown = first;
+    do {
+        require(flag(shown).visible(), "the flag of the rule set is shown");
+        flag(shown).clickInto();
+        shown = shown % 6 + 1;
+        requireSoon([&] { return flag(shown).visible(); }, "the next flag comes");
+        if (shown == 1) picture("svenska-regler");
+        if (shown == 3) picture("danska-regler");
+    } while (shown != first);
+
+    const Control category = program_.field({Field::lokt});
+    category.choose("B-Kontor   ");
+    requireSoon([&] { return !program_.field({Field::flast, 1}).enabled(); }, "the category fixes the loads");
+    picture("lastkategori");
+    category.choose("Valfri last");
+    requireSoon(
+        [&] {
+            return program_.field({Field::flast, 1}).enabled();
+        },
+        "the loads are the user's own again");
+    program_.field({Field::rubrik}).clickInto();
+    requireSoon([&] { return program_.focused() == program_.field({Field::rubrik}); },
+                "the title has the focus");
+    // As Tab would have selected it.
+    program_.field({Field::rubrik}).selectAll();
 }
 
 void Tour::input() {
