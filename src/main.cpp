@@ -2,7 +2,7 @@
 
 #include <commctrl.h>
 
-#include "shell/application_window.h"
+#include "shell/application.h"
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
     INITCOMMONCONTROLSEX controls{};

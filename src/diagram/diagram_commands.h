@@ -1,9 +1,9 @@
 #pragma once
 
 #include "base/open_file.h"
+#include "controls/main_view.h"
 #include "diagram/moment_diagram.h"
-#include "model/main_view.h"
-#include "results/printer.h"
+#include "drawing/printer.h"
 
 namespace varno {
 

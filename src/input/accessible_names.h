@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "model/form_view.h"
+#include "input/form_view.h"
 
 namespace varno {
 

@@ -4,8 +4,8 @@
 #include <string_view>
 #include <variant>
 
+#include "input/form_view.h"
 #include "model/design_case.h"
-#include "model/form_view.h"
 
 // What the main input form consists of, one row per field: the rules, the window and the tests read the same
 // tables. Captions are those beside the fields, UTF-8; the factor fields are labelled by their symbols.

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "model/form_view.h"
+#include "input/form_view.h"
 
 namespace varno {
 

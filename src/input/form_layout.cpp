@@ -2,9 +2,9 @@
 
 #include <array>
 
+#include "controls/control_ids.h"
+#include "input/form_filling.h"
 #include "model/design_case.h"
-#include "model/form_filling.h"
-#include "shell/control_ids.h"
 
 namespace varno {
 

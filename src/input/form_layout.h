@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "shell/control_spec.h"
+#include "controls/control_spec.h"
 
 namespace varno {
 

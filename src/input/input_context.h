@@ -1,11 +1,11 @@
 #pragma once
 
 #include "base/numbers.h"
+#include "controls/main_view.h"
+#include "input/form_filling.h"
+#include "input/form_view.h"
 #include "input/sketch_refresh.h"
 #include "model/design_case.h"
-#include "model/form_filling.h"
-#include "model/form_view.h"
-#include "model/main_view.h"
 
 namespace varno {
 

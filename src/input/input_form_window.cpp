@@ -2,10 +2,10 @@
 
 #include <commctrl.h>
 
+#include "controls/control_ids.h"
 #include "input/accessible_names.h"
 #include "input/form_keys.h"
 #include "input/form_layout.h"
-#include "shell/control_ids.h"
 #include "win32/accessible_names.h"
 #include "win32/strings.h"
 

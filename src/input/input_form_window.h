@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "model/form_view.h"
+#include "input/form_view.h"
 #include "win32/form_window.h"
 
 namespace varno {

@@ -4,10 +4,10 @@
 #include <string>
 
 #include "base/numbers.h"
+#include "controls/main_view.h"
 #include "input/sketch_refresh.h"
 #include "lineloads/line_load_set.h"
 #include "lineloads/line_load_view.h"
-#include "model/main_view.h"
 
 namespace varno {
 

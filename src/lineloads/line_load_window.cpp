@@ -6,7 +6,7 @@
 #include <optional>
 #include <vector>
 
-#include "shell/control_ids.h"
+#include "controls/control_ids.h"
 #include "win32/accessible_names.h"
 #include "win32/strings.h"
 

@@ -1,24 +1,15 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 
 #include "base/message_boxes.h"
 #include "base/open_file.h"
+#include "base/process_starter.h"
+#include "controls/main_view.h"
 #include "model/design_case.h"
-#include "model/main_view.h"
 #include "results/result_viewer.h"
 
 namespace varno {
-
-/// Starts a process and waits until it has ended.
-class ProcessStarter {
-  public:
-    virtual ~ProcessStarter() = default;
-    /// Runs a command line (UTF-8) in the current directory and with the environment of the program, and
-    /// gives the exit code. Nothing tells a process that could not be started; its value is then 0xFFFFFFFF.
-    virtual std::uint32_t ExecCmd(const std::string& commandLine) = 0;
-};
 
 /// "Kör...": hands the saved case to the calculation engine and shows what it wrote.
 class CalculationRun {

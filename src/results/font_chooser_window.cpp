@@ -2,8 +2,8 @@
 
 #include <array>
 
-#include "shell/control_ids.h"
-#include "win32/file_list_controls.h"
+#include "controls/control_ids.h"
+#include "files/file_list_controls.h"
 #include "win32/strings.h"
 
 namespace varno {

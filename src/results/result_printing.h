@@ -5,10 +5,10 @@
 
 #include "base/message_boxes.h"
 #include "base/open_file.h"
+#include "controls/main_view.h"
+#include "drawing/printer.h"
+#include "files/file_dialog.h"
 #include "model/design_case.h"
-#include "model/main_view.h"
-#include "results/printer.h"
-#include "shell/file_dialog.h"
 
 namespace varno {
 

@@ -5,8 +5,8 @@
 
 #include "base/message_boxes.h"
 #include "base/open_file.h"
+#include "controls/main_view.h"
 #include "model/design_case.h"
-#include "model/main_view.h"
 
 namespace varno {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "shell/control_ids.h"
+#include "controls/control_ids.h"
 #include "win32/strings.h"
 
 namespace varno {

@@ -3,9 +3,9 @@
 #include <string>
 
 #include "base/open_file.h"
+#include "files/file_dialog.h"
+#include "input/form_filling.h"
 #include "model/design_case.h"
-#include "model/form_filling.h"
-#include "shell/file_dialog.h"
 
 namespace varno {
 

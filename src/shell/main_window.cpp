@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "shell/control_ids.h"
-#include "shell/control_spec.h"
-#include "shell/flag_painter_window.h"
+#include "controls/control_ids.h"
+#include "controls/control_spec.h"
+#include "shell/flag_painter.h"
 #include "shell/flag_pictures.h"
 #include "shell/menu_table.h"
 #include "win32/dpi.h"

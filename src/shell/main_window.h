@@ -2,9 +2,9 @@
 
 #include <functional>
 
+#include "controls/control_ids.h"
+#include "controls/main_view.h"
 #include "input/sketch_picture.h"
-#include "model/main_view.h"
-#include "shell/control_ids.h"
 #include "shell/toolbar_window.h"
 #include "win32/picture_window.h"
 #include "win32/unique.h"

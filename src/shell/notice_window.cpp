@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "shell/control_ids.h"
+#include "controls/control_ids.h"
 #include "win32/strings.h"
 
 namespace varno {

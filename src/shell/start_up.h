@@ -4,8 +4,8 @@
 
 #include "base/open_file.h"
 #include "base/run_time_error.h"
+#include "controls/main_view.h"
 #include "model/design_case.h"
-#include "model/main_view.h"
 #include "shell/document.h"
 
 namespace varno {

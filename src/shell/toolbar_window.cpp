@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "shell/control_spec.h"
+#include "controls/control_spec.h"
 #include "shell/menu_table.h"
 #include "win32/dpi.h"
 #include "win32/strings.h"

@@ -3,7 +3,7 @@
 #include <span>
 #include <vector>
 
-#include "shell/control_spec.h"
+#include "controls/control_spec.h"
 #include "win32/dpi.h"
 #include "win32/window.h"
 

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "results/printer.h"
+#include "drawing/printer.h"
 #include "win32/gdi_canvas.h"
 #include "win32/unique.h"
 

@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include "shell/help_viewer.h"
+#include "base/help_system.h"
 
 namespace varno::win32 {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "results/calculation_run.h"
+#include "base/process_starter.h"
 
 namespace varno::win32 {
 

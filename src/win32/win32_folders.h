@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/folders.h"
+#include "base/folders.h"
 
 namespace varno::win32 {
 

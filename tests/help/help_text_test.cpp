@@ -4,7 +4,7 @@
 #include <string>
 
 #include "help/help_pages.h"
-#include "shell/help_topics.h"
+#include "help/help_topics.h"
 #include "support/temporary_folder.h"
 
 namespace varno::testing {

@@ -1,4 +1,5 @@
-#include "shell/help_topics.h"
+#include "help/help_topics.h"
+#include "shell/help_places.h"
 
 #include <gtest/gtest.h>
 
@@ -6,8 +7,8 @@
 #include <set>
 #include <string>
 
+#include "controls/control_ids.h"
 #include "help/help_pages.h"
-#include "shell/control_ids.h"
 #include "shell/menu_table.h"
 #include "support/temporary_folder.h"
 

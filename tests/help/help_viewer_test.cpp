@@ -1,4 +1,4 @@
-#include "shell/help_viewer.h"
+#include "help/help_viewer.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/help_topics.h"
+#include "help/help_topics.h"
 #include "support/memory_files.h"
 
 namespace varno::testing {

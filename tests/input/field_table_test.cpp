@@ -5,7 +5,7 @@
 #include <set>
 #include <string>
 
-#include "model/form_filling.h"
+#include "input/form_filling.h"
 #include "model/reference_tables.h"
 
 namespace varno {

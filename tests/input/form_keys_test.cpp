@@ -4,9 +4,9 @@
 
 #include <set>
 
+#include "controls/control_ids.h"
 #include "input/accessible_names.h"
 #include "input/form_layout.h"
-#include "shell/control_ids.h"
 
 namespace varno::testing {
 namespace {

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "base/run_time_error.h"
+#include "drawing/printer.h"
 #include "drawing/recording_canvas.h"
-#include "results/printer.h"
 
 namespace varno::testing {
 

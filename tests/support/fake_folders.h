@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "base/folders.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
-#include "shell/folders.h"
 
 namespace varno::testing {
 

@@ -6,8 +6,8 @@
 #include <utility>
 #include <vector>
 
-#include "model/form_view.h"
-#include "model/main_view.h"
+#include "controls/main_view.h"
+#include "input/form_view.h"
 
 namespace varno::testing {
 

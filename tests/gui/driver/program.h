@@ -8,10 +8,10 @@
 #include <utility>
 #include <vector>
 
+#include "controls/control_ids.h"
 #include "driver/control.h"
 #include "driver/scene.h"
-#include "model/form_view.h"
-#include "shell/control_ids.h"
+#include "input/form_view.h"
 #include "win32/unique.h"
 
 namespace varno::gui {

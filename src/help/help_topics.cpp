@@ -1,0 +1,17 @@
+#include "help/help_topics.h"
+
+#include <algorithm>
+
+namespace varno {
+
+unsigned helpContext(std::string_view topic) {
+    const auto found = std::ranges::find(helpTopics, topic, &HelpTopic::name);
+    return found == helpTopics.end() ? 0 : found->context;
+}
+
+std::string_view helpTopicOfContext(unsigned context) {
+    const auto found = std::ranges::find(helpTopics, context, &HelpTopic::context);
+    return found == helpTopics.end() ? std::string_view() : found->name;
+}
+
+} // namespace varno

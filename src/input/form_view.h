@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "controls/field.h"
+
+namespace varno {
+
+/// What the rules ask of the main input form. It shows what it is told and knows no rule. Texts are UTF-8.
+///
+/// Setting a text or a list row that differs runs the control's change rule, as typing does; it never runs a
+/// click rule. An option group is hidden and shown with its frame.
+class FormView {
+  public:
+    virtual ~FormView() = default;
+
+    virtual std::string text(Control control) const = 0;
+    virtual void setText(Control control, const std::string& text) = 0;
+    virtual void setVisible(Control control, bool visible) = 0;
+    virtual void setEnabled(Control control, bool enabled) = 0;
+    virtual void setCaption(Control control, const std::string& caption) = 0;
+
+    virtual void clearList(Field list) = 0;
+    virtual void addRow(Field list, std::string_view row) = 0;
+    /// Selects a row, from 0; a row the list does not have selects nothing.
+    virtual void selectRow(Field list, int row) = 0;
+    /// -1 when nothing is selected.
+    virtual int selectedRow(Field list) const = 0;
+
+    /// Selects one option of a group, from 1; an option the group does not have selects none.
+    virtual void selectOption(Field group, int option) = 0;
+    /// Shows or hides the frame of a safety class group.
+    virtual void showGroup(Field group, bool visible) = 0;
+    virtual void setChecked(Field box, bool checked) = 0;
+
+    virtual void focus(Control control) = 0;
+    virtual void selectAll(Control control) = 0;
+};
+
+} // namespace varno

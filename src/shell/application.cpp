@@ -1,0 +1,271 @@
+#include "shell/application.h"
+
+#include <algorithm>
+
+#include "base/run_time_error.h"
+#include "controls/control_ids.h"
+#include "shell/application_parts.h"
+#include "shell/help_contexts.h"
+#include "shell/save_prompt_window.h"
+#include "win32/dpi.h"
+#include "win32/printer_fonts.h"
+#include "win32/user_locale.h"
+
+namespace varno {
+
+namespace {
+
+constexpr const char* errorTitle = "Varno";
+
+} // namespace
+
+InputContext Application::inputContext() {
+    return {case_, state_, form_, main_, filler_, sketch_, locale_};
+}
+
+Application::Application()
+    : locale_(win32::userNumberLocale()), files_(systemFileCalls(), boxes_), fileDialog_(folders_, boxes_),
+      main_(*this, *this, picture_), form_(*this, *this),
+      sketch_(case_, picture_.loadPicture, picture_.slabStrip, picture_, [this] { main_.sketchChanged(); }),
+      filler_(case_, form_, main_, locale_, [this] { caseShown(); }), input_(inputContext()),
+      document_(case_, state_, filler_, form_, main_, files_, fileDialog_, boxes_, *this),
+      printing_(files_, boxes_, main_, printer_), deletion_(folders_, systemFileCalls()),
+      diagram_(case_, sketch_) {
+    commands_ = commandTable();
+    main_.create([this](int id) { return commands_.contains(id); });
+    form_.create(main_.mdiClient());
+    setHelpContexts(main_.handle(), form_.handle());
+    helpSystem_.setOwner(main_.handle());
+    fileInfo_ = std::make_unique<FileInfoWindow>(host(), main_.handle());
+    viewer_ = std::make_unique<ResultViewerWindow>(
+        host(), main_.handle(), [this] { chooseFont(); }, [this] { showForm(); });
+}
+
+Application::~Application() {
+    help_.close();
+    listening_ = false;
+}
+
+int Application::run() {
+    try {
+        StartUp(settings_, state_, document_, files_, main_, *this).run();
+    } catch (const RunTimeError& error) {
+        boxes_.show(error.message(), MB_OK | MB_ICONERROR, errorTitle);
+        return 1;
+    }
+    MSG message;
+    while (GetMessageW(&message, nullptr, 0, 0) > 0)
+        win32::dispatch(*this, message);
+    listening_ = false;
+    return ended_ ? 0 : static_cast<int>(message.wParam);
+}
+
+// What the windows ask of the program
+
+void Application::report(const RunTimeError& error) {
+    main_.postRunTimeError(error.number());
+}
+
+bool Application::translate(MSG& message) {
+    if (translateHelpKey(message)) return true;
+    const HWND root = GetAncestor(message.hwnd, GA_ROOT);
+    if (root != main_.handle()) return root != nullptr && IsDialogMessageW(root, &message);
+    if (TranslateMDISysAccel(main_.mdiClient(), &message)) return true;
+    const bool inForm = message.hwnd == form_.handle() || IsChild(form_.handle(), message.hwnd);
+    if (!inForm) return translateFlagKey(message);
+    bool taken = false;
+    try {
+        taken = form_.translateKey(message);
+    } catch (const RunTimeError& error) {
+        report(error);
+        return true;
+    }
+    return taken || IsDialogMessageW(form_.handle(), &message);
+}
+
+bool Application::translateHelpKey(const MSG& message) {
+    // Windows posts this one besides the key itself; it would end as WM_HELP and show the help twice.
+    constexpr UINT keyF1 = 0x004D;
+    if (message.message == keyF1) return true;
+    if (message.message != WM_KEYDOWN || message.wParam != VK_F1) return false;
+    help_.show(helpTopicOfFocus(message.hwnd), settings_.workFolder);
+    return true;
+}
+
+// The flag stands beside the form: Tab leads there from its end, and back into it; Enter presses it.
+bool Application::translateFlagKey(const MSG& message) {
+    if (message.message != WM_KEYDOWN || message.hwnd != main_.flagButton()) return false;
+    if (message.wParam == VK_TAB) {
+        form_.focusEnd(GetKeyState(VK_SHIFT) < 0);
+        return true;
+    }
+    if (message.wParam != VK_RETURN) return false;
+    SendMessageW(message.hwnd, BM_CLICK, 0, 0);
+    return true;
+}
+
+// Main window
+
+std::map<int, std::function<void()>> Application::commandTable() {
+    const auto deleting = [this](std::size_t item) {
+        return [this, item] { deleteFiles(deletionMenu[item].pattern); };
+    };
+    return {
+        {idNew, [this] { document_.newCase(settings_.workFolder); }},
+        {idOpen, [this] { document_.open(); }},
+        {idSave, [this] { document_.save(); }},
+        {idSaveAs, [this] { document_.saveAs(); }},
+        {idPrint, [this] { printChosen(); }},
+        {idPrinterSetup, [this] { setUpPrinter(); }},
+        {idExit, [this] { document_.exit(); }},
+        {idLineLoads, [this] { openLineLoads(lineLoads_, caseLineLoads); }},
+        {idFreeLineLoads, [this] { openLineLoads(freeLoads_, freeLineLoads); }},
+        {idRun, [this] { calculate(); }},
+        {idShowResult, [this] { showResult(); }},
+        {idPrintResult, [this] { printCurrent(); }},
+        {idDeleteResults, deleting(0)},
+        {idDeleteInputs, deleting(1)},
+        {idDeleteBoth, deleting(2)},
+        {idMoment, [this] { showMoments(); }},
+        {idImportant, [this] { showImportant(); }},
+    };
+}
+
+void Application::command(int id) {
+    const auto found = commands_.find(id);
+    if (found == commands_.end()) return;
+    // However a file command was given: what is being typed belongs to the case it works on.
+    if (id >= idNew && id <= idExit) endTyping();
+    found->second();
+}
+
+void Application::endTyping() {
+    form_.focus({Field::rubrik});
+}
+void Application::flagClicked(int flag) {
+    const bool keyboard = GetFocus() == main_.flagButton();
+    input_.flagClicked(flag);
+    // The flag that was pressed is hidden now; the next one takes its place for the next key.
+    if (keyboard) SetFocus(main_.flagButton());
+}
+
+namespace {
+
+// A context menu with one item; true when it was chosen.
+bool chosenFromMenu(HWND owner, POINT place, const wchar_t* caption) {
+    constexpr UINT item = 1;
+    const win32::UniqueMenu menu(CreatePopupMenu());
+    AppendMenuW(menu.get(), MF_STRING, item, caption);
+    return TrackPopupMenu(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, place.x, place.y, 0, owner, nullptr) ==
+           static_cast<BOOL>(item);
+}
+
+} // namespace
+
+void Application::flagMenu(POINT place) {
+    if (chosenFromMenu(main_.handle(), place, L"Byt till svenska byggregler (BKR)"))
+        input_.switchToSwedishRules();
+}
+
+void Application::loadPictureMenu(POINT place) {
+    if (chosenFromMenu(main_.handle(), place, L"Fria linjelaster")) openLineLoads(freeLoads_, freeLineLoads);
+}
+
+bool Application::closing() {
+    endTyping();
+    document_.exit();
+    return ended_;
+}
+
+void Application::dpiChanged(int dpi) {
+    form_.changeDpi(dpi);
+}
+
+void Application::clientResized(int width, int height) {
+    if (!form_.exists()) return;
+    // A window too small for the form scrolls it; a larger one gives it the room.
+    const SIZE natural = form_.naturalSize();
+    SetWindowPos(form_.handle(), nullptr, 0, 0, std::max<int>(width, natural.cx),
+                 std::max<int>(height, natural.cy), SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Application::helpRequested(const HELPINFO& request) {
+    const std::string_view topic = helpTopicOfRequest(request);
+    if (!topic.empty()) help_.show(topic, settings_.workFolder);
+}
+
+void Application::showRunTimeError(int number) {
+    boxes_.show(RunTimeError(number).message(), MB_OK | MB_ICONERROR, errorTitle);
+}
+
+// Input form
+
+void Application::changed(Control control) {
+    if (listening_) input_.changed(control);
+}
+void Application::lostFocus(Control control) {
+    if (listening_) input_.lostFocus(control);
+}
+void Application::clicked(Control control) {
+    if (listening_) input_.clicked(control);
+}
+void Application::spinUp() {
+    input_.spinUp();
+}
+void Application::spinDown() {
+    input_.spinDown();
+}
+void Application::formClicked() {
+    input_.formClicked();
+}
+
+void Application::tabbedOut() {
+    SetFocus(main_.flagButton());
+}
+
+// Document
+
+SaveAnswer Application::askToSave(const std::string& caption, const std::string& text, bool cancelOffered) {
+    SavePromptWindow prompt(*this, main_.handle());
+    return prompt.ask(caption, text, cancelOffered);
+}
+
+void Application::showFileDialog(FileDialog& dialog) {
+    fileInfo_->ask(dialog);
+}
+
+void Application::endProgram() {
+    ended_ = true;
+    PostQuitMessage(0);
+}
+
+// Start-up
+
+void Application::showMainWindow() {
+    main_.show(form_.naturalSize());
+}
+
+bool Application::showVersionNotice() {
+    VersionNoticeWindow notice(*this, main_.handle());
+    return notice.ask();
+}
+
+void Application::showDisclaimer() {
+    DisclaimerWindow disclaimer(*this, main_.handle());
+    disclaimer.runModal();
+}
+
+void Application::showInputForm() {
+    listening_ = true;
+    ShowWindow(form_.handle(), SW_SHOW);
+    form_.focus({Field::rubrik});
+}
+
+std::string Application::printerFontName() {
+    return win32::printerFontName();
+}
+void Application::setResultFont(const std::string& face) {
+    viewer_->setFont(face);
+}
+
+} // namespace varno

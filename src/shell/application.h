@@ -1,0 +1,144 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+
+#include "diagram/diagram_window.h"
+#include "diagram/moment_diagram.h"
+#include "files/file_deletion.h"
+#include "files/file_info_window.h"
+#include "help/help_viewer.h"
+#include "input/input_form.h"
+#include "input/input_form_window.h"
+#include "input/sketch.h"
+#include "input/sketch_picture.h"
+#include "lineloads/line_load_window.h"
+#include "results/calculation_run.h"
+#include "results/font_chooser_window.h"
+#include "results/result_printing.h"
+#include "results/result_viewer_window.h"
+#include "shell/document.h"
+#include "shell/main_window.h"
+#include "shell/notice_window.h"
+#include "shell/start_up.h"
+#include "win32/gdi_printer.h"
+#include "win32/help.h"
+#include "win32/message_box.h"
+#include "win32/process.h"
+#include "win32/win32_folders.h"
+
+namespace varno {
+
+/// The program: owns the one design case, the document state, the settings and every window, and hands
+/// references down. It wires events to rules and holds no rule of its own.
+class Application : private win32::WindowHost,
+                    private MainEvents,
+                    private FormEvents,
+                    private DocumentView,
+                    private StartUpView {
+  public:
+    Application();
+    ~Application() override;
+
+    /// Runs start-up and then the program; gives its exit code.
+    int run();
+
+  private:
+    // win32::WindowHost
+    void report(const RunTimeError& error) override;
+    bool translate(MSG& message) override;
+
+    // MainEvents
+    void command(int id) override;
+    void endTyping() override;
+    void flagClicked(int flag) override;
+    void flagMenu(POINT place) override;
+    void loadPictureMenu(POINT place) override;
+    bool closing() override;
+    void dpiChanged(int dpi) override;
+    void clientResized(int width, int height) override;
+    void showRunTimeError(int number) override;
+    void helpRequested(const HELPINFO& request) override;
+
+    // FormEvents
+    void changed(Control control) override;
+    void lostFocus(Control control) override;
+    void clicked(Control control) override;
+    void spinUp() override;
+    void spinDown() override;
+    void formClicked() override;
+    void tabbedOut() override;
+
+    // DocumentView
+    SaveAnswer askToSave(const std::string& caption, const std::string& text, bool cancelOffered) override;
+    void showFileDialog(FileDialog& dialog) override;
+    void endProgram() override;
+
+    // StartUpView
+    void showMainWindow() override;
+    bool showVersionNotice() override;
+    void showDisclaimer() override;
+    void showInputForm() override;
+    std::string printerFontName() override;
+    void setResultFont(const std::string& face) override;
+
+    win32::WindowHost& host() { return *this; }
+    /// What every menu item and toolbar button does, by its ID.
+    std::map<int, std::function<void()>> commandTable();
+    bool translateFlagKey(const MSG& message);
+    bool translateHelpKey(const MSG& message);
+    void calculate();
+    void showResult();
+    void chooseFont();
+    void showImportant();
+    void printCurrent();
+    void printChosen();
+    void setUpPrinter();
+    void deleteFiles(const char* pattern);
+    void showMoments();
+    void plotMoments();
+    bool printerThere();
+    /// A line load editor with its window, made on first use.
+    struct LineLoads;
+    void openLineLoads(std::unique_ptr<LineLoads>& editor, const LineLoadSet& set);
+    void showForm();
+    void caseShown();
+    InputContext inputContext();
+
+    NumberLocale locale_;
+    DesignCase case_;
+    DocumentState state_;
+    Settings settings_;
+    SketchPicture picture_;
+    std::map<int, std::function<void()>> commands_;
+    bool ended_ = false;
+    bool listening_ = false; ///< the form's events reach the rules
+
+    win32::WindowsMessageBoxes boxes_;
+    win32::WindowsFolders folders_;
+    win32::ProcessRunner processes_;
+    FileOpener files_;
+    win32::WindowsHelp helpSystem_;
+    HelpViewer help_{helpSystem_, boxes_};
+    FileDialog fileDialog_;
+
+    MainWindow main_;
+    InputFormWindow form_;
+    SlabSketch sketch_;
+    CaseFormFiller filler_;
+    InputForm input_;
+    Document document_;
+    win32::GdiPrinter printer_;
+    ResultPrinting printing_;
+    FileDeletion deletion_;
+    MomentDiagram diagram_;
+    std::unique_ptr<FileInfoWindow> fileInfo_;
+    std::unique_ptr<ResultViewerWindow> viewer_;
+    std::unique_ptr<DisclaimerWindow> important_;
+    std::unique_ptr<DiagramWindow> diagramWindow_;
+    std::unique_ptr<LineLoads> lineLoads_;
+    std::unique_ptr<LineLoads> freeLoads_;
+};
+
+} // namespace varno

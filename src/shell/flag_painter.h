@@ -1,0 +1,10 @@
+#pragma once
+
+#include "win32/gdi_canvas.h"
+
+namespace varno {
+
+/// Paints a flag button. A pressed one is drawn a little smaller, the focused one with the focus frame.
+void paintFlag(HDC dc, const RECT& box, int flag, bool pressed, bool focused);
+
+} // namespace varno

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string_view>
+
+#include "controls/field.h"
+#include "lineloads/line_load_view.h"
+
+// Which topic of the help belongs to which place in the program.
+
+namespace varno {
+
+/// What the field tables name for a control of the input form; the spin button has the topic of the span count.
+std::string_view helpTopicOf(Control control);
+std::string_view helpTopicOf(LineLoadControl control);
+/// The topic of a menu item by its ID; "menyer" for one that has none.
+std::string_view helpTopicOfMenu(int id);
+/// The topic of a window of the program by its class, empty for any other class.
+std::string_view helpTopicOfWindow(std::string_view className);
+/// The topic of a message box by its title.
+std::string_view helpTopicOfMessage(std::string_view title);
+
+} // namespace varno

@@ -1,0 +1,152 @@
+#include "files/file_dialog.h"
+
+#include <gtest/gtest.h>
+
+#include "support/fake_folders.h"
+#include "support/memory_files.h"
+
+namespace varno::testing {
+namespace {
+
+class FakeDialogView : public FileDialogView {
+  public:
+    std::string name() const override { return text; }
+    void setName(const std::string& name) override { text = name; }
+    void selectName() override { ++selected; }
+    void setNote(const std::string& shown) override { note = shown; }
+    void refreshLists() override { ++refreshed; }
+    void close() override { closed = true; }
+
+    std::string text;
+    std::string note;
+    int selected = 0;
+    int refreshed = 0;
+    bool closed = false;
+};
+
+class FileDialogTest : public ::testing::Test {
+  protected:
+    void ok(const std::string& text) {
+        view.text = text;
+        dialog.accepted(view);
+    }
+    FakeFolders folders;
+    FakeMessageBoxes boxes;
+    FileDialog dialog{folders, boxes};
+    FakeDialogView view;
+};
+
+TEST_F(FileDialogTest, ForSavingItProposesATestNameAndShowsTheRule) {
+    dialog.dialogForSaving = 1;
+    dialog.activated(view);
+    EXPECT_EQ(view.text, "test");
+    EXPECT_EQ(view.selected, 1);
+    EXPECT_EQ(view.note,
+              "OBS! Filnamnet får innehålla max åtta tecken och inga mellanslag, komma, punkt eller å, ä, ö");
+}
+
+TEST_F(FileDialogTest, ForChoosingThereIsNoRule) {
+    dialog.activated(view);
+    EXPECT_EQ(view.text, "");
+    EXPECT_EQ(view.note, "");
+    EXPECT_EQ(view.refreshed, 1);
+}
+
+TEST_F(FileDialogTest, ANameIsAcceptedAsItStands) {
+    ok(" kalk ");
+    EXPECT_EQ(dialog.typedName, " kalk ");
+    EXPECT_EQ(dialog.dialogAnswer, 0);
+    EXPECT_TRUE(view.closed);
+    EXPECT_EQ(dialog.path("KALK.IND"), "C:\\arbete\\KALK.IND");
+}
+
+TEST_F(FileDialogTest, AClickedFileIsPutIntoTheTextBox) {
+    dialog.fileClicked(view, "HUS2.IND");
+    EXPECT_EQ(view.text, "HUS2.IND");
+    EXPECT_FALSE(view.closed);
+}
+
+TEST_F(FileDialogTest, ADriveIsSwitchedToAndTheDialogStaysOpen) {
+    ok("a:");
+    EXPECT_FALSE(view.closed);
+    EXPECT_EQ(dialog.lists().directory(), "A:\\");
+    EXPECT_EQ(dialog.lists().drive(), "A:");
+    EXPECT_EQ(view.selected, 1);
+    ok("c:");
+    EXPECT_EQ(dialog.lists().directory(), "C:\\arbete");
+}
+
+TEST_F(FileDialogTest, AFolderIsEnteredAndTheDialogStaysOpen) {
+    ok("C:\\arbete\\gammalt");
+    EXPECT_EQ(dialog.lists().directory(), "C:\\arbete\\gammalt");
+    EXPECT_FALSE(view.closed);
+}
+
+TEST_F(FileDialogTest, APatternIsTakenForTheFileList) {
+    ok("H*.IND");
+    EXPECT_EQ(dialog.lists().pattern(), "H*.IND");
+    EXPECT_EQ(view.refreshed, 1);
+    dialog.lists().files();
+    EXPECT_EQ(folders.asked, "C:\\arbete H*.IND");
+    ok("HUS?");
+    EXPECT_EQ(dialog.lists().pattern(), "HUS?");
+    ok("C:\\arbete\\gammalt\\*.RES");
+    EXPECT_EQ(dialog.lists().directory(), "C:\\arbete\\gammalt");
+    EXPECT_EQ(dialog.lists().pattern(), "*.RES");
+    EXPECT_FALSE(view.closed);
+}
+
+TEST_F(FileDialogTest, ADriveOrFolderThatIsNotThereIsAnErrorAndNothingMoves) {
+    EXPECT_EQ(errorOf([&] { ok("q:"); }), errDeviceUnavailable);
+    EXPECT_EQ(errorOf([&] { ok("C:\\finns inte"); }), errPathNotFound);
+    EXPECT_EQ(errorOf([&] { dialog.driveChosen(view, "Q:"); }), errDeviceUnavailable);
+    EXPECT_EQ(dialog.lists().directory(), "C:\\arbete");
+    EXPECT_FALSE(view.closed);
+    EXPECT_EQ(view.selected, 2) << "the text is there to be mended";
+}
+
+TEST_F(FileDialogTest, BlanksAreNoName) {
+    ok("   ");
+    EXPECT_FALSE(view.closed);
+    EXPECT_EQ(boxes.shown.size(), 1u);
+}
+
+TEST_F(FileDialogTest, CancelAnswersOne) {
+    dialog.dialogAnswer = 0;
+    dialog.cancelled(view);
+    EXPECT_EQ(dialog.dialogAnswer, 1);
+    EXPECT_TRUE(view.closed);
+}
+
+TEST_F(FileDialogTest, TheListsStayWhereTheyWereLeft) {
+    dialog.folderChosen(view, "C:\\arbete\\gammalt");
+    dialog.activated(view);
+    EXPECT_EQ(dialog.lists().directory(), "C:\\arbete\\gammalt");
+    dialog.driveChosen(view, "A:");
+    EXPECT_EQ(dialog.path("X"), "A:\\\\X");
+}
+
+TEST_F(FileDialogTest, TheDirectoryListLeadsFromTheRootToTheFolderAndItsSubfolders) {
+    const auto rows = dialog.lists().folderRows();
+    ASSERT_EQ(rows.size(), 3u);
+    EXPECT_EQ(rows[0].name, "C:\\");
+    EXPECT_EQ(rows[0].path, "C:\\");
+    EXPECT_EQ(rows[1].name, "arbete");
+    EXPECT_EQ(rows[1].path, "C:\\arbete");
+    EXPECT_TRUE(rows[1].open);
+    EXPECT_EQ(rows[2].name, "gammalt");
+    EXPECT_EQ(rows[2].path, "C:\\arbete\\gammalt");
+    EXPECT_EQ(rows[2].depth, 2);
+    EXPECT_FALSE(rows[2].open);
+}
+
+TEST_F(FileDialogTest, ARootIsOneRow) {
+    dialog.lists().changeDrive("A:");
+    const auto rows = dialog.lists().folderRows();
+    ASSERT_EQ(rows.size(), 1u);
+    EXPECT_EQ(rows[0].path, "A:\\");
+    EXPECT_EQ(dialog.lists().pathOf("X.IND"), "A:\\X.IND");
+}
+
+} // namespace
+} // namespace varno::testing
