@@ -95,10 +95,10 @@ void addMaterials(JsonObject& json, const DesignCase& c) {
 
 } // namespace
 
-std::string caseJson(const LoadedCase& loaded) {
+std::string caseJson(const CaseFile& loaded) {
     const DesignCase& c = loaded.designCase;
     JsonObject json;
-    json.add("currentFileName", loaded.document.currentFileName);
+    json.add("currentFileName", loaded.name);
     json.add("rubrik", loaded.title);
     addLoads(json, c);
     addMaterials(json, c);

@@ -55,8 +55,8 @@ class Section {
     std::string text_;
 };
 
-std::string heading(const LoadedCase& loaded) {
-    const std::string name = loaded.document.currentFileName + ".IND";
+std::string heading(const CaseFile& loaded) {
+    const std::string name = loaded.name + ".IND";
     return name + "\n" + std::string(widthOf(name), '=') + "\n" + withoutTrailingBlanks(loaded.title) + "\n";
 }
 
@@ -158,7 +158,7 @@ std::string deformation(const DesignCase& c) {
 
 } // namespace
 
-std::string caseReport(const LoadedCase& loaded) {
+std::string caseReport(const CaseFile& loaded) {
     const DesignCase& c = loaded.designCase;
     return heading(loaded) + rules(c) + spans(c) + supports(c) + lineLoads(c) + materials(c) + fire(c) +
            deformation(c);

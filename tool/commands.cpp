@@ -2,7 +2,6 @@
 
 #include <ostream>
 
-#include "model/design_input_file.h"
 #include "model/reference_tables.h"
 #include "results/result_text.h"
 #include "tool/case_json.h"
@@ -15,15 +14,6 @@ namespace {
 constexpr std::int16_t forOutput = 1;
 constexpr std::int16_t forInput = 2;
 
-class TitleKeeper : public CaseDisplay {
-  public:
-    explicit TitleKeeper(std::string& title) : title_(title) {}
-    void setTitle(const std::string& title) override { title_ = title; }
-
-  private:
-    std::string& title_;
-};
-
 } // namespace
 
 MessageAnswer ConsoleBoxes::show(const std::string& text, int style, const std::string& title) {
@@ -31,14 +21,11 @@ MessageAnswer ConsoleBoxes::show(const std::string& text, int style, const std::
     return style == msgYesNo ? MessageAnswer::no : MessageAnswer::cancel;
 }
 
-LoadedCase loadCase(FileOpener& opener, const std::string& path) {
-    LoadedCase loaded;
-    presetDesignCase(loaded.designCase);
-    TitleKeeper display(loaded.title);
+CaseFile loadCase(FileOpener& opener, const std::string& path) {
+    DesignCase presets;
+    presetDesignCase(presets);
     File file = opener.openFile(path, forInput);
-    VARNO1::readDesignCase(file, loaded.designCase, loaded.document, display);
-    file.close();
-    return loaded;
+    return VARNO1::readDesignCase(file, presets);
 }
 
 void printJson(FileOpener& opener, const std::string& path, std::ostream& out) {
@@ -46,9 +33,9 @@ void printJson(FileOpener& opener, const std::string& path, std::ostream& out) {
 }
 
 void rewriteCase(FileOpener& opener, const std::string& from, const std::string& to) {
-    const LoadedCase loaded = loadCase(opener, from);
+    const CaseFile loaded = loadCase(opener, from);
     File file = opener.openFile(to, forOutput);
-    VARNO1::writeDesignCase(file, loaded.designCase, loaded.document, loaded.title);
+    VARNO1::writeDesignCase(file, loaded);
     file.close();
 }
 

@@ -5,16 +5,9 @@
 
 #include "base/message_boxes.h"
 #include "base/open_file.h"
-#include "model/design_case.h"
+#include "model/design_input_file.h"
 
 namespace varno::tool {
-
-/// A case as a file gave it. Texts are UTF-8.
-struct LoadedCase {
-    DesignCase designCase;
-    DocumentState document;
-    std::string title;
-};
 
 /// Message boxes of a program without windows: the text goes to the error stream. The answer is never one
 /// that tries again, since nobody is there to put the disk in.
@@ -31,7 +24,7 @@ class ConsoleBoxes : public MessageBoxes {
 // open, and what the readers raise.
 
 /// The case of a file, read over the presets as "Öppna" does.
-LoadedCase loadCase(FileOpener& opener, const std::string& path);
+CaseFile loadCase(FileOpener& opener, const std::string& path);
 
 void printJson(FileOpener& opener, const std::string& path, std::ostream& out);
 /// Reads a case and writes it again; both may be the same file.

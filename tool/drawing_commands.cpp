@@ -30,7 +30,7 @@ void writeLines(FileOpener& opener, const std::string& path, const std::string& 
 
 void drawDiagramOn(Canvas& canvas, FileOpener& opener, const std::string& path,
                    const std::string& momentPath) {
-    const LoadedCase loaded = loadCase(opener, path);
+    const CaseFile loaded = loadCase(opener, path);
     SketchPicture unseen;
     SlabSketch sketch(loaded.designCase, unseen.loadPicture, unseen.slabStrip, unseen);
     sketch.computeGeometry();
@@ -46,7 +46,7 @@ void drawDiagramOn(Canvas& canvas, FileOpener& opener, const std::string& path,
 } // namespace
 
 void listSketch(FileOpener& opener, const std::string& path, std::ostream& out) {
-    const LoadedCase loaded = loadCase(opener, path);
+    const CaseFile loaded = loadCase(opener, path);
     ListCanvas loadPicture("load", out);
     ListCanvas slabStrip("strip", out);
     ListButtons buttons(out);
@@ -54,7 +54,7 @@ void listSketch(FileOpener& opener, const std::string& path, std::ostream& out) 
 }
 
 void drawSketch(FileOpener& opener, const std::string& path, const std::string& svgPath) {
-    const LoadedCase loaded = loadCase(opener, path);
+    const CaseFile loaded = loadCase(opener, path);
     SketchPicture picture;
     SlabSketch(loaded.designCase, picture.loadPicture, picture.slabStrip, picture).fullRefresh();
     writeLines(opener, svgPath, svgOf(picture));

@@ -52,26 +52,19 @@ void parseCell(benchmark::State& state) {
 }
 BENCHMARK(parseCell);
 
-class NoDisplay : public CaseDisplay {
-    void setTitle(const std::string&) override {}
-};
-
 // Ten spans, written to the disk and read back.
 void writeAndReadCase(benchmark::State& state) {
     const std::string path = (std::filesystem::temp_directory_path() / "varno-bench.IND").string();
-    DesignCase designCase;
-    presetDesignCase(designCase);
-    designCase.nfack = maxSpans;
-    designCase.loadCode = 3;
-    DocumentState document;
-    document.currentFileName = "BENCH";
-    NoDisplay display;
+    CaseFile ten{{}, "BENCH", "Tio fack"};
+    presetDesignCase(ten.designCase);
+    ten.designCase.nfack = maxSpans;
+    ten.designCase.loadCode = 3;
     for (auto _ : state) {
         File output(systemFileCalls(), path, FileMode::output, 0, 1);
-        VARNO1::writeDesignCase(output, designCase, document, "Tio fack");
+        VARNO1::writeDesignCase(output, ten);
         output.close();
         File input(systemFileCalls(), path, FileMode::input, 0, 1);
-        VARNO1::readDesignCase(input, designCase, document, display);
+        benchmark::DoNotOptimize(VARNO1::readDesignCase(input, ten.designCase));
     }
     std::filesystem::remove(path);
 }

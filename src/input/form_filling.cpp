@@ -7,14 +7,6 @@
 
 namespace varno {
 
-// How a line of the file that holds one number of its own is shown.
-struct ShownLine {
-    int line;
-    Field field;
-    enum { row, option, whole, limit, check } as;
-    std::int16_t DesignCase::*value;
-};
-
 namespace {
 
 // By rule set, from 1.
@@ -26,25 +18,49 @@ bool hasPresets(int ruleSet) {
     return ruleSet >= 1 && ruleSet <= maxLoadCode;
 }
 
-constexpr std::array shownLines{
-    ShownLine{5, Field::nfack, ShownLine::whole, &DesignCase::nfack},
-    ShownLine{11, Field::lastkomb, ShownLine::option, &DesignCase::lastkomb},
-    ShownLine{16, Field::btg, ShownLine::row, &DesignCase::btg},
-    ShownLine{17, Field::aok, ShownLine::row, &DesignCase::aok},
-    ShownLine{18, Field::dok, ShownLine::row, &DesignCase::dok},
-    ShownLine{19, Field::kavko, ShownLine::check, &DesignCase::kavko},
-    ShownLine{20, Field::ktack, ShownLine::whole, &DesignCase::ktack},
-    ShownLine{21, Field::auk, ShownLine::row, &DesignCase::auk},
-    ShownLine{22, Field::duk, ShownLine::row, &DesignCase::duk},
-    ShownLine{23, Field::duarm, ShownLine::whole, &DesignCase::duarm},
-    ShownLine{24, Field::brandk, ShownLine::row, &DesignCase::brandk},
-    ShownLine{25, Field::brandb, ShownLine::option, &DesignCase::brandb},
-    ShownLine{26, Field::kutak, ShownLine::option, &DesignCase::kutak},
-    ShownLine{28, Field::overhojning, ShownLine::whole, &DesignCase::overhojning},
-    ShownLine{29, Field::initiell, ShownLine::limit, &DesignCase::initiell},
-    ShownLine{30, Field::tillkommande, ShownLine::limit, &DesignCase::tillkommande},
-    ShownLine{31, Field::brukskomb, ShownLine::option, &DesignCase::brukskomb},
+struct CaseList {
+    Field field;
+    std::span<const std::string_view> rows;
 };
+// Filled when a case is shown, and when the load rules become the Swedish ones.
+constexpr std::array caseLists{
+    CaseList{Field::lokt, loadCategories},
+    CaseList{Field::btg, concreteClasses},
+    CaseList{Field::aok, steelGrades},
+    CaseList{Field::auk, steelGrades},
+};
+constexpr std::array fixedLists{
+    CaseList{Field::brandk, fireClasses},
+    CaseList{Field::duk, barDiameters},
+    CaseList{Field::dok, barDiameters},
+};
+
+// How a whole number of the case is shown.
+struct ShownNumber {
+    Field field;
+    enum { row, option, whole, limit, check } as;
+    std::int16_t DesignCase::*value;
+};
+
+constexpr std::array shownNumbers{
+    ShownNumber{Field::nfack, ShownNumber::whole, &DesignCase::nfack},
+    ShownNumber{Field::lastkomb, ShownNumber::option, &DesignCase::lastkomb},
+    ShownNumber{Field::dok, ShownNumber::row, &DesignCase::dok},
+    ShownNumber{Field::kavko, ShownNumber::check, &DesignCase::kavko},
+    ShownNumber{Field::ktack, ShownNumber::whole, &DesignCase::ktack},
+    ShownNumber{Field::duk, ShownNumber::row, &DesignCase::duk},
+    ShownNumber{Field::duarm, ShownNumber::whole, &DesignCase::duarm},
+    ShownNumber{Field::brandk, ShownNumber::row, &DesignCase::brandk},
+    ShownNumber{Field::brandb, ShownNumber::option, &DesignCase::brandb},
+    ShownNumber{Field::kutak, ShownNumber::option, &DesignCase::kutak},
+    ShownNumber{Field::overhojning, ShownNumber::whole, &DesignCase::overhojning},
+    ShownNumber{Field::initiell, ShownNumber::limit, &DesignCase::initiell},
+    ShownNumber{Field::tillkommande, ShownNumber::limit, &DesignCase::tillkommande},
+    ShownNumber{Field::brukskomb, ShownNumber::option, &DesignCase::brukskomb},
+};
+
+constexpr std::array factorFields{Field::lambdaG, Field::ksi,  Field::lambdaQ,
+                                  Field::psi0,    Field::psi1, Field::psi2};
 
 } // namespace
 
@@ -57,10 +73,30 @@ int flagOfRuleSet(int ruleSet) {
     return hasPresets(ruleSet) ? flags[static_cast<std::size_t>(ruleSet - 1)] : 0;
 }
 
-CaseFormFiller::CaseFormFiller(DesignCase& designCase, FormView& form, MainView& window, NumberLocale locale,
-                               std::function<void()> refresh)
-    : case_(designCase), form_(form), window_(window), locale_(std::move(locale)),
-      refresh_(std::move(refresh)) {}
+CaseFormFiller::CaseFormFiller(DesignCase& designCase, FormView& form, MainView& window, NumberLocale locale)
+    : case_(designCase), form_(form), window_(window), locale_(std::move(locale)) {}
+
+void CaseFormFiller::showCase(const std::string& title) {
+    form_.setText({Field::rubrik}, title);
+    showRuleSet();
+    if (hasPresets(case_.loadCode)) {
+        form_.selectOption(classGroup(case_.loadCode), case_.safetyClass(case_.loadCode));
+    }
+    showLoadFrameCaption();
+    // Whatever the rule set: only a switch to the sixth opens them.
+    for (const Field factor : factorFields)
+        form_.setEnabled({factor}, false);
+    showFactors();
+    for (const CaseList& list : fixedLists)
+        fillList(list.field, list.rows);
+    fillCaseLists();
+    showNumber({Field::konsv}, case_.konsv, "#0.00");
+    showNumber({Field::konsh}, case_.konsh, "#0.00");
+    showNumbers();
+    showCaseFields();
+    showSpanCells();
+    showFireOptions();
+}
 
 void CaseFormFiller::fillList(Field list, std::span<const std::string_view> rows) {
     form_.clearList(list);
@@ -68,30 +104,18 @@ void CaseFormFiller::fillList(Field list, std::span<const std::string_view> rows
         form_.addRow(list, row);
 }
 
-void CaseFormFiller::fillReferenceTables() {
-    presetDesignCase(case_);
-    fillList(Field::brandk, fireClasses);
-    fillList(Field::duk, barDiameters);
-    fillList(Field::dok, barDiameters);
-    window_.setDiagramEnabled(false);
-}
-
-void CaseFormFiller::readingStarts() {
-    for (const Field list : {Field::lokt, Field::btg, Field::aok, Field::auk})
-        form_.clearList(list);
-}
-
-void CaseFormFiller::setTitle(const std::string& title) {
-    form_.setText({Field::rubrik}, title);
+void CaseFormFiller::fillCaseLists() {
+    for (const CaseList& list : caseLists)
+        fillList(list.field, list.rows);
+    form_.selectRow(Field::lokt, case_.lokt);
+    form_.selectRow(Field::aok, case_.aok - 1);
+    form_.selectRow(Field::auk, case_.auk - 1);
+    form_.selectRow(Field::btg, case_.btg - 1);
 }
 
 template <typename Number>
 void CaseFormFiller::showNumber(Control control, Number value, std::string_view pattern) {
     form_.setText(control, formatNumber(value, pattern, locale_));
-}
-
-void CaseFormFiller::showWhole(Field field, int value, std::string_view pattern) {
-    showNumber({field}, static_cast<double>(value), pattern);
 }
 
 void CaseFormFiller::showRuleSet() {
@@ -119,69 +143,26 @@ void CaseFormFiller::showLoadFrameCaption() {
     form_.setCaption({Field::loadFrame}, case_.loadCode == 1 ? "Laster enl. BKR" : "Laster enl. Eurokod");
 }
 
-void CaseFormFiller::lineRead(int number) {
-    switch (number) {
-    case 3:
-        showRuleSet();
-        for (const Field factor :
-             {Field::lambdaG, Field::ksi, Field::lambdaQ, Field::psi0, Field::psi1, Field::psi2}) {
-            form_.setEnabled({factor}, false);
+void CaseFormFiller::showNumbers() {
+    for (const ShownNumber& number : shownNumbers) {
+        const std::int16_t value = case_.*number.value;
+        switch (number.as) {
+        case ShownNumber::row:
+            form_.selectRow(number.field, value - 1);
+            break;
+        case ShownNumber::option:
+            form_.selectOption(number.field, value);
+            break;
+        case ShownNumber::whole:
+            showNumber({number.field}, static_cast<double>(value), "#0");
+            break;
+        case ShownNumber::limit:
+            showNumber({number.field}, static_cast<double>(value), "####");
+            break;
+        case ShownNumber::check:
+            form_.setChecked(number.field, value != 0);
+            break;
         }
-        return;
-    case 4:
-        if (hasPresets(case_.loadCode)) {
-            form_.selectOption(classGroup(case_.loadCode), case_.safetyClass(case_.loadCode));
-        }
-        return;
-    case 9:
-        form_.setCaption({Field::loadFrame}, "Laster enl. Eurokod");
-        fillList(Field::lokt, loadCategories);
-        form_.selectRow(Field::lokt, case_.lokt);
-        return;
-    case 10:
-        showFactors();
-        return;
-    case 14:
-        showNumber({Field::konsv}, case_.konsv, "#0.00");
-        return;
-    case 15:
-        showNumber({Field::konsh}, case_.konsh, "#0.00");
-        return;
-    case 16:
-        fillList(Field::btg, concreteClasses);
-        break;
-    case 17:
-        fillList(Field::aok, steelGrades);
-        break;
-    case 21:
-        fillList(Field::auk, steelGrades);
-        break;
-    default:
-        break;
-    }
-    for (const ShownLine& shown : shownLines) {
-        if (shown.line == number) showLine(shown);
-    }
-}
-
-void CaseFormFiller::showLine(const ShownLine& shown) {
-    const std::int16_t value = case_.*shown.value;
-    switch (shown.as) {
-    case ShownLine::row:
-        form_.selectRow(shown.field, value - 1);
-        break;
-    case ShownLine::option:
-        form_.selectOption(shown.field, value);
-        break;
-    case ShownLine::whole:
-        showWhole(shown.field, value);
-        break;
-    case ShownLine::limit:
-        showWhole(shown.field, value, "####");
-        break;
-    case ShownLine::check:
-        form_.setChecked(shown.field, value != 0);
-        break;
     }
 }
 
@@ -220,21 +201,6 @@ void CaseFormFiller::showFireOptions() {
         form_.setCaption({Field::brandb, option}, byFireLoad ? fireLoad[place] : resistance[place]);
     }
     form_.setVisible({Field::brandb, 4}, byFireLoad);
-}
-
-void CaseFormFiller::caseRead() {
-    showCaseFields();
-    showSpanCells();
-    showFireOptions();
-    showLoadFrameCaption();
-    refresh_();
-}
-
-void CaseFormFiller::showAll() {
-    readingStarts();
-    for (const CaseLine& line : caseLines)
-        lineRead(line.number);
-    caseRead();
 }
 
 } // namespace varno

@@ -66,16 +66,7 @@ void LoadRules::enterRuleSet(int ruleSet) {
 void LoadRules::switchToSwedishRules() {
     context_.document.dataChanged = true;
     enterRuleSet(swedishRules);
-
-    const DesignCase& designCase = context_.designCase;
-    context_.filler.fillList(Field::lokt, loadCategories);
-    context_.filler.fillList(Field::btg, concreteClasses);
-    context_.filler.fillList(Field::aok, steelGrades);
-    context_.filler.fillList(Field::auk, steelGrades);
-    context_.form.selectRow(Field::lokt, designCase.lokt);
-    context_.form.selectRow(Field::aok, designCase.aok - 1);
-    context_.form.selectRow(Field::auk, designCase.auk - 1);
-    context_.form.selectRow(Field::btg, designCase.btg - 1);
+    context_.filler.fillCaseLists();
 }
 
 void LoadRules::categoryChosen(int row) {

@@ -46,11 +46,10 @@ double finite(double value) {
 
 class LineWriter {
   public:
-    LineWriter(const DesignCase& designCase, const DocumentState& document, const std::string& title)
-        : case_(designCase), document_(document), title_(title) {}
+    explicit LineWriter(const CaseFile& caseFile) : file_(caseFile), case_(caseFile.designCase) {}
 
-    std::string operator()(CaseNameLine) const { return oem(document_.currentFileName); }
-    std::string operator()(TitleLine) const { return oem(title_); }
+    std::string operator()(CaseNameLine) const { return oem(file_.name); }
+    std::string operator()(TitleLine) const { return oem(file_.title); }
     std::string operator()(IntegerLine line) const { return std::to_string(case_.*line.field); }
     std::string operator()(SafetyClassLine) const {
         return std::to_string(case_.safetyClass(case_.loadCode));
@@ -78,23 +77,21 @@ class LineWriter {
   private:
     static std::string oem(const std::string& text) { return VARNO1::toOemLetters(encodeWindows1252(text)); }
 
+    const CaseFile& file_;
     const DesignCase& case_;
-    const DocumentState& document_;
-    const std::string& title_;
 };
 
 class LineReader {
   public:
-    LineReader(DesignCase& designCase, DocumentState& document, CaseDisplay& display)
-        : case_(designCase), document_(document), display_(display) {}
+    explicit LineReader(CaseFile& caseFile) : file_(caseFile), case_(caseFile.designCase) {}
 
     void read(const CaseLine& line, Bytes text) {
         text_ = std::move(text);
-        std::visit(*this, line.content);
+        std::visit(*this, line);
     }
 
-    void operator()(CaseNameLine) { document_.currentFileName = upperCase(letters()); }
-    void operator()(TitleLine) { display_.setTitle(letters()); }
+    void operator()(CaseNameLine) { file_.name = upperCase(letters()); }
+    void operator()(TitleLine) { file_.title = letters(); }
     void operator()(IntegerLine line) { case_.*line.field = number(); }
     void operator()(SafetyClassLine) { case_.safetyClass(case_.loadCode) = number(); }
     void operator()(RealLine line) { case_.*line.field = toSingle(VARNO1::parseNumber(text_)); }
@@ -130,9 +127,8 @@ class LineReader {
     std::int16_t number() const { return toInteger(VARNO1::parseNumber(text_)); }
     std::string letters() const { return decodeWindows1252(VARNO1::fromOemLetters(text_)); }
 
+    CaseFile& file_;
     DesignCase& case_;
-    DocumentState& document_;
-    CaseDisplay& display_;
     Bytes text_;
 };
 
@@ -142,22 +138,18 @@ class LineReader {
 
 namespace VARNO1 {
 
-void readDesignCase(varno::File& file, varno::DesignCase& designCase, varno::DocumentState& document,
-                    varno::CaseDisplay& display) {
-    display.readingStarts();
-    varno::LineReader reader(designCase, document, display);
-    for (const varno::CaseLine& line : varno::caseLines) {
+varno::CaseFile readDesignCase(varno::File& file, const varno::DesignCase& presets) {
+    varno::CaseFile read{presets, {}, {}};
+    varno::LineReader reader(read);
+    for (const varno::CaseLine& line : varno::caseLines)
         reader.read(line, file.readField());
-        display.lineRead(line.number);
-    }
-    display.caseRead();
+    return read;
 }
 
-void writeDesignCase(varno::File& file, const varno::DesignCase& designCase,
-                     const varno::DocumentState& document, const std::string& title) {
-    const varno::LineWriter writer(designCase, document, title);
+void writeDesignCase(varno::File& file, const varno::CaseFile& caseFile) {
+    const varno::LineWriter writer(caseFile);
     for (const varno::CaseLine& line : varno::caseLines)
-        file.printLine(std::visit(writer, line.content));
+        file.printLine(std::visit(writer, line));
 }
 
 } // namespace VARNO1

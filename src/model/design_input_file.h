@@ -52,79 +52,68 @@ struct FactorCellsLine { ///< lambdaG, ksi, lambdaQ, psi0, psi1, psi2 of the cur
 struct LineLoadLine { ///< span number, distance and load of one line load
     int index;
 };
-using CaseLineContent = std::variant<CaseNameLine, TitleLine, IntegerLine, SafetyClassLine, RealLine,
-                                     SpanCellsLine, FactorCellsLine, LineLoadLine>;
+using CaseLine = std::variant<CaseNameLine, TitleLine, IntegerLine, SafetyClassLine, RealLine, SpanCellsLine,
+                              FactorCellsLine, LineLoadLine>;
 
-struct CaseLine {
-    int number; ///< 1..37
-    CaseLineContent content;
+inline constexpr std::array<CaseLine, 37> caseLines{
+    CaseNameLine{},
+    TitleLine{},
+    IntegerLine{&DesignCase::loadCode},
+    SafetyClassLine{},
+    IntegerLine{&DesignCase::nfack},
+    SpanCellsLine{&DesignCase::spv, spanCell, 1},
+    SpanCellsLine{&DesignCase::ptjl, spanCell, 1},
+    SpanCellsLine{&DesignCase::upl, supportCell, 0},
+    IntegerLine{&DesignCase::lokt},
+    FactorCellsLine{spanCell},
+    IntegerLine{&DesignCase::lastkomb},
+    SpanCellsLine{&DesignCase::plast, spanCell, 1},
+    SpanCellsLine{&DesignCase::flast, spanCell, 1},
+    RealLine{&DesignCase::konsv},
+    RealLine{&DesignCase::konsh},
+    IntegerLine{&DesignCase::btg},
+    IntegerLine{&DesignCase::aok},
+    IntegerLine{&DesignCase::dok},
+    IntegerLine{&DesignCase::kavko},
+    IntegerLine{&DesignCase::ktack},
+    IntegerLine{&DesignCase::auk},
+    IntegerLine{&DesignCase::duk},
+    IntegerLine{&DesignCase::duarm},
+    IntegerLine{&DesignCase::brandk},
+    IntegerLine{&DesignCase::brandb},
+    IntegerLine{&DesignCase::kutak},
+    IntegerLine{&DesignCase::reservedValue},
+    IntegerLine{&DesignCase::overhojning},
+    IntegerLine{&DesignCase::initiell},
+    IntegerLine{&DesignCase::tillkommande},
+    IntegerLine{&DesignCase::brukskomb},
+    IntegerLine{&DesignCase::nllast},
+    LineLoadLine{1},
+    LineLoadLine{2},
+    LineLoadLine{3},
+    LineLoadLine{4},
+    LineLoadLine{5},
 };
 
-inline constexpr std::array<CaseLine, 37> caseLines{{
-    {1, CaseNameLine{}},
-    {2, TitleLine{}},
-    {3, IntegerLine{&DesignCase::loadCode}},
-    {4, SafetyClassLine{}},
-    {5, IntegerLine{&DesignCase::nfack}},
-    {6, SpanCellsLine{&DesignCase::spv, spanCell, 1}},
-    {7, SpanCellsLine{&DesignCase::ptjl, spanCell, 1}},
-    {8, SpanCellsLine{&DesignCase::upl, supportCell, 0}},
-    {9, IntegerLine{&DesignCase::lokt}},
-    {10, FactorCellsLine{spanCell}},
-    {11, IntegerLine{&DesignCase::lastkomb}},
-    {12, SpanCellsLine{&DesignCase::plast, spanCell, 1}},
-    {13, SpanCellsLine{&DesignCase::flast, spanCell, 1}},
-    {14, RealLine{&DesignCase::konsv}},
-    {15, RealLine{&DesignCase::konsh}},
-    {16, IntegerLine{&DesignCase::btg}},
-    {17, IntegerLine{&DesignCase::aok}},
-    {18, IntegerLine{&DesignCase::dok}},
-    {19, IntegerLine{&DesignCase::kavko}},
-    {20, IntegerLine{&DesignCase::ktack}},
-    {21, IntegerLine{&DesignCase::auk}},
-    {22, IntegerLine{&DesignCase::duk}},
-    {23, IntegerLine{&DesignCase::duarm}},
-    {24, IntegerLine{&DesignCase::brandk}},
-    {25, IntegerLine{&DesignCase::brandb}},
-    {26, IntegerLine{&DesignCase::kutak}},
-    {27, IntegerLine{&DesignCase::reservedValue}},
-    {28, IntegerLine{&DesignCase::overhojning}},
-    {29, IntegerLine{&DesignCase::initiell}},
-    {30, IntegerLine{&DesignCase::tillkommande}},
-    {31, IntegerLine{&DesignCase::brukskomb}},
-    {32, IntegerLine{&DesignCase::nllast}},
-    {33, LineLoadLine{1}},
-    {34, LineLoadLine{2}},
-    {35, LineLoadLine{3}},
-    {36, LineLoadLine{4}},
-    {37, LineLoadLine{5}},
-}};
-
-/// Follows a case being read, line by line: the input form does, and shows each value as it comes. The title
-/// of the case lives there and nowhere else.
-class CaseDisplay {
-  public:
-    virtual ~CaseDisplay() = default;
-    virtual void readingStarts() {}
-    virtual void setTitle(const std::string& title) = 0;
-    /// The record holds the values of line `number`.
-    virtual void lineRead(int number) { static_cast<void>(number); }
-    virtual void caseRead() {}
+/// A design case as a file holds it. Texts are UTF-8.
+struct CaseFile {
+    DesignCase designCase;
+    std::string name; ///< as in DocumentState::currentFileName
+    std::string title;
+    bool operator==(const CaseFile&) const = default;
 };
 
 } // namespace varno
 
 namespace VARNO1 {
 
-/// Reads the 37 lines of an open file into the record, which keeps what the file does not name, and sets
-/// `currentFileName`. \throws RunTimeError 52 (no file), 62 (too few lines), 6 (a number out of range), 9 (a
-/// rule set, category or span count outside the arrays); the record is then partly overwritten.
-void readDesignCase(varno::File& file, varno::DesignCase& designCase, varno::DocumentState& document,
-                    varno::CaseDisplay& display);
+/// Reads the 37 lines of an open file; what it does not name stays as it is in `presets`. \throws RunTimeError
+/// 52 (no file), 62 (too few lines), 6 (a number out of range), 9 (a rule set, category or span count outside
+/// the arrays).
+varno::CaseFile readDesignCase(varno::File& file, const varno::DesignCase& presets);
 
 /// Writes the 37 lines to a file open for output. Closing the file, and noting in the document that the case
 /// is saved, is the caller's: only a closed file is on the disk.
-void writeDesignCase(varno::File& file, const varno::DesignCase& designCase,
-                     const varno::DocumentState& document, const std::string& title);
+void writeDesignCase(varno::File& file, const varno::CaseFile& caseFile);
 
 } // namespace VARNO1

@@ -27,7 +27,7 @@ Application::Application()
     : locale_(win32::userNumberLocale()), files_(systemFileCalls(), boxes_), fileDialog_(folders_, boxes_),
       main_(*this, *this, picture_), form_(*this, *this),
       sketch_(case_, picture_.loadPicture, picture_.slabStrip, picture_, [this] { main_.sketchChanged(); }),
-      filler_(case_, form_, main_, locale_, [this] { caseShown(); }), input_(inputContext()),
+      filler_(case_, form_, main_, locale_), input_(inputContext()),
       document_(case_, state_, filler_, form_, main_, files_, fileDialog_, boxes_, *this),
       printing_(files_, boxes_, main_, printer_), deletion_(folders_, systemFileCalls()),
       diagram_(case_, sketch_) {
@@ -48,7 +48,7 @@ Application::~Application() {
 
 int Application::run() {
     try {
-        StartUp(settings_, state_, document_, files_, main_, *this).run();
+        StartUp(settings_, document_, files_, main_, *this).run();
     } catch (const RunTimeError& error) {
         boxes_.show(error.message(), MB_OK | MB_ICONERROR, errorTitle);
         return 1;

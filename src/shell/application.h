@@ -74,6 +74,7 @@ class Application : private win32::WindowHost,
     SaveAnswer askToSave(const std::string& caption, const std::string& text, bool cancelOffered) override;
     void showFileDialog(FileDialog& dialog) override;
     void endProgram() override;
+    void caseOpened() override;
 
     // StartUpView
     void showMainWindow() override;
@@ -103,7 +104,6 @@ class Application : private win32::WindowHost,
     struct LineLoads;
     void openLineLoads(std::unique_ptr<LineLoads>& editor, const LineLoadSet& set);
     void showForm();
-    void caseShown();
     InputContext inputContext();
 
     NumberLocale locale_;

@@ -88,8 +88,7 @@ void Application::showForm() {
     input_.activated();
 }
 
-// A case was read into the record: what shows it beside the form follows.
-void Application::caseShown() {
+void Application::caseOpened() {
     if (lineLoads_) lineLoads_->rules.caseRead();
     if (freeLoads_) freeLoads_->rules.caseRead();
     sketch_.fullRefresh();

@@ -2,6 +2,8 @@
 
 #include "base/run_time_error.h"
 #include "base/text.h"
+#include "model/design_input_file.h"
+#include "model/reference_tables.h"
 #include "results/calculation_run.h"
 
 namespace varno {
@@ -32,31 +34,30 @@ void Document::selectTitle() {
     form_.selectAll({Field::rubrik});
 }
 
-void Document::read(const std::string& path) {
-    const DesignCase oldCase = case_;
-    const DocumentState oldState = state_;
-    const std::string oldTitle = form_.text({Field::rubrik});
-    const bool oldDiagram = window_.diagramEnabled();
+void Document::read(const std::string& path, bool asSaved) {
+    DesignCase presets = case_;
+    presetDesignCase(presets);
+    File file = files_.openFile(path, 2);
+    const CaseFile opened = VARNO1::readDesignCase(file, presets);
+    file.close();
+
+    case_ = opened.designCase;
+    state_.currentFileName = opened.name;
+    state_.caseSaved = asSaved;
+    window_.setCaption(caption());
+    window_.setDiagramEnabled(false);
+    filler_.showCase(opened.title);
+    selectTitle();
+    state_.dataChanged = false;
     try {
-        filler_.fillReferenceTables();
-        File file = files_.openFile(path, 2);
-        VARNO1::readDesignCase(file, case_, state_, filler_);
-        selectTitle();
-        window_.setCaption(caption());
-        file.close();
-    } catch (const RunTimeError&) {
-        case_ = oldCase;
-        filler_.setTitle(oldTitle);
-        // Before the first case there is nothing to go back to.
-        if (oldCase.nfack > 0) filler_.showAll();
-        state_ = oldState;
-        window_.setDiagramEnabled(oldDiagram);
-        throw;
+        view_.caseOpened();
+    } catch (const RunTimeError& error) {
+        view_.report(error);
     }
 }
 
 void Document::readDefaultCase(const std::string& workFolder) {
-    read(workFolder + "\\varno.def");
+    read(workFolder + "\\varno.def", false);
 }
 
 // False when the case was to be saved but was not, because the file-name dialog was cancelled: the command
@@ -72,8 +73,6 @@ void Document::newCase(const std::string& workFolder) {
     if (!settled("Ny")) return;
     const BusyPointer busy(window_);
     readDefaultCase(workFolder);
-    state_.caseSaved = false;
-    state_.dataChanged = false;
 }
 
 void Document::open() {
@@ -85,15 +84,13 @@ void Document::open() {
     if (dialog_.dialogAnswer != 0) return;
 
     const BusyPointer busy(window_);
-    read(dialog_.path(dialog_.typedName));
-    state_.caseSaved = true;
-    state_.dataChanged = false;
+    read(dialog_.path(dialog_.typedName), true);
 }
 
 void Document::write(const std::string& path) {
     const BusyPointer busy(window_);
     File file = files_.openFile(path, 1);
-    VARNO1::writeDesignCase(file, case_, state_, form_.text({Field::rubrik}));
+    VARNO1::writeDesignCase(file, {case_, state_.currentFileName, form_.text({Field::rubrik})});
     file.close();
     state_.dataChanged = false;
     state_.caseSaved = true;

@@ -20,12 +20,17 @@ class DocumentView {
     virtual SaveAnswer askToSave(const std::string& caption, const std::string& text, bool cancelOffered) = 0;
     virtual void showFileDialog(FileDialog& dialog) = 0;
     virtual void endProgram() = 0;
+    /// The record is another case and the form shows it: what shows it beside the form follows, the sketch
+    /// last. \throws RunTimeError for a case that cannot be drawn.
+    virtual void caseOpened() = 0;
+    /// Shows a run-time error that the command goes on after.
+    virtual void report(const RunTimeError& error) = 0;
 };
 
 /// New, Open, Save, Save as and Exit of the one design case.
 ///
-/// A read that fails puts the case that was there back, with its title and its state: what the user had is
-/// never lost to a damaged file.
+/// A file that cannot be read changes nothing. One that can is open before anything of it is drawn, so that a
+/// case whose sketch ends in an error can be put right.
 class Document {
   public:
     Document(DesignCase& designCase, DocumentState& state, CaseFormFiller& filler, FormView& form,
@@ -38,8 +43,7 @@ class Document {
     void saveAs();
     void exit();
 
-    /// The default case of the work folder, as start-up and New read it: lists filled, title selected,
-    /// caption set.
+    /// Opens the default case of the work folder, as start-up and New do.
     void readDefaultCase(const std::string& workFolder);
 
     /// The upper-cased case name and ".IND": the main window's caption, and the name that Save writes to.
@@ -49,7 +53,7 @@ class Document {
 
   private:
     bool settled(const std::string& caption);
-    void read(const std::string& path);
+    void read(const std::string& path, bool asSaved);
     void write(const std::string& path);
     void selectTitle();
 

@@ -89,7 +89,6 @@ void StartUp::run() {
     }
     chooseResultFont();
     view_.showMainWindow();
-    state_.dataChanged = false;
 }
 
 } // namespace varno

@@ -5,7 +5,6 @@
 #include "base/open_file.h"
 #include "base/run_time_error.h"
 #include "controls/main_view.h"
-#include "model/design_case.h"
 #include "shell/document.h"
 
 namespace varno {
@@ -41,10 +40,8 @@ class StartUpView {
 /// installation, and without them the program ends.
 class StartUp {
   public:
-    StartUp(Settings& settings, DocumentState& state, Document& document, FileOpener& files, MainView& window,
-            StartUpView& view)
-        : settings_(settings), state_(state), document_(document), files_(files), window_(window),
-          view_(view) {}
+    StartUp(Settings& settings, Document& document, FileOpener& files, MainView& window, StartUpView& view)
+        : settings_(settings), document_(document), files_(files), window_(window), view_(view) {}
 
     void run();
 
@@ -55,7 +52,6 @@ class StartUp {
     void chooseResultFont();
 
     Settings& settings_;
-    DocumentState& state_;
     Document& document_;
     FileOpener& files_;
     MainView& window_;

@@ -15,8 +15,6 @@ namespace varno {
 
 namespace {
 
-using testing::CaseFile;
-
 using Random = std::mt19937;
 
 std::size_t below(Random& random, std::size_t limit) {
@@ -109,10 +107,11 @@ bool carried(const std::string& utf8) {
 // The values that have a line of their own are not cut and must come back at once.
 void expectSameOwnLines(const DesignCase& a, const DesignCase& b) {
     for (const CaseLine& line : caseLines) {
-        if (const auto* integer = std::get_if<IntegerLine>(&line.content)) {
-            EXPECT_EQ(a.*integer->field, b.*integer->field) << "line " << line.number;
-        } else if (const auto* real = std::get_if<RealLine>(&line.content)) {
-            EXPECT_EQ(a.*real->field, b.*real->field) << "line " << line.number;
+        const auto number = &line - caseLines.data() + 1;
+        if (const auto* integer = std::get_if<IntegerLine>(&line)) {
+            EXPECT_EQ(a.*integer->field, b.*integer->field) << "line " << number;
+        } else if (const auto* real = std::get_if<RealLine>(&line)) {
+            EXPECT_EQ(a.*real->field, b.*real->field) << "line " << number;
         }
     }
     EXPECT_EQ(a.safetyClass, b.safetyClass);
@@ -164,17 +163,6 @@ TEST(FuzzDesignInputFile, NoiseIsReadOrRefused) {
         if (caseFile && carried(caseFile->name) && carried(caseFile->title)) expectStable(*caseFile);
         if (::testing::Test::HasFailure()) FAIL() << "seed " << seed << ":\n" << text;
     }
-}
-
-TEST(FuzzDesignInputFile, AFileThatDidNotOpenIsRefused) {
-    File none;
-    CaseFile caseFile;
-    DocumentState document;
-    struct : CaseDisplay {
-        void setTitle(const std::string&) override {}
-    } display;
-    EXPECT_EQ(testing::errorOf([&] { VARNO1::readDesignCase(none, caseFile.designCase, document, display); }),
-              errBadFileNameOrNumber);
 }
 
 } // namespace

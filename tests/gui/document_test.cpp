@@ -181,6 +181,40 @@ TEST_F(Documents, DamagedFileIsReportedAndTheCaseStays) {
     expectCleanExit();
 }
 
+TEST_F(Documents, CaseThatCannotBeDrawnOpensWithItsMessage) {
+    const std::string divisionByZero = "Run-time error '11': Division by zero";
+    change("Undantag");
+    program.typeInto({Field::spv, 3}, "0,01");
+    program.field(Field::rubrik).clickInto();
+    EXPECT_EQ(program.answer().text, divisionByZero);
+    program.saveAs("und");
+    expectCaption(program, "UND.IND");
+    program.command(idNew);
+    expectCaption(program, "NAMNLÖS.IND");
+    expectSoon(program, std::string("Nytt bjälklag"), [&] { return title(); });
+
+    program.command(idOpen);
+    program.chooseFile("und.ind");
+    EXPECT_EQ(program.answer().text, divisionByZero);
+    expectCaption(program, "UND.IND");
+    EXPECT_EQ(title(), "Undantag");
+    EXPECT_EQ(program.field(Field::spv, 3).text().substr(2), "01");
+    expectSoon(program, program.field(Field::rubrik), [&] { return program.focused(); });
+    EXPECT_EQ(program.field(Field::rubrik).selection(), std::pair(0, 8));
+
+    // A file that is refused on top of it changes nothing.
+    scene.write("SKADAD.IND", damaged);
+    program.command(idOpen);
+    program.chooseFile("skadad.ind");
+    EXPECT_EQ(program.answer().text, "Run-time error '62': Input past end of file");
+    expectCaption(program, "UND.IND");
+    EXPECT_EQ(title(), "Undantag");
+    const Bytes before = scene.read("UND.IND");
+    program.saveAs("und2");
+    EXPECT_EQ(scene.read("UND2.IND"), withLine(before, 1, "UND2"));
+    expectCleanExit();
+}
+
 TEST_F(Documents, FileOutOfTheArraysIsReportedAndTheCaseStays) {
     const Bytes good = scene.read("KONTOR.IND");
     scene.write("REGEL7.IND", withLine(good, 3, "7"));

@@ -10,11 +10,6 @@ namespace varno::gui {
 
 namespace {
 
-class TitleIgnored : public CaseDisplay {
-  public:
-    void setTitle(const std::string&) override {}
-};
-
 class NoBoxes : public MessageBoxes {
   public:
     MessageAnswer show(const std::string& text, int, const std::string&) override { throw GuiError(text); }
@@ -109,11 +104,7 @@ DesignCase Editing::saved() {
     NoBoxes boxes;
     FileOpener opener(systemFileCalls(), boxes);
     File file = opener.openFile(scene().path(name + ".IND"), static_cast<std::int16_t>(FileMode::input));
-    DesignCase designCase;
-    DocumentState document;
-    TitleIgnored display;
-    VARNO1::readDesignCase(file, designCase, document, display);
-    return designCase;
+    return VARNO1::readDesignCase(file, {}).designCase;
 }
 
 bool Editing::changed() {

@@ -126,6 +126,19 @@ TEST(StartUp, ShowsTheDefaultCaseWithItsTitleSelected) {
     EXPECT_EQ(program.exitCode(), 0u);
 }
 
+TEST(StartUp, DefaultCaseThatCannotBeDrawnIsToldOfAndOpen) {
+    Scene scene;
+    scene.write("varno.def", withLine(scene.read("varno.def"), 6, "5.500  5.500  0.010  "));
+    Program program(scene);
+    program.window(disclaimerClass).item(idOkButton).click();
+    EXPECT_EQ(program.answer(), (Message{"Varno", "Run-time error '11': Division by zero"}));
+    expectCaption(program, "NAMNLÖS.IND");
+    EXPECT_EQ(program.field(Field::rubrik).text(), "Nytt bjälklag");
+    EXPECT_TRUE(program.form().visible());
+    program.command(idExit);
+    EXPECT_EQ(program.exitCode(), 0u);
+}
+
 // Starts in `scene` with the work folder that varno.ini names, and gives the case's caption.
 std::string captionWithIni(const Scene& scene) {
     Program program(scene);

@@ -11,7 +11,6 @@ namespace varno {
 
 namespace {
 
-using testing::CaseFile;
 using testing::FakeForm;
 using testing::FakeMainWindow;
 using testing::sampleCase;
@@ -22,11 +21,9 @@ class FormFilling : public ::testing::Test {
   protected:
     // As New and Open do.
     void read(const Bytes& text) {
-        filler.fillReferenceTables();
-        testing::MemoryFiles files;
-        files.content["A.IND"] = text;
-        File file(files, "A.IND", FileMode::input, 0, 1);
-        VARNO1::readDesignCase(file, designCase, document, filler);
+        const CaseFile caseFile = testing::readCase(text);
+        designCase = caseFile.designCase;
+        filler.showCase(caseFile.title);
     }
     void readWith(const std::function<void(DesignCase&)>& change) {
         CaseFile caseFile = sampleCase();
@@ -47,11 +44,9 @@ class FormFilling : public ::testing::Test {
     }
 
     DesignCase designCase;
-    DocumentState document;
     FakeForm form;
     FakeMainWindow window;
-    int refreshes = 0;
-    CaseFormFiller filler{designCase, form, window, {}, [this] { ++refreshes; }};
+    CaseFormFiller filler{designCase, form, window, {}};
 };
 
 using Texts = std::vector<std::string>;
@@ -59,15 +54,12 @@ using Texts = std::vector<std::string>;
 const Texts barRows{"ø 6 ", "ø 8 ", "ø 10", "ø 12", "ø 16"};
 const Texts steelRows{"400 ", "500 ", "600 "};
 
-TEST_F(FormFilling, FillsTheFixedListsAndPresetsTheRecord) {
+TEST_F(FormFilling, FillsTheFixedLists) {
     form.addRow(Field::duk, "left from before");
-    filler.fillReferenceTables();
+    read(sampleFile());
     EXPECT_EQ(form.rows(Field::brandk), Texts{"Brandteknisk klass"});
     EXPECT_EQ(form.rows(Field::duk), barRows);
     EXPECT_EQ(form.rows(Field::dok), barRows);
-    EXPECT_FALSE(window.diagram);
-    EXPECT_EQ(designCase.spv(10), 5.5f);
-    EXPECT_EQ(designCase.ksi(5), 1.0);
 }
 
 TEST_F(FormFilling, FillsTheListsOfACaseWithTheirTrailingBlanks) {
@@ -82,15 +74,6 @@ TEST_F(FormFilling, FillsTheListsOfACaseWithTheirTrailingBlanks) {
     read(sampleFile());
     EXPECT_EQ(form.rows(Field::btg).size(), 9u) << "the rows of the case before are still there";
     EXPECT_EQ(form.rows(Field::lokt).size(), 10u);
-}
-
-TEST_F(FormFilling, EmptiesTheListsOfTheCaseBefore) {
-    read(sampleFile());
-    filler.readingStarts();
-    for (const Field list : {Field::lokt, Field::btg, Field::aok, Field::auk})
-        EXPECT_TRUE(form.rows(list).empty());
-    EXPECT_EQ(form.rows(Field::dok), barRows);
-    EXPECT_EQ(form.rows(Field::duk), barRows);
 }
 
 TEST_F(FormFilling, ShowsEveryNumberInItsPattern) {
@@ -296,42 +279,26 @@ TEST_F(FormFilling, CaptionsTheFireOptionsByTheFireClass) {
     }
 }
 
-TEST_F(FormFilling, RunsTheRefreshOnceWhenEverythingIsShown) {
-    std::string lastShown;
-    CaseFormFiller last(designCase, form, window, {}, [&] { lastShown = text(Field::upl, 3); });
-    read(sampleFile());
-    EXPECT_EQ(refreshes, 1);
-    last.showAll();
-    EXPECT_EQ(lastShown, "0.000");
-}
-
-TEST_F(FormFilling, ReadsTheRecordAsItWouldWithoutAForm) {
-    // Controls that run change rules must not come back at the record.
-    read(sampleFile());
-    EXPECT_EQ(designCase, sampleCase().designCase);
-    EXPECT_EQ(document.currentFileName, "NAMNLÖS");
-}
-
 TEST_F(FormFilling, ShowsTheRecordAgain) {
     read(sampleFile());
     designCase.nfack = 2;
     designCase.loadCode = 1;
     designCase.konsh = 0.5f;
     designCase.btg = 4;
-    filler.showAll();
+    filler.showCase("Ny rubrik");
     EXPECT_EQ(text(Field::nfack), "2");
     EXPECT_FALSE(form.state({Field::spv, 3}).visible);
     EXPECT_EQ(text(Field::konsh), "0.50");
     EXPECT_EQ(selected(Field::btg), "C35/45");
     EXPECT_EQ(form.state({Field::loadFrame}).caption, "Laster enl. BKR");
-    EXPECT_EQ(text(Field::rubrik), "Bärlägg för Ångström");
+    EXPECT_EQ(text(Field::rubrik), "Ny rubrik");
     EXPECT_EQ(form.rows(Field::lokt).size(), 10u);
 }
 
 TEST_F(FormFilling, ShowsTheDecimalSignOfTheUser) {
-    CaseFormFiller swedish(designCase, form, window, {.decimal = ",", .thousands = "\u00A0"}, [] {});
+    CaseFormFiller swedish(designCase, form, window, {.decimal = ",", .thousands = "\u00A0"});
     read(sampleFile());
-    swedish.showAll();
+    swedish.showCase("");
     EXPECT_EQ(text(Field::spv, 2), "12,50");
     EXPECT_EQ(text(Field::lambdaG), "1,35");
     EXPECT_EQ(text(Field::initiell), "400");

@@ -7,6 +7,7 @@
 #include "input/input_form.h"
 #include "input/sketch.h"
 #include "input/sketch_picture.h"
+#include "model/reference_tables.h"
 #include "support/fake_form.h"
 #include "support/memory_files.h"
 
@@ -50,11 +51,11 @@ class WatchedSketch : public SketchRefresh {
 class InputRig {
   public:
     explicit InputRig(int spans = 3, const NumberLocale& locale = {})
-        : filler(designCase, form, window, locale, [this] { sketch.fullRefresh(); }),
+        : filler(designCase, form, window, locale),
           input({designCase, document, form, window, filler, sketch, locale}) {
         form.onChange = [this](Control control) { input.changed(control); };
         form.onLeave = [this](Control control) { input.lostFocus(control); };
-        filler.fillReferenceTables();
+        presetDesignCase(designCase);
         designCase.nfack = static_cast<std::int16_t>(spans);
         for (int i = 1; i <= spans; ++i) {
             designCase.spv(i) = 5;
@@ -74,9 +75,10 @@ class InputRig {
         show();
     }
 
-    /// Shows the record as reading a case does, and forgets what that marked.
+    /// Shows the record as opening a case does, and forgets what that marked.
     void show() {
-        filler.showAll();
+        filler.showCase(text({Field::rubrik}));
+        sketch.fullRefresh();
         form.focus({Field::rubrik});
         calm();
     }

@@ -10,7 +10,6 @@ namespace varno {
 
 namespace {
 
-using testing::CaseFile;
 using testing::errorOf;
 using testing::linesOf;
 using testing::readCase;
@@ -43,15 +42,8 @@ TEST(DamagedInputFile, TooFewLinesRaiseError62) {
 
 TEST(DamagedInputFile, AFileThatIsNotThereRaisesError52) {
     File none;
-    DesignCase designCase;
-    DocumentState document;
-    struct : CaseDisplay {
-        void setTitle(const std::string&) override {}
-    } display;
-    EXPECT_EQ(errorOf([&] { VARNO1::readDesignCase(none, designCase, document, display); }),
-              errBadFileNameOrNumber);
-    EXPECT_EQ(errorOf([&] { VARNO1::writeDesignCase(none, designCase, document, ""); }),
-              errBadFileNameOrNumber);
+    EXPECT_EQ(errorOf([&] { VARNO1::readDesignCase(none, {}); }), errBadFileNameOrNumber);
+    EXPECT_EQ(errorOf([&] { VARNO1::writeDesignCase(none, {}); }), errBadFileNameOrNumber);
 }
 
 TEST(DamagedInputFile, IndexesOutsideTheArraysRaiseError9) {

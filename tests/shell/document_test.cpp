@@ -7,6 +7,8 @@
 namespace varno::testing {
 namespace {
 
+using Texts = std::vector<std::string>;
+
 class DocumentTest : public ::testing::Test, public ShellFixture {
   protected:
     DocumentTest() {
@@ -136,6 +138,7 @@ TEST_F(DocumentTest, OpeningAFileThatIsNotThereFailsAtTheFirstReadAndKeepsTheCas
 TEST_F(DocumentTest, ADamagedFileNeverCostsTheCase) {
     saveAsName("hus1");
     edit(9);
+    form.setText({Field::spv, 1}, "9.00");
     const DesignCase before = designCase;
     Bytes damaged = caseFile("trasig", "Trasig", 3);
     damaged.resize(damaged.size() - 60);
@@ -151,6 +154,49 @@ TEST_F(DocumentTest, ADamagedFileNeverCostsTheCase) {
     EXPECT_TRUE(state.caseSaved);
     document.save();
     EXPECT_EQ(onDisk("HUS1.IND"), caseFile("HUS1", "Nytt", 9));
+}
+
+TEST_F(DocumentTest, ACaseThatCannotBeDrawnIsOpenAllTheSame) {
+    files.content["C:\\arbete\\und.ind"] = caseFile("und", "Undantag", 7);
+    typed = "und.ind";
+    drawingError = errDivisionByZero;
+    edit(9);
+    refreshes = 0;
+    document.open();
+    EXPECT_EQ(reported, std::vector<int>{errDivisionByZero});
+    EXPECT_EQ(refreshes, 1);
+    EXPECT_EQ(opened, "UND.IND|Undantag|7.00") << "drawn last, when everything else is the new case's";
+    EXPECT_EQ(window.caption, "UND.IND");
+    EXPECT_EQ(state.currentFileName, "UND");
+    EXPECT_EQ(designCase.spv(1), 7);
+    EXPECT_TRUE(state.caseSaved);
+    EXPECT_FALSE(state.dataChanged);
+    EXPECT_FALSE(window.busy);
+    EXPECT_EQ(form.allSelected(), Control{Field::rubrik});
+    document.save();
+    EXPECT_EQ(onDisk("UND.IND"), caseFile("UND", "Undantag", 7));
+}
+
+TEST_F(DocumentTest, ADamagedFileChangesNothingWhereTheCaseCannotBeDrawnEither) {
+    drawingError = errDivisionByZero;
+    files.content["C:\\arbete\\und.ind"] = caseFile("und", "Undantag", 7);
+    typed = "und.ind";
+    document.open();
+    const DesignCase before = designCase;
+    const Texts rows = form.rows(Field::lokt);
+    window.diagram = true;
+    reported.clear();
+    files.content["C:\\arbete\\TRASIG.IND"] = "TRASIG\r\nTrasig\r\n3\r\n";
+    typed = "TRASIG.IND";
+    EXPECT_EQ(errorOf([&] { document.open(); }), errInputPastEnd);
+    EXPECT_TRUE(reported.empty());
+    EXPECT_EQ(designCase, before);
+    EXPECT_EQ(title(), "Undantag");
+    EXPECT_EQ(state.currentFileName, "UND");
+    EXPECT_EQ(window.caption, "UND.IND");
+    EXPECT_TRUE(state.caseSaved);
+    EXPECT_TRUE(window.diagram);
+    EXPECT_EQ(form.rows(Field::lokt), rows);
 }
 
 TEST_F(DocumentTest, SaveAsTrimsAndUpperCasesTheTypedName) {

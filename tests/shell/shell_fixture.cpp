@@ -1,6 +1,7 @@
 #include "shell/shell_fixture.h"
 
 #include "model/reference_tables.h"
+#include "support/case_files.h"
 
 namespace varno::testing {
 
@@ -11,19 +12,14 @@ ShellFixture::ShellFixture() {
 }
 
 Bytes ShellFixture::caseFile(const std::string& name, const std::string& title, float spanLength) {
-    MemoryFiles disk;
-    DesignCase written;
-    presetDesignCase(written);
-    written.nfack = 2;
-    written.loadCode = 3;
-    written.upl(2) = 0;
-    written.spv(1) = spanLength;
-    DocumentState state;
-    state.currentFileName = decodeWindows1252(name);
-    File file(disk, "x", FileMode::output, 0, 1);
-    VARNO1::writeDesignCase(file, written, state, title);
-    file.close();
-    return disk.content["x"];
+    CaseFile written{{}, decodeWindows1252(name), title};
+    DesignCase& record = written.designCase;
+    presetDesignCase(record);
+    record.nfack = 2;
+    record.loadCode = 3;
+    record.upl(2) = 0;
+    record.spv(1) = spanLength;
+    return writtenCase(written);
 }
 
 } // namespace varno::testing

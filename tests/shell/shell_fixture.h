@@ -27,6 +27,12 @@ struct ShellFixture : DocumentView {
         if (!typed.empty()) shown.typedName = typed;
     }
     void endProgram() override { ended = true; }
+    void caseOpened() override {
+        ++refreshes;
+        opened = window.caption + "|" + title() + "|" + form.text({Field::spv, 1});
+        if (drawingError != 0) throw RunTimeError(drawingError);
+    }
+    void report(const RunTimeError& error) override { reported.push_back(error.number()); }
 
     /// An edit by the user: of the record, and marked as every edit is.
     void edit(float spanLength) {
@@ -47,7 +53,7 @@ struct ShellFixture : DocumentView {
     int refreshes = 0;
     FileOpener opener{files, boxes};
     FileDialog dialog{folders, boxes};
-    CaseFormFiller filler{designCase, form, window, NumberLocale{}, [this] { ++refreshes; }};
+    CaseFormFiller filler{designCase, form, window, NumberLocale{}};
     Document document{designCase, state, filler, form, window, opener, dialog, boxes, *this};
 
     SaveAnswer saveAnswer = SaveAnswer::no;
@@ -55,6 +61,9 @@ struct ShellFixture : DocumentView {
     std::vector<std::string> prompts;
     std::vector<std::string> dialogs;
     bool ended = false;
+    int drawingError = 0; ///< what drawing a case ends in
+    std::string opened;   ///< what is shown when a case is drawn: caption, title, first span
+    std::vector<int> reported;
 };
 
 inline constexpr const char* workFolder = "C:\\varnow\\run";

@@ -11,7 +11,7 @@ class StartUpTest : public ::testing::Test, public ShellFixture, public StartUpV
   protected:
     StartUpTest() { files.content["varno.ini"] = "C:\\varnow\\run\r\n"; }
 
-    void start() { StartUp(settings, state, document, opener, window, *this).run(); }
+    void start() { StartUp(settings, document, opener, window, *this).run(); }
 
     void showMainWindow() override { steps.push_back("main"); }
     bool showVersionNotice() override {
@@ -22,11 +22,10 @@ class StartUpTest : public ::testing::Test, public ShellFixture, public StartUpV
     void showInputForm() override { steps.push_back("form " + window.caption); }
     std::string printerFontName() override { return "Skrivarfont"; }
     void setResultFont(const std::string& face) override { font = face; }
-    void report(const RunTimeError& error) override { reported.push_back(error.number()); }
+    void report(const RunTimeError& error) override { ShellFixture::report(error); }
 
     Settings settings;
     std::vector<std::string> steps;
-    std::vector<int> reported;
     std::string font;
     bool tick = false;
 };
@@ -121,6 +120,16 @@ TEST_F(StartUpTest, AMissingInstallationFileEndsItWithError52) {
 
     files.content["varno.ini"] = "";
     EXPECT_EQ(errorOf([&] { start(); }), errInputPastEnd);
+}
+
+TEST_F(StartUpTest, ADefaultCaseThatCannotBeDrawnIsToldAndStartUpGoesOn) {
+    drawingError = errDivisionByZero;
+    start();
+    EXPECT_EQ(reported, std::vector<int>{errDivisionByZero});
+    EXPECT_EQ(steps.back(), "main");
+    EXPECT_EQ(window.caption, "NAMNLÖS.IND");
+    EXPECT_EQ(font, "Skrivarfont");
+    EXPECT_FALSE(state.dataChanged);
 }
 
 TEST_F(StartUpTest, TheResultFontIsThePrintersUntilOneIsStored) {

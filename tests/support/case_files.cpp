@@ -9,15 +9,6 @@ namespace varno::testing {
 
 namespace {
 
-class TitleOnly : public CaseDisplay {
-  public:
-    explicit TitleOnly(std::string& title) : title_(title) {}
-    void setTitle(const std::string& title) override { title_ = title; }
-
-  private:
-    std::string& title_;
-};
-
 void fillSpan(DesignCase& designCase, int span, float length, float thickness, float permanent,
               float variable) {
     designCase.spv(span) = length;
@@ -37,9 +28,7 @@ void fillLineLoad(DesignCase& designCase, int index, std::int16_t span, float di
 Bytes writtenCase(const CaseFile& caseFile) {
     MemoryFiles files;
     File file(files, "CASE.IND", FileMode::output, 0, 1);
-    DocumentState document;
-    document.currentFileName = caseFile.name;
-    VARNO1::writeDesignCase(file, caseFile.designCase, document, caseFile.title);
+    VARNO1::writeDesignCase(file, caseFile);
     file.close();
     return files.content.at("CASE.IND");
 }
@@ -48,13 +37,9 @@ CaseFile readCase(const Bytes& bytes) {
     MemoryFiles files;
     files.content["CASE.IND"] = bytes;
     File file(files, "CASE.IND", FileMode::input, 0, 1);
-    CaseFile result;
-    presetDesignCase(result.designCase);
-    DocumentState document;
-    TitleOnly display(result.title);
-    VARNO1::readDesignCase(file, result.designCase, document, display);
-    result.name = document.currentFileName;
-    return result;
+    DesignCase presets;
+    presetDesignCase(presets);
+    return VARNO1::readDesignCase(file, presets);
 }
 
 CaseFile sampleCase() {

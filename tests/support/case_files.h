@@ -3,18 +3,9 @@
 #include <string>
 #include <vector>
 
-#include "model/design_case.h"
 #include "model/design_input_file.h"
 
 namespace varno::testing {
-
-/// A design case with what stands beside it in its file.
-struct CaseFile {
-    DesignCase designCase;
-    std::string name;  ///< UTF-8
-    std::string title; ///< UTF-8
-    bool operator==(const CaseFile&) const = default;
-};
 
 /// What the program's writer makes of a case.
 Bytes writtenCase(const CaseFile& caseFile);

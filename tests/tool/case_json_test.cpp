@@ -14,19 +14,12 @@ namespace {
 
 using nlohmann::ordered_json;
 
-tool::LoadedCase sample() {
-    const testing::CaseFile caseFile = testing::sampleCase();
-    tool::LoadedCase loaded{caseFile.designCase, {}, caseFile.title};
-    loaded.document.currentFileName = caseFile.name;
-    return loaded;
-}
-
-ordered_json jsonOf(const tool::LoadedCase& loaded) {
+ordered_json jsonOf(const CaseFile& loaded) {
     return ordered_json::parse(tool::caseJson(loaded));
 }
 
 TEST(CaseJson, HasTheFieldsInTheirOrder) {
-    const ordered_json json = jsonOf(sample());
+    const ordered_json json = jsonOf(testing::sampleCase());
     std::vector<std::string> keys;
     for (const auto& item : json.items())
         keys.push_back(item.key());
@@ -73,7 +66,7 @@ TEST(CaseJson, HasTheFieldsInTheirOrder) {
 }
 
 TEST(CaseJson, HasTheValuesOfTheRecord) {
-    const ordered_json json = jsonOf(sample());
+    const ordered_json json = jsonOf(testing::sampleCase());
     EXPECT_EQ(json["currentFileName"], "NAMNLÖS");
     EXPECT_EQ(json["rubrik"], "Bärlägg för Ångström");
     const std::map<std::string, int> integers{
@@ -101,7 +94,7 @@ TEST(CaseJson, HasTheValuesOfTheRecord) {
 }
 
 TEST(CaseJson, HasArraysInTheirFullIndexRange) {
-    const ordered_json json = jsonOf(sample());
+    const ordered_json json = jsonOf(testing::sampleCase());
     for (const char* key : {"spv", "ptjl", "upl", "plast", "flast"})
         EXPECT_EQ(json[key].size(), 16u) << key;
     for (const char* key : {"safetyClass", "lambdaG", "ksi", "lambdaQ"})
@@ -116,7 +109,7 @@ TEST(CaseJson, HasArraysInTheirFullIndexRange) {
 }
 
 TEST(CaseJson, ShowsEmptyFactorsAsNull) {
-    const ordered_json json = jsonOf(sample());
+    const ordered_json json = jsonOf(testing::sampleCase());
     EXPECT_EQ(json["lambdaG"], ordered_json::parse("[null, 1.35, 1.35, 1.35, 1.35, 1.2, 1.35]"));
     for (const auto& cell : json["psi0"][0])
         EXPECT_TRUE(cell.is_null());
@@ -124,7 +117,7 @@ TEST(CaseJson, ShowsEmptyFactorsAsNull) {
 }
 
 TEST(CaseJson, WritesTheShortestNumberThatReadsBack) {
-    tool::LoadedCase loaded = sample();
+    CaseFile loaded = testing::sampleCase();
     loaded.designCase.konsv = 5.3f;
     loaded.designCase.spv(1) = 0.1f;
     loaded.designCase.spv(2) = 16777216.0f;
@@ -140,13 +133,13 @@ TEST(CaseJson, WritesTheShortestNumberThatReadsBack) {
 }
 
 TEST(CaseJson, KeepsTheSignOfZero) {
-    tool::LoadedCase loaded = sample();
+    CaseFile loaded = testing::sampleCase();
     loaded.designCase.konsh = -0.0f;
     EXPECT_NE(tool::caseJson(loaded).find("\"konsh\": -0.0,"), std::string::npos);
 }
 
 TEST(CaseJson, EscapesWhatJsonReserves) {
-    tool::LoadedCase loaded = sample();
+    CaseFile loaded = testing::sampleCase();
     loaded.title = std::string("a\"b\\c/\t\0", 8) + "\x1F\x7F €\u0081";
     const std::string text = tool::caseJson(loaded);
     EXPECT_NE(text.find("a\\\"b\\\\c/\\u0009\\u0000\\u001f\\u007f €\u0081"), std::string::npos) << text;

@@ -12,14 +12,8 @@ namespace varno {
 
 namespace {
 
-tool::LoadedCase loadedOf(const testing::CaseFile& caseFile) {
-    tool::LoadedCase loaded{caseFile.designCase, {}, caseFile.title};
-    loaded.document.currentFileName = caseFile.name;
-    return loaded;
-}
-
 std::string reportWith(const std::function<void(DesignCase&)>& change) {
-    tool::LoadedCase loaded = loadedOf(testing::sampleCase());
+    CaseFile loaded = testing::sampleCase();
     change(loaded.designCase);
     return tool::caseReport(loaded);
 }
@@ -89,7 +83,7 @@ Deformation
 )";
 
 TEST(CaseReport, ShowsACaseAsAPersonWouldReadIt) {
-    EXPECT_EQ(tool::caseReport(loadedOf(testing::sampleCase())), sampleReport);
+    EXPECT_EQ(tool::caseReport(testing::sampleCase()), sampleReport);
 }
 
 TEST(CaseReport, ShowsNumbersOutsideTheListsAsNumbers) {

@@ -26,15 +26,15 @@ class Commands : public ::testing::Test {
 
 TEST_F(Commands, LoadACaseOverThePresets) {
     files.content["A.IND"] = testing::sampleFile();
-    const tool::LoadedCase loaded = tool::loadCase(opener, "A.IND");
+    const CaseFile loaded = tool::loadCase(opener, "A.IND");
     EXPECT_EQ(loaded.designCase, testing::sampleCase().designCase);
-    EXPECT_EQ(loaded.document.currentFileName, "NAMNLÖS");
+    EXPECT_EQ(loaded.name, "NAMNLÖS");
     EXPECT_EQ(loaded.title, "Bärlägg för Ångström");
 }
 
 TEST_F(Commands, PrintACase) {
     files.content["A.IND"] = testing::sampleFile();
-    const tool::LoadedCase loaded = tool::loadCase(opener, "A.IND");
+    const CaseFile loaded = tool::loadCase(opener, "A.IND");
     tool::printJson(opener, "A.IND", out);
     EXPECT_EQ(out.str(), tool::caseJson(loaded));
     out.str("");

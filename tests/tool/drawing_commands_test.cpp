@@ -25,7 +25,7 @@ class DrawingCommands : public ::testing::Test {
   protected:
     // Two spans of 6 m between cantilevers of 1 m: 600 twips per metre.
     void SetUp() override {
-        testing::CaseFile sample = testing::sampleCase();
+        CaseFile sample = testing::sampleCase();
         DesignCase& c = sample.designCase;
         c.nfack = 2;
         c.spv(1) = c.spv(2) = 6;
@@ -151,7 +151,7 @@ TEST_F(DrawingCommands, AFileThatCannotBeDrawnIsARunTimeErrorAndNoPicture) {
 }
 
 TEST_F(DrawingCommands, ASketchThatFailsIsListedAsFarAsItCame) {
-    testing::CaseFile sample = testing::sampleCase();
+    CaseFile sample = testing::sampleCase();
     sample.designCase.llfnr(1) = 16;
     files.content["B.IND"] = testing::writtenCase(sample);
     EXPECT_EQ(run({"sketch", "B.IND", "--list"}), 1);

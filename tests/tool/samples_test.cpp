@@ -52,7 +52,7 @@ TEST(Samples, AreCasesThatTheFormCanShow) {
 
 TEST(Samples, CarryTheNameOfTheirFile) {
     for (const auto& path : samples()) {
-        const testing::CaseFile caseFile = testing::readCase(testing::contentOf(path));
+        const CaseFile caseFile = testing::readCase(testing::contentOf(path));
         if (path.extension() == ".def") {
             EXPECT_EQ(caseFile.name, "NAMNLÖS");
             continue;
