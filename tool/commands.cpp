@@ -9,13 +9,6 @@
 
 namespace varno::tool {
 
-namespace {
-
-constexpr std::int16_t forOutput = 1;
-constexpr std::int16_t forInput = 2;
-
-} // namespace
-
 MessageAnswer ConsoleBoxes::show(const std::string& text, int style, const std::string& title) {
     err_ << title << (title.empty() ? "" : ": ") << text << '\n';
     return style == msgYesNo ? MessageAnswer::no : MessageAnswer::cancel;
@@ -24,7 +17,7 @@ MessageAnswer ConsoleBoxes::show(const std::string& text, int style, const std::
 CaseFile loadCase(FileOpener& opener, const std::string& path) {
     DesignCase presets;
     presetDesignCase(presets);
-    File file = opener.openFile(path, forInput);
+    File file = opener.openFile(path, FileMode::input);
     return VARNO1::readDesignCase(file, presets);
 }
 
@@ -34,13 +27,13 @@ void printJson(FileOpener& opener, const std::string& path, std::ostream& out) {
 
 void rewriteCase(FileOpener& opener, const std::string& from, const std::string& to) {
     const CaseFile loaded = loadCase(opener, from);
-    File file = opener.openFile(to, forOutput);
+    File file = opener.openFile(to, FileMode::output);
     VARNO1::writeDesignCase(file, loaded);
     file.close();
 }
 
 void printResult(FileOpener& opener, const std::string& path, std::ostream& out) {
-    File file = opener.openFile(path, forInput);
+    File file = opener.openFile(path, FileMode::input);
     out << decodeWindows1252(VARNO1::readResultText(file));
 }
 

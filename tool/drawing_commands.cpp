@@ -15,11 +15,8 @@ namespace varno::tool {
 
 namespace {
 
-constexpr std::int16_t forOutput = 1;
-constexpr std::int16_t forInput = 2;
-
 void writeLines(FileOpener& opener, const std::string& path, const std::string& text) {
-    File file = opener.openFile(path, forOutput);
+    File file = opener.openFile(path, FileMode::output);
     for (std::size_t from = 0; from < text.size();) {
         const std::size_t end = std::min(text.find('\n', from), text.size());
         file.printLine(text.substr(from, end - from));
@@ -35,10 +32,10 @@ void drawDiagramOn(Canvas& canvas, FileOpener& opener, const std::string& path,
     SlabSketch sketch(loaded.designCase, unseen.loadPicture, unseen.slabStrip, unseen);
     sketch.computeGeometry();
     MomentDiagram diagram(loaded.designCase, sketch);
-    File measured = opener.openFile(momentPath, forInput);
+    File measured = opener.openFile(momentPath, FileMode::input);
     diagram.measure(measured);
     measured.close();
-    File drawn = opener.openFile(momentPath, forInput);
+    File drawn = opener.openFile(momentPath, FileMode::input);
     diagram.draw(drawn, canvas);
     drawn.close();
 }
@@ -74,7 +71,7 @@ void drawDiagram(FileOpener& opener, const std::string& path, const std::string&
 }
 
 void printPages(FileOpener& opener, const std::string& path, std::ostream& out) {
-    File file = opener.openFile(path, forInput);
+    File file = opener.openFile(path, FileMode::input);
     std::string json;
     for (const Bytes& page : VARNO1::readResultPages(file))
         json += (json.empty() ? "\n  " : ",\n  ") + jsonText(decodeWindows1252(page));

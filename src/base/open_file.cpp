@@ -52,12 +52,12 @@ std::int16_t FileOpener::reportFileError(int error) {
     return giveUp;
 }
 
-File FileOpener::openFile(const std::string& path, std::int16_t mode, int recordLength) {
+File FileOpener::openFile(const std::string& path, FileMode mode, int recordLength) {
     while (true) {
         try {
             const std::int16_t number =
                 lastNumber_ < 255 ? static_cast<std::int16_t>(lastNumber_ + 1) : std::int16_t{1};
-            File file(calls_, path, static_cast<FileMode>(mode), recordLength, number);
+            File file(calls_, path, mode, recordLength, number);
             lastNumber_ = number;
             return file;
         } catch (const RunTimeError& error) {

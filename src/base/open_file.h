@@ -14,12 +14,11 @@ class FileOpener {
   public:
     FileOpener(FileCalls& calls, MessageBoxes& boxes) : calls_(calls), boxes_(boxes) {}
 
-    /// Opens `path` (UTF-8) in `mode` (1 sequential output, 2 sequential input, 3 append, 4 random access
-    /// with the given record length, 5 binary). Errors go to reportFileError; while that answers 0 the same
-    /// open is tried again, so an error that persists brings its message back after every "OK". That is
-    /// meant: the user puts the disk in, or makes the folder, and goes on. Any other answer gives a File with
-    /// number 0.
-    File openFile(const std::string& path, std::int16_t mode, int recordLength = 0);
+    /// Opens `path` (UTF-8), in mode `random` with the given record length. Errors go to reportFileError; while
+    /// that answers 0 the same open is tried again, so an error that persists brings its message back after
+    /// every "OK". That is meant: the user puts the disk in, or makes the folder, and goes on. Any other answer
+    /// gives a File with number 0.
+    File openFile(const std::string& path, FileMode mode, int recordLength = 0);
 
     /// Shows the message of a file error under the title "Disk Error" and says what to do: 0 try again, 1
     /// ignore, 2 cancel, 3 give up. An error without a message gives 3 at once; a missing file (53) is one of

@@ -6,8 +6,6 @@ namespace varno {
 
 namespace {
 
-constexpr std::int16_t forInput = 2;
-
 // The picture area is painted however its drawing ended.
 class Painted {
   public:
@@ -24,11 +22,11 @@ class Painted {
 
 void DiagramCommands::moment() {
     const BusyPointer busy(window_);
-    File measured = files_.openFile(momentFileName, forInput);
+    File measured = files_.openFile(momentFileName, FileMode::input);
     diagram_.measure(measured);
     measured.close();
 
-    File drawn = files_.openFile(momentFileName, forInput);
+    File drawn = files_.openFile(momentFileName, FileMode::input);
     {
         const Painted painted(view_);
         diagram_.draw(drawn, view_.picture());
@@ -39,7 +37,7 @@ void DiagramCommands::moment() {
 
 void DiagramCommands::plot() {
     const BusyPointer busy(window_);
-    File file = files_.openFile(momentFileName, forInput);
+    File file = files_.openFile(momentFileName, FileMode::input);
     {
         const Painted painted(view_);
         diagram_.plot(

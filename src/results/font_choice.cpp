@@ -15,7 +15,7 @@ void FontChoice::clicked(const std::string& face) {
 }
 
 void FontChoice::accepted(const std::string& directory) {
-    File file = files_.openFile(directory + "\\" + fontFileName, 1);
+    File file = files_.openFile(directory + "\\" + fontFileName, FileMode::output);
     file.printLine(encodeWindows1252(resultFontName_));
     file.close();
     view_.close();

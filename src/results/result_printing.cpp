@@ -9,13 +9,12 @@ namespace varno {
 
 namespace {
 
-constexpr std::int16_t forInput = 2;
 constexpr std::size_t pageNumberColumn = 68; // blanks before it
 
 } // namespace
 
 void ResultPrinting::print(const std::string& path, const std::string* fontName) {
-    File file = files_.openFile(path, forInput);
+    File file = files_.openFile(path, FileMode::input);
     const BusyPointer busy(window_);
     const std::vector<Bytes> pages = VARNO1::readResultPages(file);
     file.close();

@@ -7,7 +7,7 @@ namespace varno {
 
 void showResultFile(FileOpener& files, ResultViewer& viewer, const std::string& caseName,
                     const std::string& fontName) {
-    File file = files.openFile(caseName + ".res", 2);
+    File file = files.openFile(caseName + ".res", FileMode::input);
     viewer.setText(decodeWindows1252(VARNO1::readResultText(file)));
     file.close();
     viewer.setFont(fontName);

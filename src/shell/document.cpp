@@ -37,7 +37,7 @@ void Document::selectTitle() {
 void Document::read(const std::string& path, bool asSaved) {
     DesignCase presets = case_;
     presetDesignCase(presets);
-    File file = files_.openFile(path, 2);
+    File file = files_.openFile(path, FileMode::input);
     const CaseFile opened = VARNO1::readDesignCase(file, presets);
     file.close();
 
@@ -89,7 +89,7 @@ void Document::open() {
 
 void Document::write(const std::string& path) {
     const BusyPointer busy(window_);
-    File file = files_.openFile(path, 1);
+    File file = files_.openFile(path, FileMode::output);
     VARNO1::writeDesignCase(file, {case_, state_.currentFileName, form_.text({Field::rubrik})});
     file.close();
     state_.dataChanged = false;

@@ -33,13 +33,13 @@ Bytes bytesOf(float value) {
 } // namespace
 
 void StartUp::readWorkFolder() {
-    File file = files_.openFile("varno.ini", 2);
+    File file = files_.openFile("varno.ini", FileMode::input);
     settings_.workFolder = decodeWindows1252(VARNO1::fromOemLetters(file.readField()));
     file.close();
 }
 
 void StartUp::readNoticeVersion() {
-    File file = files_.openFile(noticeFile, 5);
+    File file = files_.openFile(noticeFile, FileMode::binary);
     settings_.noticeVersion = singleOf(file.get(1, sizeof(float)));
     file.close();
 }
@@ -48,7 +48,7 @@ void StartUp::storeNoticeVersion() {
     // In a folder that cannot be written the notice comes again at the next start; that is no reason not to
     // start.
     try {
-        File file = files_.openFile(noticeFile, 5);
+        File file = files_.openFile(noticeFile, FileMode::binary);
         file.put(1, bytesOf(settings_.noticeVersion));
         file.close();
     } catch (const RunTimeError& error) {
@@ -59,7 +59,7 @@ void StartUp::storeNoticeVersion() {
 void StartUp::chooseResultFont() {
     settings_.resultFontName = view_.printerFontName();
     try {
-        File file = files_.openFile(fontFileName, 2);
+        File file = files_.openFile(fontFileName, FileMode::input);
         settings_.resultFontName = decodeWindows1252(file.readField());
         file.close();
     } catch (const RunTimeError&) {

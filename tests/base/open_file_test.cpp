@@ -86,7 +86,7 @@ TEST_F(OpenFile, MapsTheAnswerOfTheMessage) {
 TEST_F(OpenFile, TriesAgainAfterEveryOk) {
     files.content["A.IND"] = "a\r\n";
     failNext(3, errDiskNotReady);
-    File file = opener.openFile("A.IND", 2);
+    File file = opener.openFile("A.IND", FileMode::input);
     EXPECT_EQ(boxes.shown.size(), 3u);
     EXPECT_NE(file.number(), 0);
     EXPECT_EQ(file.readField(), "a");
@@ -96,7 +96,7 @@ TEST_F(OpenFile, AnErrorThatPersistsBringsItsMessageBack) {
     failNext(1000000, errPathNotFound);
     boxes.answers.assign(50, MessageAnswer::ok);
     boxes.answers.push_back(MessageAnswer::cancel);
-    EXPECT_EQ(opener.openFile("X:\\A.IND", 1).number(), 0);
+    EXPECT_EQ(opener.openFile("X:\\A.IND", FileMode::output).number(), 0);
     EXPECT_EQ(boxes.shown.size(), 51u);
     EXPECT_EQ(boxes.shown.back().text, "Path Does Not Exist");
 }
@@ -107,14 +107,14 @@ TEST_F(OpenFile, AnyAnswerButTryAgainGivesNoFile) {
         boxes.shown.clear();
         boxes.answers = {answer};
         failNext(1, errDiskFull);
-        const File file = opener.openFile("A.IND", 1);
+        const File file = opener.openFile("A.IND", FileMode::output);
         EXPECT_EQ(file.number(), 0);
         EXPECT_EQ(boxes.shown.size(), 1u);
     }
 }
 
 TEST_F(OpenFile, AMissingFileIsSilentUntilItIsRead) {
-    File file = opener.openFile("MISSING.IND", 2);
+    File file = opener.openFile("MISSING.IND", FileMode::input);
     EXPECT_TRUE(boxes.shown.empty());
     EXPECT_EQ(file.number(), 0);
     EXPECT_EQ(errorOf([&] { file.readField(); }), errBadFileNameOrNumber);
@@ -123,7 +123,7 @@ TEST_F(OpenFile, AMissingFileIsSilentUntilItIsRead) {
 TEST_F(OpenFile, ErrorsWithoutAMessageGiveNoFileAtOnce) {
     for (const int error : {52, 53, 58, 67, 70, 75}) {
         failNext(1, error);
-        EXPECT_EQ(opener.openFile("A.IND", 1).number(), 0) << error;
+        EXPECT_EQ(opener.openFile("A.IND", FileMode::output).number(), 0) << error;
     }
     EXPECT_TRUE(boxes.shown.empty());
 }
@@ -132,7 +132,7 @@ TEST_F(OpenFile, ABadModeIsReported) {
     for (const std::int16_t mode : {std::int16_t{0}, std::int16_t{6}, std::int16_t{-1}}) {
         boxes.shown.clear();
         boxes.answers = {MessageAnswer::cancel};
-        EXPECT_EQ(opener.openFile("A.IND", mode).number(), 0);
+        EXPECT_EQ(opener.openFile("A.IND", static_cast<FileMode>(mode)).number(), 0);
         EXPECT_EQ(boxes.shown, (std::vector<FakeMessageBoxes::Shown>{{"Bad FileMode", 0, "Disk Error"}}));
     }
 }
@@ -140,30 +140,30 @@ TEST_F(OpenFile, ABadModeIsReported) {
 TEST_F(OpenFile, OpensByItsModeCodes) {
     files.content["A.DAT"] = "old\r\n";
     {
-        File output = opener.openFile("A.DAT", 1);
+        File output = opener.openFile("A.DAT", FileMode::output);
         output.printLine("new");
         output.close();
         EXPECT_EQ(files.content["A.DAT"], "new\r\n");
     }
     {
-        File input = opener.openFile("A.DAT", 2);
+        File input = opener.openFile("A.DAT", FileMode::input);
         EXPECT_EQ(input.readLine(), "new");
     }
     {
-        File append = opener.openFile("A.DAT", 3);
+        File append = opener.openFile("A.DAT", FileMode::append);
         append.printLine("more");
         append.close();
         EXPECT_EQ(files.content["A.DAT"], "new\r\nmore\r\n");
     }
-    EXPECT_EQ(opener.openFile("A.DAT", 4, 5).get(2, 4), "more");
-    EXPECT_EQ(opener.openFile("A.DAT", 5).get(2, 2), "ew");
+    EXPECT_EQ(opener.openFile("A.DAT", FileMode::random, 5).get(2, 4), "more");
+    EXPECT_EQ(opener.openFile("A.DAT", FileMode::binary).get(2, 2), "ew");
     EXPECT_TRUE(boxes.shown.empty());
 }
 
 TEST_F(OpenFile, GivesNumbersThatAreNeverZero) {
     files.content["A.IND"] = "a\r\n";
     for (int i = 0; i < 1000; ++i)
-        ASSERT_GT(opener.openFile("A.IND", 2).number(), 0) << i;
+        ASSERT_GT(opener.openFile("A.IND", FileMode::input).number(), 0) << i;
 }
 
 } // namespace

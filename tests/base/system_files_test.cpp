@@ -189,9 +189,9 @@ TEST_F(SystemFiles, OpenFileReportsAMissingFolderAndNotAMissingFile) {
     testing::FakeMessageBoxes boxes;
     boxes.answers = {MessageAnswer::cancel};
     FileOpener opener(calls, boxes);
-    EXPECT_EQ(opener.openFile(folder.path("saknas.IND"), 2).number(), 0);
+    EXPECT_EQ(opener.openFile(folder.path("saknas.IND"), FileMode::input).number(), 0);
     EXPECT_TRUE(boxes.shown.empty());
-    EXPECT_EQ(opener.openFile(folder.path("saknas/A.IND"), 2).number(), 0);
+    EXPECT_EQ(opener.openFile(folder.path("saknas/A.IND"), FileMode::input).number(), 0);
     ASSERT_EQ(boxes.shown.size(), 1u);
     EXPECT_EQ(boxes.shown[0].text, "Path Does Not Exist");
 }

@@ -103,7 +103,7 @@ DesignCase Editing::saved() {
     expectCaption(program(), name + ".IND");
     NoBoxes boxes;
     FileOpener opener(systemFileCalls(), boxes);
-    File file = opener.openFile(scene().path(name + ".IND"), static_cast<std::int16_t>(FileMode::input));
+    File file = opener.openFile(scene().path(name + ".IND"), FileMode::input);
     return VARNO1::readDesignCase(file, {}).designCase;
 }
 

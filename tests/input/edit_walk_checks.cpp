@@ -143,11 +143,11 @@ void EditWalk::checkSavedFile() {
     MemoryFiles files;
     FakeMessageBoxes boxes;
     FileOpener opener(files, boxes);
-    File out = opener.openFile("VANDRING.IND", 1);
+    File out = opener.openFile("VANDRING.IND", FileMode::output);
     VARNO1::writeDesignCase(out, {rig.designCase, "VANDRING", "Titel"});
     out.close();
 
-    File in = opener.openFile("VANDRING.IND", 2);
+    File in = opener.openFile("VANDRING.IND", FileMode::input);
     const CaseFile saved = VARNO1::readDesignCase(in, {});
     expect(saved.title == "Titel", "saved title");
     const std::string line = differingLine(saved.designCase, rig.designCase);
