@@ -47,7 +47,8 @@ int InputFormWindow::controlNumber(Control control) {
 
 void InputFormWindow::create(HWND mdiClient) {
     // Without WS_CLIPCHILDREN: a frame has no background of its own, it shows that of the form.
-    createMdiChild(L"VarnoInputForm", WS_CHILD | WS_VISIBLE, mdiClient, {0, 0, 100, 100});
+    // Hidden until there is a case in it: start-up shows other windows first.
+    createMdiChild(L"VarnoInputForm", WS_CHILD, mdiClient, {0, 0, 100, 100});
     setDpi(win32::dpiOf(mdiClient));
     addControls(inputFormLayout());
     SendMessageW(item(controlId({Field::rubrik})), EM_SETLIMITTEXT, 255, 0);
@@ -93,7 +94,7 @@ void InputFormWindow::setCaption(Control control, const std::string& caption) {
 }
 
 void InputFormWindow::clearList(Field list) {
-    SendMessageW(control({list}), CB_RESETCONTENT, 0, 0);
+    clearRows(controlNumber({list}));
 }
 
 void InputFormWindow::addRow(Field list, std::string_view row) {
@@ -104,8 +105,9 @@ void InputFormWindow::selectRow(Field list, int row) {
     const HWND box = control({list});
     const bool known = row >= 0 && row < SendMessageW(box, CB_GETCOUNT, 0, 0);
     const int wanted = known ? row : -1;
-    if (selectedRow(list) == wanted) return;
-    SendMessageW(box, CB_SETCURSEL, static_cast<WPARAM>(wanted), 0);
+    const bool another = selectedRow(list) != wanted;
+    showRow(controlNumber({list}), wanted);
+    if (!another) return;
     // Windows tells nothing of a row that the program chose; the change rule runs for it all the same.
     guarded([&] { events_.changed({list}); });
 }
@@ -231,6 +233,8 @@ bool InputFormWindow::translateKey(const MSG& message) {
     switch (message.wParam) {
     case VK_TAB:
         if (GetKeyState(VK_CONTROL) < 0) return false;
+        // Leaving an open list takes its choice back, unless it was closed before.
+        if (SendMessageW(focus, CB_GETDROPPEDSTATE, 0, 0) != 0) SendMessageW(focus, WM_KEYDOWN, VK_RETURN, 0);
         return moveOn(focus, shift);
     case VK_RETURN:
         // An open list takes Enter itself, to close.

@@ -142,6 +142,9 @@ void Application::command(int id) {
 void Application::endTyping() {
     form_.focus({Field::rubrik});
 }
+void Application::activated() {
+    if (listening_) input_.activated();
+}
 void Application::flagClicked(int flag) {
     const bool keyboard = GetFocus() == main_.flagButton();
     input_.flagClicked(flag);

@@ -52,6 +52,7 @@ class Application : private win32::WindowHost,
     // MainEvents
     void command(int id) override;
     void endTyping() override;
+    void activated() override;
     void flagClicked(int flag) override;
     void flagMenu(POINT place) override;
     void loadPictureMenu(POINT place) override;

@@ -247,6 +247,14 @@ void MainWindow::drawFlag(const DRAWITEMSTRUCT& item) const {
               (item.itemState & ODS_SELECTED) != 0, (item.itemState & ODS_FOCUS) != 0);
 }
 
+LRESULT MainWindow::onActivate(WPARAM wParam, LPARAM lParam) {
+    const bool comesBack = activationChanged(wParam, lParam);
+    if (LOWORD(wParam) == WA_INACTIVE) return 0;
+    if (!comesBack) events_.activated();
+    if (!IsChild(handle(), GetFocus()) && !restoreFocus()) defaultProc(WM_ACTIVATE, wParam, lParam);
+    return 0;
+}
+
 LRESULT MainWindow::onCommand(WPARAM wParam, LPARAM lParam) {
     const int id = LOWORD(wParam);
     if (id >= idFlag && id < idFlag + flagCount) {
@@ -316,14 +324,7 @@ LRESULT MainWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         SetCursor(LoadCursorW(nullptr, IDC_WAIT));
         return TRUE;
     case WM_ACTIVATE:
-        // Coming back, the focus is where it was.
-        if (LOWORD(wParam) == WA_INACTIVE) {
-            lastFocus_ = IsChild(handle(), GetFocus()) ? GetFocus() : lastFocus_;
-        } else if (lastFocus_ != nullptr && IsWindow(lastFocus_)) {
-            SetFocus(lastFocus_);
-            return 0;
-        }
-        break;
+        return onActivate(wParam, lParam);
     case WM_DPICHANGED: {
         setDpi(win32::dpiOf(handle()));
         events_.dpiChanged(dpi_);

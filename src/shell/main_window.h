@@ -20,6 +20,8 @@ class MainEvents {
     /// The top-level menu "Arkiv" is opened, or a toolbar button pressed: the field being typed in loses the focus
     /// before any command runs.
     virtual void endTyping() = 0;
+    /// The window became active after another window of the program, message boxes apart.
+    virtual void activated() = 0;
     virtual void flagClicked(int flag) = 0;
     /// The flag's context menu was asked for at a place of the screen.
     virtual void flagMenu(POINT place) = 0;
@@ -75,6 +77,7 @@ class MainWindow : public win32::Window, public MainView {
     int bandHeight() const;
     void placeSupportButtons();
     void drawFlag(const DRAWITEMSTRUCT& item) const;
+    LRESULT onActivate(WPARAM wParam, LPARAM lParam);
     LRESULT onCommand(WPARAM wParam, LPARAM lParam);
     void sendHelpKey();
 
@@ -87,7 +90,6 @@ class MainWindow : public win32::Window, public MainView {
     HWND flagLabel_ = nullptr;
     HMENU fileMenu_ = nullptr;
     win32::UniqueFont font_;
-    HWND lastFocus_ = nullptr;
     std::function<bool(int id)> hasCommand_;
     bool diagramEnabled_ = true;
     int dpi_ = USER_DEFAULT_SCREEN_DPI;

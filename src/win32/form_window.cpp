@@ -70,6 +70,23 @@ KindStyle styleOf(ControlKind kind) {
     return {L"STATIC", 0, 0};
 }
 
+bool isOfClass(HWND control, std::wstring_view name) {
+    wchar_t className[16] = L"";
+    GetClassNameW(control, className, 16);
+    return className == name;
+}
+
+enum class FocusChange { none, got, lost };
+
+// The numbers mean something else with every kind of control.
+FocusChange focusChange(HWND control, int notification) {
+    const bool edit = isOfClass(control, L"Edit");
+    if (!edit && !isOfClass(control, L"ComboBox")) return FocusChange::none;
+    if (notification == (edit ? EN_SETFOCUS : CBN_SETFOCUS)) return FocusChange::got;
+    if (notification == (edit ? EN_KILLFOCUS : CBN_KILLFOCUS)) return FocusChange::lost;
+    return FocusChange::none;
+}
+
 // Every other window of the program, disabled for as long as a modal window runs.
 class DisabledOthers {
   public:
@@ -98,6 +115,10 @@ class DisabledOthers {
 };
 
 } // namespace
+
+FormWindow::~FormWindow() {
+    host().activation().forget(*this);
+}
 
 void FormWindow::runModal() {
     open_ = true;
@@ -131,6 +152,7 @@ HWND FormWindow::createControl(const ControlSpec& spec) {
     if (spec.kind == ControlKind::memo) SendMessageW(control, EM_SETLIMITTEXT, 0, 0);
     // Of itself a spin button's range runs from 100 down to 0, and its upper arrow counts down.
     if (spec.kind == ControlKind::spin) SendMessageW(control, UDM_SETRANGE32, 0, 100);
+    if (spec.kind == ControlKind::dropDown) passWheelOn(control);
     return control;
 }
 
@@ -154,10 +176,7 @@ HFONT FormWindow::font(FontRole role) const {
 
 void FormWindow::setFont(HWND control, FontRole role) {
     SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font(role)), TRUE);
-    wchar_t className[8] = L"";
-    GetClassNameW(control, className, 8);
-    if (std::wstring_view(className) != L"Edit" || (GetWindowLongPtrW(control, GWL_STYLE) & ES_RIGHT) == 0)
-        return;
+    if (!isOfClass(control, L"Edit") || (GetWindowLongPtrW(control, GWL_STYLE) & ES_RIGHT) == 0) return;
     // A new font brings margins of its own, which leave a number box so little room that it scrolls the first
     // digit of "0,170" away when the caret stands behind the last.
     const int margin = px(raster(1));
@@ -223,6 +242,20 @@ void FormWindow::sizeAndCentre(int width, int height, HWND over) {
     layOut();
 }
 
+void FormWindow::leaveKept(int field) {
+    const int notification = isOfClass(item(field), L"Edit") ? EN_KILLFOCUS : CBN_KILLFOCUS;
+    guarded([&] { onCommand(field, notification); });
+}
+
+void FormWindow::controlTold(HWND control, int notification) {
+    const int id = GetDlgCtrlID(control);
+    const FocusChange focus = focusChange(control, notification);
+    Activation& activation = host().activation();
+    if (focus == FocusChange::lost && !activation.leaves(*this, id)) return;
+    if (focus == FocusChange::got && !activation.enters(*this, id)) return;
+    if (const auto heard = dropDowns_.heard(control, notification)) onCommand(id, *heard);
+}
+
 void FormWindow::onCommand(int id, int) {
     if (id == IDCANCEL) onCloseBox();
 }
@@ -267,7 +300,11 @@ void FormWindow::drawItem(const DRAWITEMSTRUCT& item) {
 LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_COMMAND:
-        onCommand(LOWORD(wParam), HIWORD(wParam));
+        if (lParam != 0) {
+            controlTold(reinterpret_cast<HWND>(lParam), HIWORD(wParam));
+        } else {
+            onCommand(LOWORD(wParam), HIWORD(wParam));
+        }
         return 0;
     case WM_CLOSE:
         onCloseBox();
@@ -276,13 +313,8 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         drawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
         return TRUE;
     case WM_ACTIVATE:
-        // Coming back, the focus is where it was; the window alone would lose it.
-        if (LOWORD(wParam) == WA_INACTIVE) {
-            const HWND focus = GetFocus();
-            if (focus != nullptr && IsChild(handle(), focus)) lastFocus_ = focus;
-        } else if (lastFocus_ != nullptr && IsWindow(lastFocus_)) {
-            SetFocus(lastFocus_);
-        } else {
+        activationChanged(wParam, lParam);
+        if (LOWORD(wParam) != WA_INACTIVE && !restoreFocus()) {
             const HWND first = GetNextDlgTabItem(handle(), nullptr, FALSE);
             if (first != nullptr) SetFocus(first);
         }

@@ -5,15 +5,19 @@
 
 #include "controls/control_spec.h"
 #include "win32/dpi.h"
+#include "win32/drop_downs.h"
 #include "win32/window.h"
 
 namespace varno::win32 {
 
 /// A window made of controls that stand in a table, in twips. It lays them out at its own resolution, keeps
-/// the keyboard focus while another window is active, and draws the symbol labels.
-class FormWindow : public Window {
+/// the keyboard focus while another window is active, and draws the symbol labels. Of its controls' events it
+/// hands on those that are the user's doing: a field that lost the focus to another program was not left, and a
+/// list that closes over its own row was not chosen from.
+class FormWindow : public Window, private FieldWindow {
   public:
     using Window::Window;
+    ~FormWindow() override;
 
     /// Shows the window and handles messages until `closeForm`; all other windows of the program are
     /// disabled.
@@ -30,6 +34,10 @@ class FormWindow : public Window {
     /// Gives the client area this size in twips at the window's resolution and centres it over `over` (or the
     /// work area of its monitor).
     void sizeAndCentre(int width, int height, HWND over);
+
+    /// Selects a row of a drop-down list, -1 for none, or empties it; nothing is told of it.
+    void showRow(int id, int row) { dropDowns_.show(item(id), row); }
+    void clearRows(int id) { dropDowns_.clear(item(id)); }
 
     void setFontRole(int id, FontRole role);
     /// Places the controls; a window that can be resized overrides it. Called after a change of resolution
@@ -60,6 +68,8 @@ class FormWindow : public Window {
         RECT twips;
         FontRole role;
     };
+    void leaveKept(int field) override;
+    void controlTold(HWND control, int notification);
     HWND createControl(const ControlSpec& spec);
     void drawItem(const DRAWITEMSTRUCT& item);
     void drawSymbol(const DRAWITEMSTRUCT& item);
@@ -69,7 +79,7 @@ class FormWindow : public Window {
     std::vector<Placed> placed_;
     UniqueFont fonts_[fontRoles];
     int dpi_ = USER_DEFAULT_SCREEN_DPI;
-    HWND lastFocus_ = nullptr;
+    DropDowns dropDowns_;
     bool open_ = false;
 };
 

@@ -17,9 +17,31 @@ std::string ansi(const std::string& utf8) {
     return out;
 }
 
+// A program with a console takes the foreground for its window. When that goes, Windows picks the window below
+// it, and what this program shows next would come up behind. Asking for the foreground back is granted as long
+// as the user's last key or click went to this program; one who works in another by then only sees the button in
+// the task bar flash.
+class ForegroundAsBefore {
+  public:
+    ForegroundAsBefore() : front_(GetForegroundWindow()) {
+        DWORD process = 0;
+        GetWindowThreadProcessId(front_, &process);
+        if (process != GetCurrentProcessId()) front_ = nullptr;
+    }
+    ~ForegroundAsBefore() {
+        if (front_ != nullptr && GetForegroundWindow() != front_) SetForegroundWindow(front_);
+    }
+    ForegroundAsBefore(const ForegroundAsBefore&) = delete;
+    ForegroundAsBefore& operator=(const ForegroundAsBefore&) = delete;
+
+  private:
+    HWND front_;
+};
+
 } // namespace
 
 std::uint32_t ProcessRunner::ExecCmd(const std::string& commandLine) {
+    const ForegroundAsBefore foreground;
     STARTUPINFOA start{};
     start.cb = sizeof start;
     static_assert(sizeof start == 68, "the size that 32-bit Windows documents");

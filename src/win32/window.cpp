@@ -65,6 +65,22 @@ void Window::destroy() {
     DestroyWindow(window);
 }
 
+bool Window::restoreFocus() {
+    if (lastFocus_ == nullptr || !IsWindow(lastFocus_)) return false;
+    SetFocus(lastFocus_);
+    return true;
+}
+
+bool Window::activationChanged(WPARAM wParam, LPARAM lParam) {
+    if (LOWORD(wParam) != WA_INACTIVE) return host_.activation().activated(this);
+    const auto next = reinterpret_cast<HWND>(lParam);
+    host_.activation().deactivated(next == nullptr ||
+                                   GetWindowThreadProcessId(next, nullptr) != GetCurrentThreadId());
+    const HWND focus = GetFocus();
+    if (focus != nullptr && IsChild(handle_, focus)) lastFocus_ = focus;
+    return false;
+}
+
 LRESULT Window::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     return defaultProc(message, wParam, lParam);
 }

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "base/run_time_error.h"
+#include "controls/activation.h"
 
 namespace varno::win32 {
 
@@ -18,6 +19,11 @@ class WindowHost {
     /// Handles the dialog keys and accelerators of one message of the queue; true when nothing is left to do
     /// with it.
     virtual bool translate(MSG& message) = 0;
+    /// Which of the program's windows is the active one.
+    Activation& activation() { return activation_; }
+
+  private:
+    Activation activation_;
 };
 
 /// Hands one message of the queue to the window it belongs to.
@@ -52,6 +58,11 @@ class Window {
     virtual LRESULT defaultProc(UINT message, WPARAM wParam, LPARAM lParam);
 
     WindowHost& host() { return host_; }
+    /// WM_ACTIVATE of a top-level window: tells the program of it, and keeps the focus for the way back. True
+    /// when the window is active again and nothing of the program's own came between.
+    bool activationChanged(WPARAM wParam, LPARAM lParam);
+    /// Gives the focus to the control that had it when the window was left; Windows gives it to the window itself.
+    bool restoreFocus();
     /// Runs one event's rules; a run-time error stops it and is reported.
     template <typename Event>
     void guarded(Event event) {
@@ -68,6 +79,7 @@ class Window {
 
     WindowHost& host_;
     HWND handle_ = nullptr;
+    HWND lastFocus_ = nullptr;
 };
 
 /// The instance of the program.

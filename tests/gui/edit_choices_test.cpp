@@ -87,23 +87,6 @@ TEST_F(EditChoices, CategoryFollowsTheArrowKeys) {
     EXPECT_EQ(saved().lokt, 2);
 }
 
-TEST_F(EditChoices, EscapeFromAnOpenListLeavesListAndCaseAlike) {
-    open();
-    tabTo(Field::lokt, 0);
-    const Control list = field(Field::lokt);
-    keyboard::press(VK_F4);
-    expectSoon(program(), LRESULT{1}, [&] { return list.send(CB_GETDROPPEDSTATE); });
-    keyboard::press(VK_DOWN);
-    keyboard::press(VK_DOWN);
-    expectRow(Field::lokt, 2);
-    keyboard::press(VK_ESCAPE);
-    expectSoon(program(), LRESULT{0}, [&] { return list.send(CB_GETDROPPEDSTATE); });
-    expectFocus(list);
-    tab();
-    EXPECT_EQ(saved().lokt, list.selectedRow());
-    EXPECT_EQ(text(Field::flast, 1), shown(list.selectedRow() == 0 ? "2.00" : "3.00"));
-}
-
 TEST_F(EditChoices, EnterClosesAnOpenListAndStays) {
     open({}, "KONTOR.IND");
     tabTo(Field::dok, 0);

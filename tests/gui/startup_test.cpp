@@ -108,6 +108,20 @@ TEST(Disclaimer, ComesEveryTimeWithItsTwoTexts) {
     }
 }
 
+TEST(StartUp, FormIsSeenOnlyWithTheCaseInIt) {
+    Scene scene;
+    scene.writeVersion(7.0f);
+    Program program(scene);
+    const Control notice = program.window(noticeClass);
+    EXPECT_TRUE(program.main().visible());
+    EXPECT_FALSE(program.form().visible());
+    notice.item(idOkButton).click();
+    program.window(disclaimerClass);
+    EXPECT_FALSE(program.form().visible());
+    program.passStartUp();
+    EXPECT_TRUE(program.form().visible());
+}
+
 TEST(StartUp, ShowsTheDefaultCaseWithItsTitleSelected) {
     Scene scene;
     scene.write("varno.def", withLine(scene.read("varno.def"), 1, "hus7"));

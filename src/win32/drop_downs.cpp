@@ -1,0 +1,65 @@
+#include "win32/drop_downs.h"
+
+#include <commctrl.h>
+
+namespace varno::win32 {
+
+namespace {
+
+constexpr UINT_PTR wheelSubclass = 1;
+
+int selectedRow(HWND list) {
+    return static_cast<int>(SendMessageW(list, CB_GETCURSEL, 0, 0));
+}
+
+LRESULT CALLBACK wheelProc(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
+    const bool wheel = message == WM_MOUSEWHEEL || message == WM_MOUSEHWHEEL;
+    if (wheel && SendMessageW(list, CB_GETDROPPEDSTATE, 0, 0) == FALSE)
+        return DefWindowProcW(list, message, wParam, lParam);
+    if (message == WM_NCDESTROY) RemoveWindowSubclass(list, wheelProc, wheelSubclass);
+    return DefSubclassProc(list, message, wParam, lParam);
+}
+
+} // namespace
+
+void passWheelOn(HWND list) {
+    SetWindowSubclass(list, wheelProc, wheelSubclass, 0);
+}
+
+void DropDowns::show(HWND list, int row) {
+    SendMessageW(list, CB_SETCURSEL, static_cast<WPARAM>(row), 0);
+    choices_[list].shown(selectedRow(list));
+}
+
+void DropDowns::clear(HWND list) {
+    SendMessageW(list, CB_RESETCONTENT, 0, 0);
+    choices_[list].shown(-1);
+}
+
+std::optional<int> DropDowns::heard(HWND list, int notification) {
+    const auto found = choices_.find(list);
+    if (found == choices_.end()) return notification;
+    ListChoice& choice = found->second;
+    auto outcome = ListChoice::Outcome::nothing;
+    switch (notification) {
+    case CBN_DROPDOWN:
+        choice.opened();
+        break;
+    case CBN_SELENDCANCEL:
+        choice.cancelled();
+        break;
+    case CBN_CLOSEUP:
+        outcome = choice.closed(selectedRow(list));
+        break;
+    case CBN_SELCHANGE:
+        outcome = choice.told(selectedRow(list));
+        break;
+    default:
+        return notification;
+    }
+    if (outcome == ListChoice::Outcome::takenBack) show(list, choice.row());
+    if (outcome == ListChoice::Outcome::chosen) return CBN_SELCHANGE;
+    return std::nullopt;
+}
+
+} // namespace varno::win32
