@@ -29,7 +29,11 @@ class ForegroundAsBefore {
         if (process != GetCurrentProcessId()) front_ = nullptr;
     }
     ~ForegroundAsBefore() {
-        if (front_ != nullptr && GetForegroundWindow() != front_) SetForegroundWindow(front_);
+        if (front_ == nullptr) return;
+        // First that the foreground was lost is heard of; later, it would be taken from what is shown by then.
+        MSG message;
+        PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE);
+        if (GetForegroundWindow() != front_) SetForegroundWindow(front_);
     }
     ForegroundAsBefore(const ForegroundAsBefore&) = delete;
     ForegroundAsBefore& operator=(const ForegroundAsBefore&) = delete;

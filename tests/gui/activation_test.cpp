@@ -100,6 +100,22 @@ TEST_F(Activation, MessageBoxComesBetweenWithoutATrace) {
     expectFocus(field(Field::konsv));
 }
 
+TEST_F(Activation, MessageThatComesWhileAwayBelongsToTheMainWindow) {
+    open();
+    enter(Field::konsh, "0,5");
+    {
+        const OtherProgram other;
+        other.activate();
+        settleAway();
+        program().command(idRun);
+        const Control box = program().window(messageBoxClass);
+        EXPECT_EQ(GetWindow(box.handle(), GW_OWNER), main().handle());
+        EXPECT_FALSE(main().enabled());
+        program().answer();
+    }
+    goTo(main());
+}
+
 TEST_F(Activation, AnotherProgramLeavesTheFieldAsItIs) {
     open();
     const Control box = field(Field::spv, 2);

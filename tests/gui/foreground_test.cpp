@@ -39,6 +39,7 @@ TEST_F(ConsoleEngine, MessageComesUpInFront) {
     program->command(idRun);
     const Control box = program->window(messageBoxClass);
     EXPECT_EQ(program->message().text, "Resultatfil till BOSTAD.IND saknas !");
+    EXPECT_TRUE(scene.has("console.txt")) << "the console was not in front";
     expectInFront(box);
     EXPECT_EQ(GetWindow(box.handle(), GW_OWNER), program->main().handle());
     EXPECT_FALSE(program->main().enabled());
@@ -50,6 +51,7 @@ TEST_F(ConsoleEngine, ResultComesUpInFront) {
     scene.write("BOSTAD.res", "resultat\r\n");
     program->command(idRun);
     const Control viewer = program->window(viewerClass);
+    EXPECT_TRUE(scene.has("console.txt")) << "the console was not in front";
     expectInFront(viewer);
     EXPECT_EQ(program->focused(), viewer.item(idFileTextBox));
 }
