@@ -4,60 +4,54 @@
 #include <cmath>
 #include <cstddef>
 
-namespace varnowb {
+namespace varno::engine {
+
 namespace {
 
 double cantileverMoment(double q, double length, const std::vector<PointLoad>& points) {
     double moment = -q * length * length / 2;
-    for (const auto& load : points)
+    for (const PointLoad& load : points)
         moment -= load.p * load.x;
     return moment;
 }
 
-double cantileverLoad(double q, double length, const std::vector<PointLoad>& points) {
+double loadOn(double q, double length, const std::vector<PointLoad>& points) {
     double sum = q * length;
-    for (const auto& load : points)
+    for (const PointLoad& load : points)
         sum += load.p;
     return sum;
 }
 
-// The span's term in the equation of the support at its right end, or at its left end.
-double termAtRight(double length, double q, const std::vector<PointLoad>& points) {
-    double term = q * length * length * length / 4;
-    for (const auto& load : points)
-        term += load.p * load.x * (length * length - load.x * load.x) / length;
-    return term;
-}
+enum class End { left, right };
 
-double termAtLeft(double length, double q, const std::vector<PointLoad>& points) {
+// The span's term in the equation of the support at one of its ends.
+double termAt(End end, double length, double q, const std::vector<PointLoad>& points) {
     double term = q * length * length * length / 4;
-    for (const auto& load : points) {
-        const double z = length - load.x;
-        term += load.p * z * (length * length - z * z) / length;
+    for (const PointLoad& load : points) {
+        const double far = end == End::right ? load.x : length - load.x;
+        term += load.p * far * (length * length - far * far) / length;
     }
     return term;
 }
 
-class Extremes {
-  public:
-    void consider(double moment, double x, Place at) {
-        if (first_ || isLarger(moment, found_.max.moment)) found_.max = {moment, x, at};
-        if (first_ || isLarger(-moment, -found_.min.moment)) found_.min = {moment, x, at};
-        first_ = false;
-    }
-    const FieldMoments& found() const { return found_; }
+// Just right of the left support.
+double startShear(const SpanState& span) {
+    double shear = (span.right - span.left) / span.length + span.q * span.length / 2;
+    for (const PointLoad& load : span.points)
+        shear += load.p * (span.length - load.x) / span.length;
+    return shear;
+}
 
-  private:
-    FieldMoments found_;
-    bool first_ = true;
-};
+bool isLarger(double moment, double best) {
+    return moment - best > 1e-12 * std::max(std::abs(moment), std::abs(best));
+}
 
 } // namespace
 
 PlacedLoads place(const Beam& beam, std::span<const PointLoad> points) {
     PlacedLoads placed;
     placed.span.resize(beam.spv.size());
-    for (const auto& load : points) {
+    for (const PointLoad& load : points) {
         double x = load.x - beam.konsv;
         if (x < 0) {
             placed.left.push_back({-x, load.p});
@@ -66,37 +60,28 @@ PlacedLoads place(const Beam& beam, std::span<const PointLoad> points) {
         std::size_t i = 0;
         while (i < beam.spv.size() && x > beam.spv[i])
             x -= beam.spv[i++];
-        if (i < beam.spv.size())
-            placed.span[i].push_back({x, load.p});
-        else
-            placed.right.push_back({x, load.p});
+        (i < beam.spv.size() ? placed.span[i] : placed.right).push_back({x, load.p});
     }
     for (auto& loads : placed.span)
-        std::stable_sort(loads.begin(), loads.end(),
-                         [](const PointLoad& a, const PointLoad& b) { return a.x < b.x; });
+        std::ranges::stable_sort(loads, {}, &PointLoad::x);
     return placed;
 }
 
 std::vector<double> supportMoments(const Beam& beam, const Loading& loading) {
     const std::size_t n = beam.spv.size();
     std::vector<double> moments(n + 1);
-    moments[0] = cantileverMoment(loading.qv, beam.konsv, loading.points.left);
-    moments[n] = cantileverMoment(loading.qh, beam.konsh, loading.points.right);
+    moments[0] = cantileverMoment(loading.q.front(), beam.konsv, loading.points.left);
+    moments[n] = cantileverMoment(loading.q.back(), beam.konsh, loading.points.right);
 
     // Forward elimination of the tridiagonal equations, one for each inner support, then back.
     std::vector<double> upper(n + 1), rest(n + 1);
+    rest[0] = moments[0];
     for (std::size_t i = 1; i < n; ++i) {
         const double la = beam.spv[i - 1];
         const double lb = beam.spv[i];
-        double right = -termAtRight(la, loading.q[i - 1], loading.points.span[i - 1]) -
-                       termAtLeft(lb, loading.q[i], loading.points.span[i]);
-        double diagonal = 2 * (la + lb);
-        if (i == 1) {
-            right -= la * moments[0];
-        } else {
-            diagonal -= la * upper[i - 1];
-            right -= la * rest[i - 1];
-        }
+        const double right = -termAt(End::right, la, loading.q[i - 1], loading.points.span[i - 1]) -
+                             termAt(End::left, lb, loading.q[i], loading.points.span[i]) - la * rest[i - 1];
+        const double diagonal = 2 * (la + lb) - la * upper[i - 1];
         upper[i] = lb / diagonal;
         rest[i] = right / diagonal;
     }
@@ -108,39 +93,38 @@ std::vector<double> supportMoments(const Beam& beam, const Loading& loading) {
 std::vector<double> reactions(const Beam& beam, const Loading& loading, std::span<const double> moments) {
     const std::size_t n = beam.spv.size();
     std::vector<double> forces(n + 1);
-    forces[0] = cantileverLoad(loading.qv, beam.konsv, loading.points.left);
-    forces[n] = cantileverLoad(loading.qh, beam.konsh, loading.points.right);
+    forces[0] = loadOn(loading.q.front(), beam.konsv, loading.points.left);
+    forces[n] = loadOn(loading.q.back(), beam.konsh, loading.points.right);
     for (std::size_t i = 0; i < n; ++i) {
         const auto& points = loading.points.span[i];
         const double shear = startShear({beam.spv[i], loading.q[i], moments[i], moments[i + 1], points});
         forces[i] += shear;
-        forces[i + 1] += cantileverLoad(loading.q[i], beam.spv[i], points) - shear;
+        forces[i + 1] += loadOn(loading.q[i], beam.spv[i], points) - shear;
     }
     return forces;
 }
 
-double startShear(const SpanState& span) {
-    double shear = (span.right - span.left) / span.length + span.q * span.length / 2;
-    for (const auto& load : span.points)
-        shear += load.p * (span.length - load.x) / span.length;
-    return shear;
-}
-
 double momentAt(const SpanState& span, double x) {
     double moment = span.left + startShear(span) * x - span.q * x * x / 2;
-    for (const auto& load : span.points)
+    for (const PointLoad& load : span.points) {
         if (load.x < x) moment -= load.p * (x - load.x);
+    }
     return moment;
 }
 
-bool isLarger(double moment, double best) {
-    return moment - best > 1e-12 * std::max(std::abs(moment), std::abs(best));
+void FieldMoments::include(const FieldMoments& other) {
+    if (isLarger(other.max.moment, max.moment)) max = other.max;
+    if (isLarger(-other.min.moment, -min.moment)) min = other.min;
 }
 
 FieldMoments fieldMoments(const SpanState& span) {
-    Extremes extremes;
-    extremes.consider(span.left, 0, Place::Support);
-    extremes.consider(span.right, span.length, Place::Support);
+    const FieldMoment start{span.left, 0, Place::support};
+    FieldMoments found{start, start};
+    const auto consider = [&](double moment, double x, Place place) {
+        const FieldMoment field{moment, x, place};
+        found.include({field, field});
+    };
+    consider(span.right, span.length, Place::support);
 
     double x = 0;
     double moment = span.left;
@@ -148,18 +132,18 @@ FieldMoments fieldMoments(const SpanState& span) {
     const auto goTo = [&](double end) {
         const double length = end - x;
         if (const double zero = span.q != 0 ? shear / span.q : 0; zero > 0 && zero < length)
-            extremes.consider(moment + shear * zero / 2, x + zero, Place::ZeroShear);
+            consider(moment + shear * zero / 2, x + zero, Place::zeroShear);
         moment += (shear - span.q * length / 2) * length;
         shear -= span.q * length;
         x = end;
     };
-    for (const auto& load : span.points) {
+    for (const PointLoad& load : span.points) {
         goTo(load.x);
-        if (load.x > 0 && load.x < span.length) extremes.consider(moment, x, Place::UnderLoad);
+        if (load.x > 0 && load.x < span.length) consider(moment, x, Place::underLoad);
         shear -= load.p;
     }
     goTo(span.length);
-    return extremes.found();
+    return found;
 }
 
-} // namespace varnowb
+} // namespace varno::engine

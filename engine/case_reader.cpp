@@ -1,13 +1,40 @@
 #include "engine/case_reader.h"
 
-#include "engine/numbers.h"
-
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <optional>
 #include <utility>
 
-namespace varnowb {
+#include "base/sequential_text.h"
+#include "engine/columns.h"
+#include "model/design_input_file.h"
+
+namespace varno::engine {
+
 namespace {
 
-constexpr int kLines = 37;
+// What the lines up to 32 hold, as messages call it.
+constexpr std::string_view fieldNames[] = {
+    "name",   "title", "loadCode",      "safetyClass", "nfack",    "spv",          "ptjl",      "upl",
+    "lokt",   "",      "lastkomb",      "plast",       "flast",    "konsv",        "konsh",     "btg",
+    "aok",    "dok",   "kavko",         "ktack",       "auk",      "duk",          "duarm",     "brandk",
+    "brandb", "kutak", "reservedValue", "overhojning", "initiell", "tillkommande", "brukskomb", "nllast"};
+
+// Whole numbers that the case has no room for outside these. Every message holds each Swedish letter at most once: see
+// pages.h.
+struct Limits {
+    std::int16_t DesignCase::*field;
+    const char* caption;
+    int first, last;
+};
+constexpr Limits limits[] = {
+    {&DesignCase::loadCode, "lastregler", 0, maxLoadCode},
+    {&DesignCase::nfack, "antal fack", 1, maxSpans},
+    {&DesignCase::lokt, "lastkategori", 0, maxLoadCategory},
+    {&DesignCase::nllast, "antal linjelaster", 0, maxLineLoads},
+};
 
 // Foreign bytes stay out of the message: they would upset the repair of its letters.
 std::string quoted(std::string_view text) {
@@ -18,160 +45,130 @@ std::string quoted(std::string_view text) {
     return shown + (text.size() > longest ? "...\"" : "\"");
 }
 
-class Columns {
+// The number that a text is, blanks around it allowed; nothing when it is anything else or out of range.
+template <typename Number>
+std::optional<Number> numberIn(std::string_view cell) {
+    std::string text = trimBlanks(cell);
+    if (const auto comma = text.find(','); comma != std::string::npos) text[comma] = '.';
+    std::ranges::replace_if(
+        text, [](char c) { return c == 'd' || c == 'D'; }, 'e');
+    // Only these: from_chars would take "inf" and "nan" for numbers.
+    if (text.find_first_not_of("0123456789+-.eE") != std::string::npos || text.starts_with("+-")) return {};
+    const char* const end = text.data() + text.size();
+    Number value = 0;
+    const auto read = std::from_chars(text.data() + (text.starts_with('+') ? 1 : 0), end, value);
+    if (read.ec != std::errc() || read.ptr != end) return {};
+    return value;
+}
+
+std::optional<std::int16_t> wholeIn(std::string_view cell) {
+    using Limit = std::numeric_limits<std::int16_t>;
+    const auto value = numberIn<double>(cell);
+    if (!value || *value != std::floor(*value) || *value < Limit::min() || *value > Limit::max()) return {};
+    return static_cast<std::int16_t>(*value);
+}
+
+class LineReader {
   public:
-    explicit Columns(std::vector<std::string_view> lines) : lines_(std::move(lines)) {
-        if (lines_.size() < kLines)
-            throw CaseError("Indatafilen är avkortad: rad " + std::to_string(lines_.size() + 1) +
-                            " av 37 saknas.");
+    explicit LineReader(CaseOnFile& target) : target_(target), case_(target.values) {}
+
+    void read(int number, const CaseLine& line, Bytes text) {
+        number_ = number;
+        text_ = std::move(text);
+        place_ = 0;
+        std::visit(*this, line);
     }
 
-    std::string_view line(int number) const { return lines_[static_cast<std::size_t>(number - 1)]; }
-
-    // `first` counts from 1, as the file's description does.
-    std::string_view cellText(int number, int first, int width) const {
-        const auto text = line(number);
-        const auto start = static_cast<std::size_t>(first - 1);
-        return start < text.size() ? text.substr(start, static_cast<std::size_t>(width)) : std::string_view{};
+    void operator()(CaseNameLine) { target_.name = text_; }
+    void operator()(TitleLine) { target_.title = text_; }
+    void operator()(IntegerLine line) {
+        const auto value = required(wholeIn(text_), name(), text_);
+        for (const Limits& limit : limits) {
+            if (limit.field == line.field && (value < limit.first || value > limit.last))
+                refuse(std::string(limit.caption) + " " + std::string(name()) + " = " +
+                       std::to_string(value) + " ska vara " + std::to_string(limit.first) + " till " +
+                       std::to_string(limit.last) + ".");
+        }
+        case_.*line.field = value;
     }
-
-    int whole(int number, const char* field) const {
-        return required(readWhole(line(number)), number, field, line(number), "ett heltal");
+    void operator()(SafetyClassLine) {
+        case_.safetyClass(case_.loadCode) = required(wholeIn(text_), name(), text_);
     }
-
-    double real(int number, const char* field) const {
-        return required(readNumber(line(number)), number, field, line(number), "ett tal");
+    void operator()(RealLine line) { case_.*line.field = required(numberIn<float>(text_), name(), text_); }
+    void operator()(const SpanCellsLine& line) {
+        for (int i = line.first; i <= case_.nfack; ++i)
+            (case_.*line.field)(i) = real<float>(line.cell, indexed(name(), i));
+        if (line.field != &DesignCase::upl) return;
+        // The front-end holds the end supports at 0 whatever the file says, and draws the moment curves accordingly.
+        case_.upl(0) = 0;
+        case_.upl(case_.nfack) = 0;
     }
-
-    double realCell(int number, int first, int width, const std::string& field) const {
-        const auto text = cellText(number, first, width);
-        return required(readNumber(text), number, field, text, "ett tal");
+    void operator()(const FactorCellsLine& line) {
+        const int ruleSet = case_.loadCode;
+        case_.lambdaG(ruleSet) = real<double>(line.cell, "lambdaG");
+        case_.ksi(ruleSet) = numberIn<double>(next(line.cell));
+        case_.lambdaQ(ruleSet) = real<double>(line.cell, "lambdaQ");
+        for (FactorPerCategory* table : {&case_.psi0, &case_.psi1, &case_.psi2})
+            (*table)(ruleSet, case_.lokt) = numberIn<double>(next(line.cell));
     }
-
-    int wholeCell(int number, int first, int width, const std::string& field) const {
-        const auto text = cellText(number, first, width);
-        return required(readWhole(text), number, field, text, "ett heltal");
-    }
-
-    // Cells field(from), field(from + 1) ...
-    std::vector<double> row(int number, const std::string& field, int from, int count, int width) const {
-        std::vector<double> values;
-        for (int i = 0; i < count; ++i)
-            values.push_back(
-                realCell(number, 1 + i * width, width, indexed(field, static_cast<std::size_t>(from + i))));
-        return values;
+    void operator()(LineLoadLine line) {
+        const int i = line.index;
+        const Bytes span = next(numberCell), distance = next(spanCell), load = next(spanCell);
+        if (i <= case_.nllast) {
+            case_.llfnr(i) = required(wholeIn(span), indexed("llfnr", i), span);
+            case_.avst(i) = required(numberIn<float>(distance), indexed("avst", i), distance);
+            case_.lllast(i) = required(numberIn<float>(load), indexed("lllast", i), load);
+        } else {
+            case_.llfnr(i) = wholeIn(span).value_or(std::int16_t{0});
+            case_.avst(i) = numberIn<float>(distance).value_or(0.0f);
+            case_.lllast(i) = numberIn<float>(load).value_or(0.0f);
+        }
     }
 
   private:
-    template <class T>
-    static T required(std::optional<T> value, int number, const std::string& field, std::string_view text,
-                      const char* kind) {
-        if (value) return *value;
-        throw CaseError("Rad " + std::to_string(number) + ": " + field + " = " + quoted(text) + " är inte " +
-                        kind + ".");
+    std::string_view name() const { return fieldNames[number_ - 1]; }
+    // Nothing is left where an editor has cut the trailing blanks of a line.
+    Bytes next(CellFormat cell) {
+        const auto from = std::min(std::exchange(place_, place_ + cell.width), text_.size());
+        return text_.substr(from, cell.width);
+    }
+    template <typename Number>
+    Number real(CellFormat cell, std::string_view field) {
+        const Bytes text = next(cell);
+        return required(numberIn<Number>(text), field, text);
+    }
+    template <typename Number>
+    Number required(std::optional<Number> value, std::string_view field, std::string_view text) const {
+        if (!value)
+            refuse(std::string(field) + " = " + quoted(text) + " är inte ett " +
+                   (std::is_integral_v<Number> ? "heltal." : "tal."));
+        return *value;
+    }
+    [[noreturn]] void refuse(const std::string& reason) const {
+        throw CaseError("Rad " + std::to_string(number_) + ": " + reason);
     }
 
-    std::vector<std::string_view> lines_;
+    CaseOnFile& target_;
+    DesignCase& case_;
+    int number_ = 0;
+    Bytes text_;
+    std::size_t place_ = 0;
 };
-
-void readGeometry(const Columns& file, DesignInput& c) {
-    c.loadCode = file.whole(3, "loadCode");
-    c.safetyClass = file.whole(4, "safetyClass");
-    c.nfack = file.whole(5, "nfack");
-    if (c.nfack < 1 || c.nfack > kMaxSpans)
-        throw CaseError("Rad 5: antal fack nfack = " + std::to_string(c.nfack) + " ska vara 1 till 10.");
-    c.spv = file.row(6, "spv", 1, c.nfack, 7);
-    c.ptjl = file.row(7, "ptjl", 1, c.nfack, 7);
-    c.upl = file.row(8, "upl", 0, c.nfack + 1, 6);
-    // The front-end holds the end supports at 0 whatever the file says, and draws the moment curves
-    // accordingly.
-    c.upl.front() = 0;
-    c.upl.back() = 0;
-}
-
-void readLoads(const Columns& file, DesignInput& c) {
-    c.lokt = file.whole(9, "lokt");
-    c.lambdaG = file.realCell(10, 1, 7, "lambdaG");
-    c.ksi = readNumber(file.cellText(10, 8, 7));
-    c.lambdaQ = file.realCell(10, 15, 7, "lambdaQ");
-    c.psi0 = readNumber(file.cellText(10, 22, 7));
-    c.psi1 = readNumber(file.cellText(10, 29, 7));
-    c.psi2 = readNumber(file.cellText(10, 36, 7));
-    c.lastkomb = file.whole(11, "lastkomb");
-    c.plast = file.row(12, "plast", 1, c.nfack, 7);
-    c.flast = file.row(13, "flast", 1, c.nfack, 7);
-    c.konsv = file.real(14, "konsv");
-    c.konsh = file.real(15, "konsh");
-}
-
-struct WholeLine {
-    int number;
-    const char* field;
-    int DesignInput::*value;
-};
-constexpr WholeLine kWholeLines[] = {{16, "btg", &DesignInput::btg},
-                                     {17, "aok", &DesignInput::aok},
-                                     {18, "dok", &DesignInput::dok},
-                                     {19, "kavko", &DesignInput::kavko},
-                                     {20, "ktack", &DesignInput::ktack},
-                                     {21, "auk", &DesignInput::auk},
-                                     {22, "duk", &DesignInput::duk},
-                                     {23, "duarm", &DesignInput::duarm},
-                                     {24, "brandk", &DesignInput::brandk},
-                                     {25, "brandb", &DesignInput::brandb},
-                                     {26, "kutak", &DesignInput::kutak},
-                                     {27, "reservedValue", &DesignInput::reservedValue},
-                                     {28, "overhojning", &DesignInput::overhojning},
-                                     {29, "initiell", &DesignInput::initiell},
-                                     {30, "tillkommande", &DesignInput::tillkommande},
-                                     {31, "brukskomb", &DesignInput::brukskomb},
-                                     {32, "nllast", &DesignInput::nllast}};
-
-void readLineLoads(const Columns& file, DesignInput& c) {
-    if (c.nllast < 0 || c.nllast > kLineLoads)
-        throw CaseError("Rad 32: antal linjelaster nllast = " + std::to_string(c.nllast) +
-                        " ska vara 0 till 5.");
-    for (int i = 1; i <= kLineLoads; ++i) {
-        const int number = 32 + i;
-        auto& load = c.lineLoads[static_cast<std::size_t>(i - 1)];
-        if (i <= c.nllast) {
-            const auto index = static_cast<std::size_t>(i);
-            load = LineLoad{file.wholeCell(number, 1, 3, indexed("llfnr", index)),
-                            file.realCell(number, 4, 7, indexed("avst", index)),
-                            file.realCell(number, 11, 7, indexed("lllast", index))};
-        } else {
-            const auto span = readWhole(file.cellText(number, 1, 3));
-            const auto distance = readNumber(file.cellText(number, 4, 7));
-            const auto value = readNumber(file.cellText(number, 11, 7));
-            if (span && distance && value) load = LineLoad{*span, *distance, *value};
-        }
-    }
-}
 
 } // namespace
 
-std::vector<std::string_view> splitLines(std::string_view bytes) {
-    std::vector<std::string_view> lines;
-    while (!bytes.empty()) {
-        const auto end = bytes.find_first_of("\r\n");
-        lines.push_back(bytes.substr(0, end));
-        if (end == std::string_view::npos) break;
-        bytes.remove_prefix(end + (bytes.substr(end).starts_with("\r\n") ? 2 : 1));
+CaseOnFile readCase(const Bytes& bytes) {
+    CaseOnFile found;
+    SequentialText text(bytes);
+    LineReader reader(found);
+    int number = 0;
+    for (const CaseLine& line : caseLines) {
+        ++number;
+        if (text.atEnd())
+            throw CaseError("Indatafilen är avkortad: rad " + std::to_string(number) + " av 37 saknas.");
+        reader.read(number, line, text.readLine());
     }
-    return lines;
+    return found;
 }
 
-DesignInput readCase(std::string_view bytes) {
-    const Columns file{splitLines(bytes)};
-    DesignInput c;
-    c.name = file.line(1);
-    c.title = file.line(2);
-    readGeometry(file, c);
-    readLoads(file, c);
-    for (const auto& line : kWholeLines)
-        c.*line.value = file.whole(line.number, line.field);
-    readLineLoads(file, c);
-    return c;
-}
-
-} // namespace varnowb
+} // namespace varno::engine

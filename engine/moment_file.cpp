@@ -1,18 +1,19 @@
 #include "engine/moment_file.h"
 
-#include "engine/numbers.h"
+#include "base/numbers.h"
 
-namespace varnowb {
+namespace varno::engine {
+
 namespace {
 
-constexpr int kDecimals = 6;
-constexpr std::size_t kPerLine = 7; // three lines for the 21 moments of a span
+constexpr std::string_view pattern = "0.000000";
+constexpr std::size_t perLine = 7; // three lines for the 21 moments of a span
 
 void appendCurve(std::string& text, const std::vector<double>& dx, const std::vector<Curve>& curves) {
     for (std::size_t i = 0; i < curves.size(); ++i) {
-        text += fixed(dx[i], kDecimals) + "\r\n";
+        text += formatNumber(dx[i], pattern) + "\r\n";
         for (std::size_t k = 0; k < curves[i].size(); ++k)
-            text += fixed(curves[i][k], kDecimals) + ((k + 1) % kPerLine == 0 ? "\r\n" : ",");
+            text += formatNumber(curves[i][k], pattern) + ((k + 1) % perLine == 0 ? "\r\n" : ",");
     }
 }
 
@@ -25,4 +26,4 @@ std::string momentFile(const Envelope& result) {
     return text;
 }
 
-} // namespace varnowb
+} // namespace varno::engine

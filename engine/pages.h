@@ -1,49 +1,52 @@
-// The result file's pages.
 #pragma once
 
 #include <string>
 #include <string_view>
 #include <vector>
 
-namespace varnowb {
+#include "base/text.h"
 
-constexpr std::size_t kPageLines = 70; // with the line that ends the page
-constexpr std::size_t kPageWidth = 78; // characters of fixed pitch
+// The result file's pages.
+//
+// The front-end shows a result file by undoing the DOS letters, after each line it has read, for one more occurrence
+// of each of the six. So a line that holds the same letter twice would be shown with a wrong sign in it: no line that
+// this program composes may do so.
 
-// Lines that stay together on a page, as bytes of the DOS code page.
+namespace varno::engine {
+
+inline constexpr std::size_t pageLines = 70; ///< with the line that ends the page
+inline constexpr std::size_t pageWidth = 78; ///< characters of fixed pitch
+
+/// Lines that stay together on a page.
 class Block {
   public:
-    // UTF-8; each of the six Swedish letters at most once (see letters.h).
+    /// UTF-8; each of the six Swedish letters at most once.
     Block& add(std::string_view utf8 = {});
-    // A text of the user's: `label` in UTF-8, without Swedish letters, then the bytes as they stand in the
-    // input, save that control characters and "^", which would end the page, are blanked and the rest is cut
-    // at the page width.
+    /// A text of the user's: `label`, without Swedish letters, then the bytes as they stand in the input, save that
+    /// control characters and "^", which would end the page, are blanked and the rest is cut at the page width.
     Block& addBytes(std::string_view label, std::string_view bytes);
 
-    const std::vector<std::string>& lines() const { return lines_; }
+    const std::vector<Bytes>& lines() const { return lines_; }
 
   private:
-    std::vector<std::string> lines_;
+    std::vector<Bytes> lines_;
 };
 
 class Pages {
   public:
-    // `head` opens every page but the first.
+    /// `head` opens every page but the first.
     explicit Pages(Block head) : head_(std::move(head)) {}
 
-    // Puts the block on this page, or on the next one when it does not fit.
+    /// Puts the block on this page, or on the next one when it does not fit.
     void add(const Block& block);
-    void newPage();
+    void newPage() { pages_.push_back(head_.lines()); }
 
-    // Lines end with CR LF; a line holding only "^" ends every page but the last.
-    std::string text() const;
+    /// Lines end with CR LF; a line holding only "^" ends every page but the last.
+    Bytes text() const;
 
   private:
     Block head_;
-    std::vector<std::vector<std::string>> pages_{1};
+    std::vector<std::vector<Bytes>> pages_{1};
 };
 
-// `text` (UTF-8) filled with blanks to `width` characters.
-std::string padded(std::string_view text, std::size_t width);
-
-} // namespace varnowb
+} // namespace varno::engine

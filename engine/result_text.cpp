@@ -1,14 +1,14 @@
 #include "engine/result_text.h"
 
-#include "engine/case_check.h"
+#include "engine/columns.h"
 #include "engine/input_text.h"
-#include "engine/numbers.h"
 #include "engine/pages.h"
 
-namespace varnowb {
+namespace varno::engine {
+
 namespace {
 
-// No line of this file's texts may hold the same Swedish letter twice; see letters.h.
+// No line of this file's texts may hold the same Swedish letter twice; see pages.h.
 
 Block firstHead() {
     Block block;
@@ -18,16 +18,17 @@ Block firstHead() {
     return block.add();
 }
 
-Block assumptions(const DesignInput& c, const Envelope& result) {
+Block assumptions(const DesignCase& c, const Envelope& result) {
     Block block;
     block.add("ANTAGANDEN").add();
     block.add("Linjärelastisk kontinuerlig balk med konstant styvhet, strimla 1 m bred.");
     block.add("Upplag i punkter vid fackens ändar; upplagsbredden inverkar bara på kurvorna");
     block.add("i momk.dat.");
-    block.add("Permanent last: alltid i alla fack, faktor lambdaG = " + fitted(c.lambdaG, 8, 3) + ".");
+    block.add("Permanent last: alltid i alla fack, faktor lambdaG = " + fitted(*c.lambdaG(c.loadCode), 8, 3) +
+              ".");
     block.add("Egentyngd tillkommer inte, permanent last tas som inmatad.");
-    block.add("Variabel last: till eller från i varje fack, faktor lambdaQ = " + fitted(c.lambdaQ, 8, 3) +
-              ",");
+    block.add("Variabel last: till eller från i varje fack, faktor lambdaQ = " +
+              fitted(*c.lambdaQ(c.loadCode), 8, 3) + ",");
     block.add("alla " + std::to_string(result.patterns) + " kombinationer ingår.");
     block.add("Konsol bär samma last som facket intill och belastas samtidigt med det.");
     block.add("Linjelaster: alltid, faktor 1.");
@@ -36,38 +37,34 @@ Block assumptions(const DesignInput& c, const Envelope& result) {
     return block.add("positiv uppåt. Max och min avser alla lastkombinationer ovan.");
 }
 
-std::string right(std::string text, std::size_t width) {
-    return text.size() < width ? std::string(width - text.size(), ' ') + text : text;
-}
-
 // One row for each support, with its position from the slab's left end.
-Block supportTable(const char* heading, const DesignInput& c, const std::vector<Range>& ranges) {
+Block supportTable(const char* heading, const DesignCase& c, const std::vector<Range>& ranges) {
     Block block;
     block.add().add(heading).add();
     block.add("  stöd       x (m)           max           min");
     double x = c.konsv;
-    for (std::size_t i = 0; i < ranges.size(); ++i) {
-        block.add(right(std::to_string(i), 6) + cell(x, 12, 3) + cell(ranges[i].max, 14, 2) +
-                  cell(ranges[i].min, 14, 2));
-        if (i < c.spv.size()) x += c.spv[i];
+    for (int i = 0; i <= c.nfack; ++i) {
+        if (i > 0) x += c.spv(i);
+        const Range& range = ranges[static_cast<std::size_t>(i)];
+        block.add(cell(i, 6) + cell(x, 12, 3) + cell(range.max, 14, 2) + cell(range.min, 14, 2));
     }
     return block;
 }
 
 std::string placed(const FieldMoment& field) {
-    const char* place = field.place == Place::ZeroShear   ? "V = 0"
-                        : field.place == Place::UnderLoad ? "linjelast"
+    const char* place = field.place == Place::zeroShear   ? "V = 0"
+                        : field.place == Place::underLoad ? "linjelast"
                                                           : "upplag";
-    return cell(field.moment, 14, 2) + cell(field.x, 10, 3) + "  " + padded(place, 9);
+    return cell(field.moment, 14, 2) + cell(field.x, 10, 3) + "  " + left(place, 9);
 }
 
 Block fieldTable(const Envelope& result) {
     Block block;
     block.add().add("FÄLTMOMENT (kNm/m)").add();
     block.add("  fack           max     x (m)                       min     x (m)");
-    for (std::size_t i = 0; i < result.field.size(); ++i)
-        block.add(right(std::to_string(i + 1), 6) + placed(result.field[i].max) +
-                  placed(result.field[i].min));
+    int span = 0;
+    for (const FieldMoments& field : result.field)
+        block.add(cell(++span, 6) + placed(field.max) + placed(field.min));
     block.add("x från fackets vänstra stöd. Momentet har sitt max eller min:");
     block.add("V = 0       utan tvärkraft");
     block.add("linjelast   under en linjelast, sidorna om lasten med olika tecken på V");
@@ -76,9 +73,10 @@ Block fieldTable(const Envelope& result) {
 
 } // namespace
 
-std::string resultText(const DesignInput& c, const Envelope& result) {
-    Pages pages{Block{}.addBytes("EXEMPELMOTOR varnowb    ", c.name).add()};
-    pages.add(firstHead().addBytes("Namn    ", c.name).addBytes("Rubrik  ", c.title).add());
+Bytes resultText(const CaseOnFile& file, const Envelope& result) {
+    const DesignCase& c = file.values;
+    Pages pages(Block().addBytes("EXEMPELMOTOR varnowb    ", file.name).add());
+    pages.add(firstHead().addBytes("Namn    ", file.name).addBytes("Rubrik  ", file.title).add());
     addInput(pages, c);
     pages.newPage();
     pages.add(assumptions(c, result));
@@ -88,10 +86,10 @@ std::string resultText(const DesignInput& c, const Envelope& result) {
     return pages.text();
 }
 
-std::string refusalText(std::string_view name, std::string_view reason) {
-    Pages pages{Block{}};
+Bytes refusalText(std::string_view name, std::string_view reason) {
+    Pages pages{Block()};
     pages.add(firstHead().addBytes("Namn    ", name).add());
-    pages.add(Block{}.add("FEL. " + std::string{reason}).add().add("Inga moment kunde tas fram."));
+    pages.add(Block().add("FEL. " + std::string(reason)).add().add("Inga moment kunde tas fram."));
     return pages.text();
 }
 
@@ -115,4 +113,4 @@ std::string_view helpText() {
            "         3 en fil kunde inte skrivas\n";
 }
 
-} // namespace varnowb
+} // namespace varno::engine

@@ -1,22 +1,20 @@
 #pragma once
 
+#include <string_view>
+
 #include "engine/case_reader.h"
 #include "engine/envelope.h"
 
-#include <string>
-#include <string_view>
+namespace varno::engine {
 
-namespace varnowb {
+/// The result file: bytes of the DOS code page, lines ended by CR LF, pages as pages.h says, six at the most. It opens
+/// by calling itself the work of a sample engine.
+Bytes resultText(const CaseOnFile& file, const Envelope& result);
 
-// The result file: bytes of the DOS code page, lines ended by CR LF, pages as pages.h says, six at the most.
-// It opens by calling itself the work of a sample engine.
-std::string resultText(const DesignInput& c, const Envelope& result);
+/// The result file of a case that makes no sense: `name` as the bytes of the case's first line, `reason` in UTF-8.
+Bytes refusalText(std::string_view name, std::string_view reason);
 
-// The result file of a case that makes no sense: `name` as the bytes of the case's first line, `reason` in
-// UTF-8.
-std::string refusalText(std::string_view name, std::string_view reason);
-
-// What "varnowb --help" prints (UTF-8, lines ended by LF).
+/// What "varnowb --help" prints (UTF-8, lines ended by LF).
 std::string_view helpText();
 
-} // namespace varnowb
+} // namespace varno::engine

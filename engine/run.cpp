@@ -1,95 +1,159 @@
 #include "engine/run.h"
 
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "base/run_time_error.h"
+#include "base/sequential_text.h"
 #include "engine/case_check.h"
-#include "engine/case_reader.h"
-#include "engine/envelope.h"
-#include "engine/files.h"
-#include "engine/letters.h"
 #include "engine/moment_file.h"
 #include "engine/result_text.h"
 
-#include <algorithm>
-#include <cmath>
+namespace varno::engine {
 
-namespace varnowb {
 namespace {
 
-constexpr const char* kInput = "~indata~.tmp";
-constexpr const char* kMoments = "momk.dat";
-constexpr const char* kNewResult = "~varnowb.tm1";
-constexpr const char* kNewMoments = "~varnowb.tm2";
+constexpr const char* momentsName = "momk.dat";
 
-// Well inside what the front-end's single-precision numbers can hold; no floor slab comes near it.
-constexpr double kLargestResult = 1e12;
+// Well inside what the front-end's singles can hold; no floor slab comes near it.
+constexpr double largestResult = 1e12;
 
-Envelope calculate(const DesignInput& c) {
-    DesignLoads loads;
-    for (std::size_t i = 0; i < c.spv.size(); ++i) {
-        loads.permanent.push_back(c.lambdaG * c.plast[i]);
-        loads.variable.push_back(c.lambdaQ * c.flast[i]);
+// A complete file that waits to take the place of another; removed when it does not come to that.
+class Draft {
+  public:
+    Draft(FileCalls& files, const char* name) : files_(files), name_(name), output_(files.create(name)) {}
+    ~Draft() {
+        output_.reset();
+        try {
+            if (!placed_) files_.remove(name_);
+        } catch (const RunTimeError&) {
+            // It stays behind; the files that count are whole.
+        }
     }
-    for (std::size_t i = 0; i < static_cast<std::size_t>(c.nllast); ++i)
-        loads.lines.push_back({lineLoadPosition(c, *c.lineLoads[i]), c.lineLoads[i]->lllast});
-    return envelope({c.konsv, c.konsh, c.spv}, loads, c.upl);
-}
+    Draft(const Draft&) = delete;
+    Draft& operator=(const Draft&) = delete;
+
+    void write(std::string_view bytes) {
+        output_->write(bytes);
+        output_->flush();
+        output_->close();
+    }
+    void replace(const std::string& target) {
+        files_.replace(name_, target);
+        placed_ = true;
+    }
+
+  private:
+    FileCalls& files_;
+    std::string name_;
+    std::unique_ptr<FileCalls::Output> output_;
+    bool placed_ = false;
+};
 
 void checkResult(const Envelope& result) {
     const auto check = [](double value) {
-        if (!(std::abs(value) <= kLargestResult))
+        if (!(std::abs(value) <= largestResult))
             throw CaseError("Indata ger orimligt stora moment eller reaktioner.");
     };
-    for (const auto* ranges : {&result.supportMoment, &result.reaction})
-        for (const auto& range : *ranges) {
+    for (const auto* ranges : {&result.supportMoment, &result.reaction}) {
+        for (const Range& range : *ranges) {
             check(range.max);
             check(range.min);
         }
-    for (const auto* curves : {&result.upper, &result.lower})
-        for (const auto& curve : *curves)
-            std::for_each(curve.begin(), curve.end(), check);
-    for (const auto& field : result.field) {
+    }
+    for (const auto* curves : {&result.upper, &result.lower}) {
+        for (const Curve& curve : *curves)
+            std::ranges::for_each(curve, check);
+    }
+    for (const FieldMoments& field : result.field) {
         check(field.max.moment);
         check(field.min.moment);
     }
 }
 
-ExitCode refuse(const std::string& resultFile, std::string_view name, std::string_view reason) {
-    if (!writeFile(kNewResult, refusalText(name, reason)) || !replaceFile(kNewResult, resultFile))
-        return kNotWritten;
-    return removeFile(kMoments) ? kSenseless : kNotWritten;
+struct Outcome {
+    ExitCode code;
+    Bytes result;
+    Bytes moments; ///< empty for a case that makes no sense
+};
+
+Outcome outcomeOf(const Bytes& bytes, const Bytes& name) {
+    try {
+        const CaseOnFile file = readCase(bytes);
+        checkCase(file.values);
+        const Envelope result = calculate(file.values);
+        checkResult(result);
+        return {calculated, resultText(file, result), momentFile(result)};
+    } catch (const CaseError& error) {
+        return {senseless, refusalText(name, error.what()), {}};
+    }
 }
 
-ExitCode finish(const std::string& resultFile, const DesignInput& c, const Envelope& result) {
-    if (!writeFile(kNewMoments, momentFile(result))) return kNotWritten;
-    if (!writeFile(kNewResult, resultText(c, result))) {
-        removeFile(kNewMoments);
-        return kNotWritten;
-    }
+void write(FileCalls& files, const Outcome& outcome, const std::string& resultName) {
+    std::optional<Draft> newMoments;
+    if (!outcome.moments.empty()) newMoments.emplace(files, "~varnowb.tm2").write(outcome.moments);
+    Draft newResult(files, "~varnowb.tm1");
+    newResult.write(outcome.result);
     // The result file last: it is by this file that a run is judged.
-    if (!replaceFile(kNewMoments, kMoments)) {
-        removeFile(kNewResult);
-        return kNotWritten;
-    }
-    return replaceFile(kNewResult, resultFile) ? kCalculated : kNotWritten;
+    if (newMoments) newMoments->replace(momentsName);
+    newResult.replace(resultName);
+    if (!newMoments && files.exists(momentsName)) files.remove(momentsName);
+}
+
+// "NUL.res" would be the device, whatever follows the first point.
+bool isDevice(std::string_view name) {
+    const std::string stem = upperCase(trimBlanks(name.substr(0, name.find('.'))));
+    constexpr std::array<std::string_view, 4> devices{"CON", "PRN", "AUX", "NUL"};
+    if (std::ranges::find(devices, stem) != devices.end()) return true;
+    return stem.size() == 4 && (stem.starts_with("COM") || stem.starts_with("LPT")) && stem[3] >= '1' &&
+           stem[3] <= '9';
 }
 
 } // namespace
 
-ExitCode run() {
-    const auto bytes = readFile(kInput);
-    if (!bytes) return kNoCase;
-    const auto lines = splitLines(*bytes);
-    if (lines.empty()) return kNoCase;
-    const auto resultFile = resultFileName(lines.front());
-    if (!resultFile) return kNoCase;
+Envelope calculate(const DesignCase& c) {
+    Beam beam{c.konsv, c.konsh, {}};
+    DesignLoads loads;
+    std::vector<double> upl{c.upl(0)};
+    for (int i = 1; i <= c.nfack; ++i) {
+        beam.spv.push_back(c.spv(i));
+        loads.permanent.push_back(*c.lambdaG(c.loadCode) * c.plast(i));
+        loads.variable.push_back(*c.lambdaQ(c.loadCode) * c.flast(i));
+        upl.push_back(c.upl(i));
+    }
+    for (int i = 1; i <= c.nllast; ++i)
+        loads.lines.push_back({lineLoadPosition(c, i), c.lllast(i)});
+    return envelope(beam, loads, upl);
+}
+
+std::optional<std::string> resultFileName(const Bytes& firstLine) {
+    const auto forbidden = [](char c) {
+        return static_cast<unsigned char>(c) < 0x20 ||
+               std::string_view("\\/:*?\"<>|").find(c) != std::string_view::npos;
+    };
+    if (trimBlanks(firstLine).empty() || std::ranges::any_of(firstLine, forbidden) || isDevice(firstLine))
+        return {};
+    return decodeWindows1252(VARNO1::fromOemLetters(firstLine)) + ".res";
+}
+
+ExitCode run(FileCalls& files) {
+    Bytes bytes;
     try {
-        const auto c = readCase(*bytes);
-        checkCase(c);
-        const auto result = calculate(c);
-        checkResult(result);
-        return finish(*resultFile, c, result);
-    } catch (const CaseError& error) {
-        return refuse(*resultFile, lines.front(), error.what());
+        bytes = files.readAll("~indata~.tmp");
+    } catch (const RunTimeError&) {
+        return noCase;
+    }
+    const Bytes name = bytes.empty() ? Bytes() : SequentialText(bytes).readLine();
+    const auto resultName = resultFileName(name);
+    if (!resultName) return noCase;
+    const Outcome outcome = outcomeOf(bytes, name);
+    try {
+        write(files, outcome, *resultName);
+        return outcome.code;
+    } catch (const RunTimeError&) {
+        return notWritten;
     }
 }
 
-} // namespace varnowb
+} // namespace varno::engine

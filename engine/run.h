@@ -1,18 +1,31 @@
 #pragma once
 
-namespace varnowb {
+#include <optional>
+#include <string>
+
+#include "base/file_calls.h"
+#include "engine/envelope.h"
+#include "model/design_case.h"
+
+namespace varno::engine {
 
 enum ExitCode {
-    kCalculated = 0,
-    kSenseless = 1, // the result file says why; there is no moment curve file
-    kNoCase = 2,    // nothing to call a result file by; nothing is written
-    kNotWritten =
-        3, // a file could not be written or replaced, or a moment curve file no longer true not removed
+    calculated = 0,
+    senseless = 1,  ///< the result file says why; there is no moment curve file
+    noCase = 2,     ///< nothing to call a result file by; nothing is written
+    notWritten = 3, ///< a file could not be written or replaced, or moment curves no longer true not removed
 };
 
-// Calculates the case in "~indata~.tmp": reads it from the current folder and leaves the result file and
-// "momk.dat" there. Each is written under another name first and takes the place of an older one only when it
-// is complete.
-ExitCode run();
+/// Calculates the case in "~indata~.tmp": reads it from the current folder and leaves the result file and "momk.dat"
+/// there. Each is written under another name first and takes the place of an older one only when both are complete.
+ExitCode run(FileCalls& files);
 
-} // namespace varnowb
+/// The moments and reactions of a case that makes sense.
+Envelope calculate(const DesignCase& c);
+
+/// The result file of a case: the text of its first line and ".res", in UTF-8. Nothing when no file can have that name
+/// in the current folder: it is empty or blank, names a device or a path, or holds a character that Windows forbids in
+/// file names.
+std::optional<std::string> resultFileName(const Bytes& firstLine);
+
+} // namespace varno::engine

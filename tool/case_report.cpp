@@ -4,6 +4,7 @@
 #include <array>
 
 #include "base/numbers.h"
+#include "base/text.h"
 #include "tool/case_words.h"
 #include "tool/text_table.h"
 
@@ -42,7 +43,7 @@ class Section {
 
     void add(const std::string& caption, const std::string& value) {
         constexpr std::size_t captionWidth = 30;
-        const std::size_t width = widthOf(caption);
+        const std::size_t width = characterCount(caption);
         const std::size_t gap = width < captionWidth ? captionWidth - width : 1;
         text_ += withoutTrailingBlanks(std::string(indent, ' ') + caption + std::string(gap, ' ') + value);
         text_ += '\n';
@@ -57,7 +58,8 @@ class Section {
 
 std::string heading(const CaseFile& loaded) {
     const std::string name = loaded.name + ".IND";
-    return name + "\n" + std::string(widthOf(name), '=') + "\n" + withoutTrailingBlanks(loaded.title) + "\n";
+    return name + "\n" + std::string(characterCount(name), '=') + "\n" + withoutTrailingBlanks(loaded.title) +
+           "\n";
 }
 
 std::string rules(const DesignCase& c) {

@@ -6,9 +6,6 @@
 
 namespace varno::tool {
 
-/// How many columns a UTF-8 text takes: one per character.
-std::size_t widthOf(std::string_view utf8);
-
 /// A table of plain text: a head of one or more rows, columns as wide as their widest cell, right-aligned,
 /// two blanks between them. No line ends with a blank.
 class TextTable {

@@ -8,8 +8,8 @@
 namespace {
 
 struct Example {
-    varnowb::Beam beam;
-    varnowb::DesignLoads loads;
+    varno::engine::Beam beam;
+    varno::engine::DesignLoads loads;
     std::vector<double> upl;
 };
 
@@ -31,15 +31,15 @@ Example example(std::size_t spans) {
 void allPatterns(benchmark::State& state) {
     const auto e = example(static_cast<std::size_t>(state.range(0)));
     for (auto _ : state)
-        benchmark::DoNotOptimize(varnowb::envelope(e.beam, e.loads, e.upl));
+        benchmark::DoNotOptimize(varno::engine::envelope(e.beam, e.loads, e.upl));
 }
 BENCHMARK(allPatterns)->DenseRange(1, 10)->Unit(benchmark::kMicrosecond);
 
 void momentFileOfTenSpans(benchmark::State& state) {
     const auto e = example(10);
-    const auto result = varnowb::envelope(e.beam, e.loads, e.upl);
+    const auto result = varno::engine::envelope(e.beam, e.loads, e.upl);
     for (auto _ : state)
-        benchmark::DoNotOptimize(varnowb::momentFile(result));
+        benchmark::DoNotOptimize(varno::engine::momentFile(result));
 }
 BENCHMARK(momentFileOfTenSpans)->Unit(benchmark::kMicrosecond);
 

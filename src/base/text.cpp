@@ -155,6 +155,11 @@ std::string upperCase(std::string_view utf8) {
     return out;
 }
 
+std::size_t characterCount(std::string_view utf8) {
+    const auto begins = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; };
+    return static_cast<std::size_t>(std::ranges::count_if(utf8, begins));
+}
+
 std::string trimBlanks(std::string_view text) {
     const auto begin = text.find_first_not_of(' ');
     if (begin == std::string_view::npos) return {};

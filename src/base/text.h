@@ -25,6 +25,9 @@ std::string utf8FromUtf16(std::u16string_view utf16);
 /// code page (ß, µ, ƒ) stay.
 std::string upperCase(std::string_view utf8);
 
+/// How many characters a UTF-8 text has, which in a fixed pitch is how wide it is.
+std::size_t characterCount(std::string_view utf8);
+
 /// The text without blanks at either end.
 std::string trimBlanks(std::string_view text);
 

@@ -11,13 +11,8 @@
 #include <numeric>
 #include <random>
 
-namespace varnowb {
+namespace varno::engine {
 namespace {
-
-Loading uniform(const Beam& beam, std::vector<double> q, double qv = 0, double qh = 0,
-                const std::vector<PointLoad>& points = {}) {
-    return {std::move(q), qv, qh, place(beam, points)};
-}
 
 SpanState spanOf(const Beam& beam, const Loading& loading, const std::vector<double>& m, std::size_t i) {
     return {beam.spv[i], loading.q[i], m[i], m[i + 1], loading.points.span[i]};
@@ -35,42 +30,40 @@ struct Solved {
 };
 
 Solved solved(const Beam& beam, std::vector<double> q, const std::vector<PointLoad>& points = {}) {
-    const double qv = q.front();
-    const double qh = q.back();
-    return Solved{beam, uniform(beam, std::move(q), qv, qh, points)};
+    return Solved{beam, {std::move(q), place(beam, points)}};
 }
 
-constexpr double kSmall = 1e-10;
+constexpr double small = 1e-10;
 
 TEST(EngineBeam, SimpleSpanWithUniformLoad) {
     const double q = 7, l = 5.4;
     const auto s = solved({0, 0, {l}}, {q});
     const auto field = s.field(0);
-    EXPECT_NEAR(field.max.moment, q * l * l / 8, kSmall);
-    EXPECT_NEAR(field.max.x, l / 2, kSmall);
-    EXPECT_EQ(field.max.place, Place::ZeroShear);
-    EXPECT_NEAR(field.min.moment, 0, kSmall);
-    EXPECT_EQ(field.min.place, Place::Support);
-    EXPECT_NEAR(s.forces[0], q * l / 2, kSmall);
-    EXPECT_NEAR(s.forces[1], q * l / 2, kSmall);
-    EXPECT_NEAR(momentAt(spanOf(s.beam, s.loading, s.moments, 0), l / 4), 3 * q * l * l / 32, kSmall);
+    EXPECT_NEAR(field.max.moment, q * l * l / 8, small);
+    EXPECT_NEAR(field.max.x, l / 2, small);
+    EXPECT_EQ(field.max.place, Place::zeroShear);
+    EXPECT_NEAR(field.min.moment, 0, small);
+    EXPECT_EQ(field.min.place, Place::support);
+    EXPECT_NEAR(s.forces[0], q * l / 2, small);
+    EXPECT_NEAR(s.forces[1], q * l / 2, small);
+    EXPECT_NEAR(momentAt(spanOf(s.beam, s.loading, s.moments, 0), l / 4), 3 * q * l * l / 32, small);
 }
 
 TEST(EngineBeam, SimpleSpanWithPointLoadInTheMiddle) {
     const double p = 12, l = 6;
     const auto s = solved({0, 0, {l}}, {0}, {{l / 2, p}});
-    EXPECT_NEAR(s.field(0).max.moment, p * l / 4, kSmall);
-    EXPECT_NEAR(s.field(0).max.x, l / 2, kSmall);
-    EXPECT_EQ(s.field(0).max.place, Place::UnderLoad);
+    EXPECT_NEAR(s.field(0).max.moment, p * l / 4, small);
+    EXPECT_NEAR(s.field(0).max.x, l / 2, small);
+    EXPECT_EQ(s.field(0).max.place, Place::underLoad);
 }
 
 TEST(EngineBeam, SimpleSpanWithPointLoadOffCentre) {
     const double p = 12, l = 6, a = 1.7, b = l - a;
     const auto s = solved({0, 0, {l}}, {0}, {{a, p}});
-    EXPECT_NEAR(s.field(0).max.moment, p * a * b / l, kSmall);
-    EXPECT_NEAR(s.field(0).max.x, a, kSmall);
-    EXPECT_NEAR(s.forces[0], p * b / l, kSmall);
-    EXPECT_NEAR(s.forces[1], p * a / l, kSmall);
+    EXPECT_NEAR(s.field(0).max.moment, p * a * b / l, small);
+    EXPECT_NEAR(s.field(0).max.x, a, small);
+    EXPECT_NEAR(s.forces[0], p * b / l, small);
+    EXPECT_NEAR(s.forces[1], p * a / l, small);
 }
 
 TEST(EngineBeam, SimpleSpanWithBothLoads) {
@@ -80,93 +73,93 @@ TEST(EngineBeam, SimpleSpanWithBothLoads) {
     const double r = q * l / 2 + p * (l - a) / l;
     const double x = (r - p) / q;
     const auto s = solved({0, 0, {l}}, {q}, {{a, p}});
-    EXPECT_EQ(s.field(0).max.place, Place::ZeroShear);
-    EXPECT_NEAR(s.field(0).max.x, x, kSmall);
-    EXPECT_NEAR(s.field(0).max.moment, r * x - p * (x - a) - q * x * x / 2, kSmall);
+    EXPECT_EQ(s.field(0).max.place, Place::zeroShear);
+    EXPECT_NEAR(s.field(0).max.x, x, small);
+    EXPECT_NEAR(s.field(0).max.moment, r * x - p * (x - a) - q * x * x / 2, small);
 }
 
 TEST(EngineBeam, TwoEqualSpans) {
     const double q = 4, l = 5;
     const auto s = solved({0, 0, {l, l}}, {q, q});
-    EXPECT_NEAR(s.moments[1], -q * l * l / 8, kSmall);
-    EXPECT_NEAR(s.field(0).max.moment, 9 * q * l * l / 128, kSmall);
-    EXPECT_NEAR(s.field(0).max.x, 3 * l / 8, kSmall);
-    EXPECT_NEAR(s.field(1).max.x, 5 * l / 8, kSmall);
-    EXPECT_NEAR(s.forces[0], 3 * q * l / 8, kSmall);
-    EXPECT_NEAR(s.forces[1], 10 * q * l / 8, kSmall);
+    EXPECT_NEAR(s.moments[1], -q * l * l / 8, small);
+    EXPECT_NEAR(s.field(0).max.moment, 9 * q * l * l / 128, small);
+    EXPECT_NEAR(s.field(0).max.x, 3 * l / 8, small);
+    EXPECT_NEAR(s.field(1).max.x, 5 * l / 8, small);
+    EXPECT_NEAR(s.forces[0], 3 * q * l / 8, small);
+    EXPECT_NEAR(s.forces[1], 10 * q * l / 8, small);
 }
 
 TEST(EngineBeam, TwoEqualSpansOneLoaded) {
     const double q = 4, l = 5;
     const auto s = solved({0, 0, {l, l}}, {q, 0});
-    EXPECT_NEAR(s.moments[1], -q * l * l / 16, kSmall);
-    EXPECT_NEAR(s.field(0).max.moment, 49 * q * l * l / 512, kSmall);
-    EXPECT_NEAR(s.field(0).max.x, 7 * l / 16, kSmall);
-    EXPECT_NEAR(s.forces[2], -q * l / 16, kSmall);
-    EXPECT_EQ(s.field(1).max.place, Place::Support);
+    EXPECT_NEAR(s.moments[1], -q * l * l / 16, small);
+    EXPECT_NEAR(s.field(0).max.moment, 49 * q * l * l / 512, small);
+    EXPECT_NEAR(s.field(0).max.x, 7 * l / 16, small);
+    EXPECT_NEAR(s.forces[2], -q * l / 16, small);
+    EXPECT_EQ(s.field(1).max.place, Place::support);
 }
 
 TEST(EngineBeam, TwoEqualSpansWithPointLoads) {
     const double p = 16, l = 4;
     const auto one = solved({0, 0, {l, l}}, {0, 0}, {{l / 2, p}});
-    EXPECT_NEAR(one.moments[1], -3 * p * l / 32, kSmall);
-    EXPECT_NEAR(one.field(0).max.moment, 13 * p * l / 64, kSmall);
-    EXPECT_NEAR(one.forces[0], 13 * p / 32, kSmall);
-    EXPECT_NEAR(one.forces[1], 22 * p / 32, kSmall);
-    EXPECT_NEAR(one.forces[2], -3 * p / 32, kSmall);
+    EXPECT_NEAR(one.moments[1], -3 * p * l / 32, small);
+    EXPECT_NEAR(one.field(0).max.moment, 13 * p * l / 64, small);
+    EXPECT_NEAR(one.forces[0], 13 * p / 32, small);
+    EXPECT_NEAR(one.forces[1], 22 * p / 32, small);
+    EXPECT_NEAR(one.forces[2], -3 * p / 32, small);
     const auto both = solved({0, 0, {l, l}}, {0, 0}, {{l / 2, p}, {l + l / 2, p}});
-    EXPECT_NEAR(both.moments[1], -3 * p * l / 16, kSmall);
-    EXPECT_NEAR(both.field(1).max.moment, 5 * p * l / 32, kSmall);
+    EXPECT_NEAR(both.moments[1], -3 * p * l / 16, small);
+    EXPECT_NEAR(both.field(1).max.moment, 5 * p * l / 32, small);
 }
 
 TEST(EngineBeam, PointLoadAnywhereInTheFirstOfTwoSpans) {
     // M1 = -P a b (l + a) / (4 l^2) with a from the outer support.
     const double p = 9, l = 5, a = 1.3, b = l - a;
     EXPECT_NEAR(solved({0, 0, {l, l}}, {0, 0}, {{a, p}}).moments[1], -p * a * b * (l + a) / (4 * l * l),
-                kSmall);
+                small);
     EXPECT_NEAR(solved({0, 0, {l, l}}, {0, 0}, {{2 * l - a, p}}).moments[1],
-                -p * a * b * (l + a) / (4 * l * l), kSmall);
+                -p * a * b * (l + a) / (4 * l * l), small);
 }
 
 TEST(EngineBeam, TwoUnequalSpans) {
     // M1 = -q (l1^3 + l2^3) / (8 (l1 + l2)).
     const double q = 3, l1 = 4, l2 = 6.5;
     EXPECT_NEAR(solved({0, 0, {l1, l2}}, {q, q}).moments[1],
-                -q * (l1 * l1 * l1 + l2 * l2 * l2) / (8 * (l1 + l2)), kSmall);
+                -q * (l1 * l1 * l1 + l2 * l2 * l2) / (8 * (l1 + l2)), small);
 }
 
 TEST(EngineBeam, ThreeEqualSpans) {
     const double q = 1, l = 1;
     const Beam beam{0, 0, {l, l, l}};
     const auto all = solved(beam, {q, q, q});
-    EXPECT_NEAR(all.moments[1], -0.1, kSmall);
-    EXPECT_NEAR(all.moments[2], -0.1, kSmall);
-    EXPECT_NEAR(all.field(0).max.moment, 0.08, kSmall);
-    EXPECT_NEAR(all.field(0).max.x, 0.4, kSmall);
-    EXPECT_NEAR(all.field(1).max.moment, 0.025, kSmall);
-    EXPECT_NEAR(all.forces[0], 0.4, kSmall);
-    EXPECT_NEAR(all.forces[1], 1.1, kSmall);
+    EXPECT_NEAR(all.moments[1], -0.1, small);
+    EXPECT_NEAR(all.moments[2], -0.1, small);
+    EXPECT_NEAR(all.field(0).max.moment, 0.08, small);
+    EXPECT_NEAR(all.field(0).max.x, 0.4, small);
+    EXPECT_NEAR(all.field(1).max.moment, 0.025, small);
+    EXPECT_NEAR(all.forces[0], 0.4, small);
+    EXPECT_NEAR(all.forces[1], 1.1, small);
 
     const auto outer = solved(beam, {q, 0, q});
-    EXPECT_NEAR(outer.moments[1], -0.05, kSmall);
-    EXPECT_NEAR(outer.field(0).max.moment, 0.45 * 0.45 / 2, kSmall); // 0.101
-    EXPECT_NEAR(outer.field(0).max.x, 0.45, kSmall);
+    EXPECT_NEAR(outer.moments[1], -0.05, small);
+    EXPECT_NEAR(outer.field(0).max.moment, 0.45 * 0.45 / 2, small); // 0.101
+    EXPECT_NEAR(outer.field(0).max.x, 0.45, small);
 
     const auto middle = solved(beam, {0, q, 0});
-    EXPECT_NEAR(middle.field(1).max.moment, 0.075, kSmall);
+    EXPECT_NEAR(middle.field(1).max.moment, 0.075, small);
 
     const auto pair = solved(beam, {q, q, 0});
-    EXPECT_NEAR(pair.moments[1], -7.0 / 60, kSmall); // 0.117
-    EXPECT_NEAR(pair.moments[2], -1.0 / 30, kSmall); // 0.033
+    EXPECT_NEAR(pair.moments[1], -7.0 / 60, small); // 0.117
+    EXPECT_NEAR(pair.moments[2], -1.0 / 30, small); // 0.033
 }
 
 TEST(EngineBeam, FourEqualSpans) {
     const auto s = solved({0, 0, {1, 1, 1, 1}}, {1, 1, 1, 1});
-    EXPECT_NEAR(s.moments[1], -3.0 / 28, kSmall);
-    EXPECT_NEAR(s.moments[2], -1.0 / 14, kSmall);
-    EXPECT_NEAR(s.forces[0], 11.0 / 28, kSmall);
-    EXPECT_NEAR(s.forces[1], 32.0 / 28, kSmall);
-    EXPECT_NEAR(s.forces[2], 26.0 / 28, kSmall);
+    EXPECT_NEAR(s.moments[1], -3.0 / 28, small);
+    EXPECT_NEAR(s.moments[2], -1.0 / 14, small);
+    EXPECT_NEAR(s.forces[0], 11.0 / 28, small);
+    EXPECT_NEAR(s.forces[1], 32.0 / 28, small);
+    EXPECT_NEAR(s.forces[2], 26.0 / 28, small);
 }
 
 TEST(EngineBeam, CantileversAndOneSpan) {
@@ -174,32 +167,32 @@ TEST(EngineBeam, CantileversAndOneSpan) {
     // c'.
     const double q = 5, l = 4, c = 1.2;
     const auto s = solved({c, c, {l}}, {q});
-    EXPECT_NEAR(s.moments[0], -q * c * c / 2, kSmall);
-    EXPECT_NEAR(s.moments[1], -q * c * c / 2, kSmall);
-    EXPECT_NEAR(s.field(0).max.moment, q * l * l / 8 - q * c * c / 2, kSmall);
-    EXPECT_NEAR(s.forces[0], q * (c + l / 2), kSmall);
+    EXPECT_NEAR(s.moments[0], -q * c * c / 2, small);
+    EXPECT_NEAR(s.moments[1], -q * c * c / 2, small);
+    EXPECT_NEAR(s.field(0).max.moment, q * l * l / 8 - q * c * c / 2, small);
+    EXPECT_NEAR(s.forces[0], q * (c + l / 2), small);
 }
 
 TEST(EngineBeam, PointLoadsOnTheCantilevers) {
     const double p = 8, c = 1.5, l = 4;
     const auto s = solved({c, 1, {l}}, {0}, {{0, p}, {c + l + 1, 2 * p}});
-    EXPECT_NEAR(s.moments[0], -p * c, kSmall);
-    EXPECT_NEAR(s.moments[1], -2 * p, kSmall);
-    EXPECT_NEAR(s.forces[0] + s.forces[1], 3 * p, kSmall);
-    EXPECT_NEAR(s.forces[0] * l, p * (c + l) - 2 * p, kSmall); // moments about the right support
+    EXPECT_NEAR(s.moments[0], -p * c, small);
+    EXPECT_NEAR(s.moments[1], -2 * p, small);
+    EXPECT_NEAR(s.forces[0] + s.forces[1], 3 * p, small);
+    EXPECT_NEAR(s.forces[0] * l, p * (c + l) - 2 * p, small); // moments about the right support
 }
 
 TEST(EngineBeam, CantileverOfTwoSpans) {
     // Three-moment equation for l, l with M0 = -q c^2 / 2: 4 M1 = -M0 - q l^2 / 2.
     const double q = 2, l = 3, c = 1;
     const auto s = solved({c, 0, {l, l}}, {q, q});
-    EXPECT_NEAR(s.moments[1], (q * c * c / 2 - q * l * l / 2) / 4, kSmall);
+    EXPECT_NEAR(s.moments[1], (q * c * c / 2 - q * l * l / 2) / 4, small);
 }
 
 TEST(EngineBeam, AShortSpanBetweenLongOnesLiftsThroughout) {
     const auto s = solved({0, 0, {8, 1, 8}}, {10, 0, 10});
     const auto field = s.field(1);
-    EXPECT_EQ(field.max.place, Place::Support);
+    EXPECT_EQ(field.max.place, Place::support);
     EXPECT_LT(field.max.moment, 0);
     // Nothing on the middle span: by symmetry the moment is the same all along it.
     EXPECT_NEAR(field.max.moment, field.min.moment, 1e-9);
@@ -208,31 +201,37 @@ TEST(EngineBeam, AShortSpanBetweenLongOnesLiftsThroughout) {
 TEST(EngineBeam, AnUpwardLoadTurnsEverythingRound) {
     const double q = 4, l = 5;
     const auto s = solved({0, 0, {l, l}}, {-q, -q});
-    EXPECT_NEAR(s.field(0).min.moment, -9 * q * l * l / 128, kSmall);
-    EXPECT_NEAR(s.field(0).min.x, 3 * l / 8, kSmall);
-    EXPECT_EQ(s.field(0).min.place, Place::ZeroShear);
-    EXPECT_NEAR(s.field(0).max.moment, q * l * l / 8, kSmall);
-    EXPECT_EQ(s.field(0).max.place, Place::Support);
+    EXPECT_NEAR(s.field(0).min.moment, -9 * q * l * l / 128, small);
+    EXPECT_NEAR(s.field(0).min.x, 3 * l / 8, small);
+    EXPECT_EQ(s.field(0).min.place, Place::zeroShear);
+    EXPECT_NEAR(s.field(0).max.moment, q * l * l / 8, small);
+    EXPECT_EQ(s.field(0).max.place, Place::support);
 }
 
 TEST(EngineBeam, APointLoadOverASupportGoesStraightIntoIt) {
     for (const double x : {0.0, 4.0, 9.0}) {
         const auto s = solved({0, 0, {4, 5}}, {0, 0}, {{x, 10}});
         for (const double moment : s.moments)
-            EXPECT_NEAR(moment, 0, kSmall);
+            EXPECT_NEAR(moment, 0, small);
         for (std::size_t i = 0; i < 3; ++i)
             EXPECT_NEAR(s.forces[i], (x == 0 && i == 0) || (x == 4 && i == 1) || (x == 9 && i == 2) ? 10 : 0,
-                        kSmall);
+                        small);
     }
 }
 
 TEST(EngineBeam, RoundingMakesNoMomentLarger) {
-    EXPECT_FALSE(isLarger(1 + 1e-15, 1));
-    EXPECT_FALSE(isLarger(-1 + 1e-15, -1));
-    EXPECT_FALSE(isLarger(0, 0));
-    EXPECT_TRUE(isLarger(1 + 1e-9, 1));
-    EXPECT_TRUE(isLarger(1e-9, 0));
-    EXPECT_TRUE(isLarger(-1e-9, -1));
+    const auto beats = [](double moment, double best) {
+        FieldMoments found{{best, 1}, {-best, 1}};
+        found.include({{moment, 2}, {-moment, 2}});
+        EXPECT_EQ(found.max.x, found.min.x);
+        return found.max.x == 2;
+    };
+    EXPECT_FALSE(beats(1 + 1e-15, 1));
+    EXPECT_FALSE(beats(-1 + 1e-15, -1));
+    EXPECT_FALSE(beats(0, 0));
+    EXPECT_TRUE(beats(1 + 1e-9, 1));
+    EXPECT_TRUE(beats(1e-9, 0));
+    EXPECT_TRUE(beats(-1e-9, -1));
 }
 
 TEST(EngineBeam, PointLoadsArePlacedByPosition) {
@@ -344,4 +343,4 @@ TEST(EngineBeam, NoSampledMomentBeatsTheExtremes) {
 }
 
 } // namespace
-} // namespace varnowb
+} // namespace varno::engine

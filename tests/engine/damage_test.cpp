@@ -8,10 +8,10 @@
 #include <gtest/gtest.h>
 #include <random>
 
-namespace varnowb {
+namespace varno::engine {
 namespace {
 
-constexpr const char* kInput = "~indata~.tmp";
+constexpr const char* input = "~indata~.tmp";
 
 class Damage {
   public:
@@ -85,8 +85,8 @@ void expectKeptPromises(ExitCode code) {
         EXPECT_LE(onPage, 70U);
     }
     const auto moments = test::read("momk.dat");
-    EXPECT_EQ(moments.has_value(), code == kCalculated);
-    EXPECT_EQ(result->find("FEL. ") != std::string::npos, code == kSenseless);
+    EXPECT_EQ(moments.has_value(), code == calculated);
+    EXPECT_EQ(result->find("FEL. ") != std::string::npos, code == senseless);
     if (!moments) return;
     EXPECT_EQ(moments->find_first_not_of("0123456789.,-\r\n"), std::string::npos);
     const auto ends = std::count(moments->begin(), moments->end(), ',') +
@@ -97,18 +97,18 @@ void expectKeptPromises(ExitCode code) {
 TEST(EngineDamage, NothingInTheFileBringsTheEngineDown) {
     const test::WorkFolder folder;
     Damage damage{20};
-    int calculated = 0, senseless = 0;
+    int good = 0, bad = 0;
     for (int i = 0; i < 4000; ++i) {
         const auto bytes = damage.damaged();
-        test::write(kInput, bytes);
-        const auto code = run();
-        ASSERT_TRUE(code == kCalculated || code == kSenseless) << code << "\n" << bytes;
+        test::write(input, bytes);
+        const auto code = run(systemFileCalls());
+        ASSERT_TRUE(code == calculated || code == senseless) << code << "\n" << bytes;
         ASSERT_NO_FATAL_FAILURE(expectKeptPromises(code)) << bytes;
-        (code == kCalculated ? calculated : senseless)++;
+        (code == calculated ? good : bad)++;
     }
     // Both kinds must come up, or the damage is too mild or too harsh to show anything.
-    EXPECT_GT(calculated, 400);
-    EXPECT_GT(senseless, 400);
+    EXPECT_GT(good, 400);
+    EXPECT_GT(bad, 400);
 }
 
 TEST(EngineDamage, BytesAtRandomHaveAnExitCode) {
@@ -118,18 +118,18 @@ TEST(EngineDamage, BytesAtRandomHaveAnExitCode) {
         std::string bytes(random() % 400, ' ');
         for (auto& c : bytes)
             c = random() % 3 == 0 ? static_cast<char>(random() % 256) : "0123456789.\r\n"[random() % 13];
-        test::write(kInput, bytes);
-        const auto code = run();
-        EXPECT_TRUE(code >= kCalculated && code <= kNotWritten);
-        EXPECT_NE(code, kCalculated);
+        test::write(input, bytes);
+        const auto code = run(systemFileCalls());
+        EXPECT_TRUE(code >= calculated && code <= notWritten);
+        EXPECT_NE(code, calculated);
     }
 }
 
-TEST(EngineDamage, AFileTooLargeToBeACaseIsNotRead) {
+TEST(EngineDamage, AFileMuchTooLargeIsSenseless) {
     const test::WorkFolder folder;
-    test::write(kInput, "HUS1\r\n" + std::string(3 << 20, '\n'));
-    EXPECT_EQ(run(), kNoCase);
+    test::write(input, "HUS1\r\n" + std::string(3 << 20, '\n'));
+    EXPECT_EQ(run(systemFileCalls()), senseless);
 }
 
 } // namespace
-} // namespace varnowb
+} // namespace varno::engine

@@ -8,10 +8,10 @@
 #include <gtest/gtest.h>
 #include <random>
 
-namespace varnowb {
+namespace varno::engine {
 namespace {
 
-constexpr double kSmall = 1e-10;
+constexpr double small = 1e-10;
 
 Envelope equalSpans(int n, double length, double permanent, double variable) {
     const auto count = static_cast<std::size_t>(n);
@@ -23,39 +23,39 @@ Envelope equalSpans(int n, double length, double permanent, double variable) {
 TEST(EngineEnvelope, OneSpanHasTwoPatterns) {
     const auto e = equalSpans(1, 4, 1, 2);
     EXPECT_EQ(e.patterns, 2);
-    EXPECT_NEAR(e.field[0].max.moment, 3 * 16 / 8.0, kSmall);
-    EXPECT_NEAR(e.reaction[0].max, 6, kSmall);
-    EXPECT_NEAR(e.reaction[0].min, 2, kSmall);
-    EXPECT_NEAR(e.upper[0][10], 6, kSmall);
-    EXPECT_NEAR(e.lower[0][10], 2, kSmall);
+    EXPECT_NEAR(e.field[0].max.moment, 3 * 16 / 8.0, small);
+    EXPECT_NEAR(e.reaction[0].max, 6, small);
+    EXPECT_NEAR(e.reaction[0].min, 2, small);
+    EXPECT_NEAR(e.upper[0][10], 6, small);
+    EXPECT_NEAR(e.lower[0][10], 2, small);
 }
 
 TEST(EngineEnvelope, TwoSpans) {
     const double g = 3, q = 5, l = 6;
     const auto e = equalSpans(2, l, g, q);
     EXPECT_EQ(e.patterns, 4);
-    EXPECT_NEAR(e.supportMoment[1].min, -(g + q) * l * l / 8, kSmall);
-    EXPECT_NEAR(e.supportMoment[1].max, -g * l * l / 8, kSmall);
+    EXPECT_NEAR(e.supportMoment[1].min, -(g + q) * l * l / 8, small);
+    EXPECT_NEAR(e.supportMoment[1].max, -g * l * l / 8, small);
     // One span loaded: R0 = 3/8 g l + 7/16 q l, and the moment is largest where the shear is zero.
     const double r = (3 * g / 8 + 7 * q / 16) * l;
-    EXPECT_NEAR(e.reaction[0].max, r, kSmall);
-    EXPECT_NEAR(e.reaction[0].min, (3 * g / 8 - q / 16) * l, kSmall);
-    EXPECT_NEAR(e.field[0].max.moment, r * r / (2 * (g + q)), kSmall);
-    EXPECT_NEAR(e.field[0].max.x, r / (g + q), kSmall);
-    EXPECT_NEAR(e.field[1].max.x, l - r / (g + q), kSmall);
-    EXPECT_EQ(e.field[0].max.place, Place::ZeroShear);
-    EXPECT_NEAR(e.reaction[1].max, 10 * (g + q) * l / 8, kSmall);
+    EXPECT_NEAR(e.reaction[0].max, r, small);
+    EXPECT_NEAR(e.reaction[0].min, (3 * g / 8 - q / 16) * l, small);
+    EXPECT_NEAR(e.field[0].max.moment, r * r / (2 * (g + q)), small);
+    EXPECT_NEAR(e.field[0].max.x, r / (g + q), small);
+    EXPECT_NEAR(e.field[1].max.x, l - r / (g + q), small);
+    EXPECT_EQ(e.field[0].max.place, Place::zeroShear);
+    EXPECT_NEAR(e.reaction[1].max, 10 * (g + q) * l / 8, small);
 }
 
 TEST(EngineEnvelope, ThreeSpansOfVariableLoad) {
     const auto e = equalSpans(3, 1, 0, 1);
-    EXPECT_NEAR(e.field[0].max.moment, 0.10125, kSmall);
-    EXPECT_NEAR(e.field[1].max.moment, 0.075, kSmall);
-    EXPECT_NEAR(e.supportMoment[1].min, -7.0 / 60, kSmall); // 0.117
-    EXPECT_NEAR(e.supportMoment[1].max, 1.0 / 60, kSmall);  // 0.017
-    EXPECT_NEAR(e.reaction[0].max, 0.45, kSmall);
-    EXPECT_NEAR(e.reaction[1].max, 1.2, kSmall);
-    EXPECT_NEAR(e.reaction[0].min, -0.05, kSmall);
+    EXPECT_NEAR(e.field[0].max.moment, 0.10125, small);
+    EXPECT_NEAR(e.field[1].max.moment, 0.075, small);
+    EXPECT_NEAR(e.supportMoment[1].min, -7.0 / 60, small); // 0.117
+    EXPECT_NEAR(e.supportMoment[1].max, 1.0 / 60, small);  // 0.017
+    EXPECT_NEAR(e.reaction[0].max, 0.45, small);
+    EXPECT_NEAR(e.reaction[1].max, 1.2, small);
+    EXPECT_NEAR(e.reaction[0].min, -0.05, small);
 }
 
 TEST(EngineEnvelope, FourAndFiveSpansOfVariableLoad) {
@@ -76,39 +76,39 @@ TEST(EngineEnvelope, CantileversGoWithTheirSpan) {
     // span 1 loaded the field moment is that of both loads: (g + q) (l^2 / 8 - c^2 / 4).
     const double g = 1, q = 2, l = 6, c = 1;
     const auto e = envelope({c, 0, {l}}, {{g}, {q}, {}}, {0, 0});
-    EXPECT_NEAR(e.supportMoment[0].min, -(g + q) * c * c / 2, kSmall);
-    EXPECT_NEAR(e.supportMoment[0].max, -g * c * c / 2, kSmall);
-    EXPECT_NEAR(e.upper[0][10], (g + q) * (l * l / 8 - c * c / 4), kSmall);
-    EXPECT_NEAR(e.lower[0][10], g * (l * l / 8 - c * c / 4), kSmall);
+    EXPECT_NEAR(e.supportMoment[0].min, -(g + q) * c * c / 2, small);
+    EXPECT_NEAR(e.supportMoment[0].max, -g * c * c / 2, small);
+    EXPECT_NEAR(e.upper[0][10], (g + q) * (l * l / 8 - c * c / 4), small);
+    EXPECT_NEAR(e.lower[0][10], g * (l * l / 8 - c * c / 4), small);
 }
 
 TEST(EngineEnvelope, ALineLoadIsAlwaysThere) {
     const double p = 10, l = 4;
     const auto e = envelope({0, 0, {l}}, {{0}, {3}, {{l / 2, p}}}, {0, 0});
-    EXPECT_NEAR(e.field[0].max.moment, p * l / 4 + 3 * l * l / 8, kSmall);
-    EXPECT_EQ(e.field[0].max.place, Place::UnderLoad);
-    EXPECT_NEAR(e.lower[0][10], p * l / 4, kSmall);
+    EXPECT_NEAR(e.field[0].max.moment, p * l / 4 + 3 * l * l / 8, small);
+    EXPECT_EQ(e.field[0].max.place, Place::underLoad);
+    EXPECT_NEAR(e.lower[0][10], p * l / 4, small);
 }
 
 TEST(EngineEnvelope, CurvePointsStartAtTheSupportsFarSide) {
     const double l = 5;
     const auto e = envelope({0, 0, {l, l}}, {{2, 2}, {0, 0}, {}}, {0, 0.3, 0});
-    EXPECT_NEAR(e.dx[0], l / 20, kSmall);
-    EXPECT_NEAR(e.dx[1], (l - 0.3) / 20, kSmall);
-    EXPECT_NEAR(e.upper[0][20], -2 * l * l / 8, kSmall);
+    EXPECT_NEAR(e.dx[0], l / 20, small);
+    EXPECT_NEAR(e.dx[1], (l - 0.3) / 20, small);
+    EXPECT_NEAR(e.upper[0][20], -2 * l * l / 8, small);
     // Span 2 at x = 0.3 with M = -q l^2 / 8 at its left end and a reaction of 3 q l / 8 at its right one.
     const double x = l - 0.3;
-    EXPECT_NEAR(e.upper[1][0], 3 * 2 * l / 8 * x - 2 * x * x / 2, kSmall);
-    EXPECT_NEAR(e.upper[1][20], 0, kSmall);
+    EXPECT_NEAR(e.upper[1][0], 3 * 2 * l / 8 * x - 2 * x * x / 2, small);
+    EXPECT_NEAR(e.upper[1][20], 0, small);
 }
 
 TEST(EngineEnvelope, VariableLoadThatLiftsCounts) {
     const double l = 4;
     const auto e = envelope({0, 0, {l}}, {{1}, {-3}, {}}, {0, 0});
-    EXPECT_NEAR(e.field[0].max.moment, l * l / 8, kSmall);
-    EXPECT_NEAR(e.field[0].min.moment, -2 * l * l / 8, kSmall);
-    EXPECT_EQ(e.field[0].min.place, Place::ZeroShear);
-    EXPECT_NEAR(e.field[0].min.x, l / 2, kSmall);
+    EXPECT_NEAR(e.field[0].max.moment, l * l / 8, small);
+    EXPECT_NEAR(e.field[0].min.moment, -2 * l * l / 8, small);
+    EXPECT_EQ(e.field[0].min.place, Place::zeroShear);
+    EXPECT_NEAR(e.field[0].min.x, l / 2, small);
 }
 
 TEST(EngineEnvelope, OfEqualMomentsTheFirstPatternAndTheFirstPlaceStay) {
@@ -210,7 +210,7 @@ TEST(EngineEnvelope, TenSpansAgreeWithTheDisplacementMethod) {
 TEST(EngineEnvelope, TheFieldMomentsBoundTheCurves) {
     const auto e = equalSpans(7, 5.5, 3, 4);
     for (std::size_t i = 0; i < 7; ++i)
-        for (std::size_t k = 0; k < kCurvePoints; ++k) {
+        for (std::size_t k = 0; k < curvePoints; ++k) {
             EXPECT_LE(e.upper[i][k], e.field[i].max.moment + 1e-9);
             EXPECT_GE(e.lower[i][k], e.field[i].min.moment - 1e-9);
             EXPECT_LE(e.lower[i][k], e.upper[i][k]);
@@ -218,4 +218,4 @@ TEST(EngineEnvelope, TheFieldMomentsBoundTheCurves) {
 }
 
 } // namespace
-} // namespace varnowb
+} // namespace varno::engine

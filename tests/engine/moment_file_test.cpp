@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace varnowb {
+namespace varno::engine {
 namespace {
 
 // As the front-end reads it: items end at a comma or a line end.
@@ -67,4 +67,4 @@ TEST(EngineMomentFile, UpperIsNeverBelowLowerAndSagIsPositive) {
 }
 
 } // namespace
-} // namespace varnowb
+} // namespace varno::engine

@@ -8,10 +8,10 @@
 #include <stdexcept>
 #include <utility>
 
-namespace varnowb::test {
+namespace varno::engine::test {
 namespace {
 
-constexpr double kSame = 1e-7;
+constexpr double same = 1e-7;
 
 using Element = std::array<std::array<double, 4>, 4>;
 
@@ -63,7 +63,7 @@ StiffnessBeam::StiffnessBeam(const Beam& beam, std::vector<double> nodes) : x_(s
     x_.push_back(0);
     x_.push_back(x + beam.konsh);
     std::sort(x_.begin(), x_.end());
-    x_.erase(std::unique(x_.begin(), x_.end(), [](double a, double b) { return b - a < kSame; }), x_.end());
+    x_.erase(std::unique(x_.begin(), x_.end(), [](double a, double b) { return b - a < same; }), x_.end());
     for (const double support : supportX_)
         supports_.push_back(nodeAt(support));
 
@@ -78,7 +78,7 @@ StiffnessBeam::StiffnessBeam(const Beam& beam, std::vector<double> nodes) : x_(s
 
 std::size_t StiffnessBeam::nodeAt(double x) const {
     for (std::size_t i = 0; i < x_.size(); ++i)
-        if (std::abs(x_[i] - x) < kSame) return i;
+        if (std::abs(x_[i] - x) < same) return i;
     throw std::runtime_error("no node there");
 }
 
@@ -131,4 +131,4 @@ StiffnessBeam::Answer StiffnessBeam::solve(const std::vector<double>& q, double 
     return answer;
 }
 
-} // namespace varnowb::test
+} // namespace varno::engine::test

@@ -7,7 +7,7 @@
 
 #include <vector>
 
-namespace varnowb::test {
+namespace varno::engine::test {
 
 class StiffnessBeam {
   public:
@@ -33,4 +33,4 @@ class StiffnessBeam {
     std::vector<std::vector<double>> k_; // the whole matrix, supports not yet held
 };
 
-} // namespace varnowb::test
+} // namespace varno::engine::test

@@ -9,7 +9,7 @@
 #include <stdexcept>
 #include <utility>
 
-namespace varnowb::test {
+namespace varno::engine::test {
 namespace {
 
 std::string padded(std::string text, std::size_t width) {
@@ -30,7 +30,7 @@ std::string row(const std::vector<double>& values, std::size_t width) {
     return text;
 }
 
-constexpr std::array<std::pair<unsigned char, unsigned char>, 6> kDosAndWindows{
+constexpr std::array<std::pair<unsigned char, unsigned char>, 6> dosAndWindows{
     {{143, 0xC5}, {142, 0xC4}, {153, 0xD6}, {134, 0xE5}, {132, 0xE4}, {148, 0xF6}}};
 
 } // namespace
@@ -140,7 +140,7 @@ std::string asShown(const std::string& text) {
     std::string shown;
     for (const auto& line : crLfLines(text)) {
         shown += "\r\n" + line;
-        for (const auto& [dos, win] : kDosAndWindows)
+        for (const auto& [dos, win] : dosAndWindows)
             if (const auto at = shown.find(static_cast<char>(dos)); at != std::string::npos)
                 shown[at] = static_cast<char>(win);
     }
@@ -158,4 +158,4 @@ std::string windows(std::string_view utf8) {
     return bytes;
 }
 
-} // namespace varnowb::test
+} // namespace varno::engine::test

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace varnowb::test {
+namespace varno::engine::test {
 
 // The 37 lines of a design input file, put together from texts and not by any writer of the project, so that
 // the positions of the columns stand here a second time.
@@ -67,4 +67,4 @@ std::string asShown(const std::string& text);
 // The 37-line file's letters: UTF-8 written in Windows-1252 (the six letters only).
 std::string windows(std::string_view utf8);
 
-} // namespace varnowb::test
+} // namespace varno::engine::test

@@ -4,6 +4,7 @@
 
 #include <functional>
 
+#include "base/text.h"
 #include "support/case_files.h"
 #include "tool/case_words.h"
 #include "tool/text_table.h"
@@ -175,7 +176,7 @@ TEST(TextTable, AlignsCharactersAndNotBytes) {
     table.addRow({"Å", "bb"});
     table.addRow({"ccc", "ö", ""});
     EXPECT_EQ(table.text(1), "   Å  bb\n ccc   ö\n");
-    EXPECT_EQ(tool::widthOf("Åäö €"), 5u);
+    EXPECT_EQ(characterCount("Åäö €"), 5u);
     EXPECT_EQ(tool::TextTable().text(2), "");
 }
 
