@@ -20,10 +20,6 @@ void RepairedText::appendLine(std::string_view line) {
     }
 }
 
-void RepairedText::clear() {
-    *this = RepairedText();
-}
-
 } // namespace varno
 
 namespace VARNO1 {

@@ -23,7 +23,6 @@ class RepairedText {
 
     /// Windows-1252; every line is preceded by CR LF.
     const Bytes& bytes() const { return text_; }
-    void clear();
 
   private:
     struct Places {

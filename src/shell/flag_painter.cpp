@@ -38,12 +38,7 @@ void fillShape(HDC dc, const FlagShape& shape, double scale) {
     }
     const win32::Selected filled(dc, brush.get());
     const win32::Selected bare(dc, GetStockObject(NULL_PEN));
-    if (shape.kind == FlagShape::star) {
-        fillStar(dc, shape, scale);
-    } else {
-        Ellipse(dc, px(shape.x - shape.width), px(shape.y - shape.width), px(shape.x + shape.width) + 1,
-                px(shape.y + shape.width) + 1);
-    }
+    fillStar(dc, shape, scale);
 }
 
 } // namespace

@@ -7,11 +7,11 @@ namespace varno {
 /// A filled shape of a flag, in hundredths of the flag's height; a flag is 160 wide and 100 high. RGB as
 /// 0xRRGGBB.
 struct FlagShape {
-    enum Kind { rectangle, disc, star } kind;
+    enum Kind { rectangle, star } kind;
     unsigned colour;
-    double x; ///< left edge, or the centre
+    double x; ///< left edge, or the centre of a star
     double y;
-    double width; ///< or the radius
+    double width; ///< or the radius of a star
     double height;
 };
 

@@ -66,16 +66,4 @@ inline constexpr std::array toolbarKeys{
     ToolbarKey{"fria", "Fria linjelaster", idFreeLineLoads},
 };
 
-/// The menu item that a toolbar button of this key runs, 0 for any other key.
-constexpr int commandOfKey(const char* key) {
-    for (const ToolbarKey& button : toolbarKeys) {
-        const char* a = button.key;
-        const char* b = key;
-        while (*a != '\0' && *a == *b)
-            ++a, ++b;
-        if (*a == *b) return button.id;
-    }
-    return 0;
-}
-
 } // namespace varno

@@ -27,7 +27,6 @@ using UniqueFont = std::unique_ptr<HFONT, GdiDeleter<HFONT>>;
 using UniqueBrush = std::unique_ptr<HBRUSH, GdiDeleter<HBRUSH>>;
 using UniquePen = std::unique_ptr<HPEN, GdiDeleter<HPEN>>;
 using UniqueBitmap = std::unique_ptr<HBITMAP, GdiDeleter<HBITMAP>>;
-using UniqueRegion = std::unique_ptr<HRGN, GdiDeleter<HRGN>>;
 
 struct DcDeleter {
     using pointer = HDC;
