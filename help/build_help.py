@@ -1,6 +1,6 @@
 """Builds the help from its one source:
 
-    build_help.py --halibut HALIBUT --topics help_topics.h --text TEXT.but... --pictures FOLDER --out OUT
+    build_help.py --halibut HALIBUT --topics topics.txt --text TEXT.but... --pictures FOLDER --out OUT
 
 leaves in OUT
 
@@ -52,10 +52,14 @@ def run_halibut(halibut, arguments, folder):
         fail(f"{halibut} {' '.join(arguments)}\n{said}")
 
 
-def topics_of(header):
-    """The rows of the program's table: name and context number."""
-    rows = re.findall(r'HelpTopic\{"([a-z0-9-]+)", (\d+)\}', header.read_text(encoding="utf-8"))
-    return [(name, int(number)) for name, number in rows]
+def rows_of(path):
+    """The lines of a list of ours that are neither empty nor a comment."""
+    return [line for line in path.read_text(encoding="utf-8").splitlines() if line and not line.startswith("#")]
+
+
+def topics_of(path):
+    """topics.txt: name and context number."""
+    return [(name, int(number)) for name, number in (row.split() for row in rows_of(path))]
 
 
 def headings_of(page):
@@ -69,9 +73,7 @@ def headings_of(page):
 
 def pictures_of(folder):
     """pictures.txt: topic, file and alternative text, between bars."""
-    for line in (folder / "pictures.txt").read_text(encoding="utf-8").splitlines():
-        if line and not line.startswith("#"):
-            yield [part.strip() for part in line.split("|")]
+    return [[part.strip() for part in row.split("|")] for row in rows_of(folder / "pictures.txt")]
 
 
 def with_pictures(page, folder, out):

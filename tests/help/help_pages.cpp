@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <regex>
 #include <utility>
 
+#include "base/text.h"
 #include "support/temporary_folder.h"
 
 namespace varno::testing {
@@ -90,6 +92,20 @@ std::size_t occurrences(std::string_view text, std::string_view part) {
     for (auto at = text.find(part); at != std::string_view::npos; at = text.find(part, at + part.size()))
         ++count;
     return count;
+}
+
+void expectExplained(std::string_view text) {
+    const std::string wanted = trimBlanks(joined(text));
+    EXPECT_NE(readText().find(wanted), std::string::npos) << wanted;
+}
+
+bool isExplained(std::string_view message) {
+    static const std::regex fileName(R"(\S*[^\s.]\.[A-Za-z]\S*)");
+    const std::string text(message);
+    const std::sregex_token_iterator parts(text.begin(), text.end(), fileName, -1);
+    return std::all_of(parts, std::sregex_token_iterator(), [](const std::string& part) {
+        return readText().find(trimBlanks(joined(part))) != std::string::npos;
+    });
 }
 
 std::string joined(std::string_view text) {

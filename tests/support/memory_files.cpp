@@ -1,5 +1,9 @@
 #include "support/memory_files.h"
 
+#include <gtest/gtest.h>
+
+#include "help/help_pages.h"
+
 namespace varno::testing {
 
 class MemoryOutput : public FileCalls::Output {
@@ -54,6 +58,7 @@ void MemoryFiles::remove(const std::string& path) {
 }
 
 MessageAnswer FakeMessageBoxes::show(const std::string& text, int style, const std::string& title) {
+    EXPECT_TRUE(isExplained(text) && isExplained(title)) << "not in the help: " << title << ": " << text;
     shown.push_back({text, style, title});
     if (whileShown) whileShown();
     if (answers.empty()) return MessageAnswer::ok;

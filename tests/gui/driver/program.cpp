@@ -2,6 +2,8 @@
 
 #include "driver/remote.h"
 #include "driver/wait.h"
+#include "help/help_topics.h"
+#include "shell/help_places.h"
 #include "win32/strings.h"
 
 namespace varno::gui {
@@ -99,6 +101,9 @@ Control Program::window(const std::string& className) const {
     std::optional<Control> found;
     if (!until([&] { return (found = find(className)).has_value(); })) {
         throw GuiError("the program does not show the window " + className);
+    }
+    if (className.starts_with("Varno") && helpContext(helpTopicOfWindow(className)) == 0) {
+        throw GuiError("there is no help on the window " + className);
     }
     return *found;
 }
