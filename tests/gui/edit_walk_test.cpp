@@ -9,16 +9,10 @@
 #include "edit_rig.h"
 #include "input/field_table.h"
 #include "input/form_layout.h"
+#include "support/typed_texts.h"
 
 namespace varno::gui {
 namespace {
-
-constexpr std::array texts{
-    "",      " ",      "0",      "5",        "6,5",      "6.5",  "1,234,5", "abc",   "12abc",      " 7.6",
-    "-3",    "-0.04",  "22.5",   "23,5",     "1e3",      "1d2",  "1e39",    "-4e38", "1e999",      "1e-50",
-    "32767", "32768",  "-32769", "99999999", "5,30",     "5'30", "1.005",   "2.675", "123456.789", "4000",
-    "9,5",   "0,1701", ".5",     ",5",       "1 234,50", "å",    "1E",      "3.",
-};
 
 int optionsOf(Field group) {
     const ChoiceField* choice = choiceField(group);
@@ -118,7 +112,8 @@ void EditWalk::typeSomewhere() {
     answerErrors();
     box.selectAll();
     // Half of the texts are plain numbers, so that the case can be drawn now and then.
-    const std::string text = pick(0, 1) == 0 ? std::to_string(pick(1, 99) / 10.0).substr(0, 3) : anyOf(texts);
+    const std::string text =
+        pick(0, 1) == 0 ? std::to_string(pick(1, 99) / 10.0).substr(0, 3) : anyOf(testing::typedTexts);
     if (text.empty()) box.key(VK_DELETE);
     box.type(text);
 }

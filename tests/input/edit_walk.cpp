@@ -1,21 +1,8 @@
 #include "input/edit_walk.h"
 
-#include <array>
+#include "support/typed_texts.h"
 
 namespace varno::testing {
-
-namespace {
-
-constexpr std::array nastyTexts{
-    "",      " ",        "0",        "5",     "6,5",        "6.5",    "1,234,5", "abc",      "12abc",
-    " 7.6",  "-3",       "-0.04",    "0.004", "22.5",       "23,5",   "1e3",     "1d2",      "1e39",
-    "-4e38", "1e999",    "1e-50",    "32767", "32767.5",    "32768",  "-32769",  "99999999", "123456.789",
-    "5.3",   "5,30",     "5'30",     "1.005", "1.00499999", "2.675",  "--1",     "+4",       "4000",
-    "9.5",   "9,5",      "1.4",      "10",    "0.1",        "0,1701", ".5",      ",5",       "\t8\t",
-    "4 5",   "1 234,50", "\xC3\xA5", "1E",    "1e+",        "3.",     "7e0",     "1.234,5",  "- 2",
-};
-
-} // namespace
 
 EditWalk::EditWalk(unsigned seed, const NumberLocale& locale)
     : rig(static_cast<int>(seed % 10) + 1, locale), locale_(locale), random_(seed) {
@@ -126,7 +113,7 @@ void EditWalk::typeSomewhere() {
     const std::string text =
         pick(0, 1) == 0
             ? std::to_string(pick(1, 99) / 10.0).substr(0, 3)
-            : nastyTexts[static_cast<std::size_t>(pick(0, static_cast<int>(nastyTexts.size()) - 1))];
+            : typedTexts[static_cast<std::size_t>(pick(0, static_cast<int>(typedTexts.size()) - 1))];
     last_ += " " + text;
     rig.form.setText(box, text);
 }
