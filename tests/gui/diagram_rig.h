@@ -24,10 +24,7 @@ class Diagrams : public ::testing::Test {
     Diagrams() {
         program.passStartUp();
         program.open("kontor.ind");
-        program.command(idRun);
-        const Control viewer = program.window(viewerClass);
-        viewer.item(idReturn).click();
-        program.waitGone(viewer);
+        program.calculate();
     }
 
     /// A curve of `count` spans, of this moment everywhere but at the first point.

@@ -3,8 +3,8 @@
 
 #include <array>
 
-#include "driver/program.h"
 #include "input/form_layout.h"
+#include "shared_program.h"
 #include "soon.h"
 #include "win32/strings.h"
 
@@ -51,20 +51,8 @@ class CaseText {
     std::vector<Bytes> lines_;
 };
 
-class Form : public ::testing::Test {
+class Form : public SharedProgram {
   protected:
-    static void SetUpTestSuite() {
-        scene_ = new Scene;
-        program_ = new Program(*scene_);
-        program_->passStartUp();
-    }
-    static void TearDownTestSuite() {
-        delete program_;
-        delete scene_;
-    }
-    static const Scene& scene() { return *scene_; }
-    static const Program& program() { return *program_; }
-
     static CaseText open(const std::string& name) {
         program().open(name + ".IND");
         expectCaption(program(), name + ".IND");
@@ -88,10 +76,6 @@ class Form : public ::testing::Test {
     static void checkNumbers(const CaseText& file);
     static void checkChoices(const CaseText& file);
     static void checkRuleSet(int ruleSet, int safetyClass);
-
-  private:
-    static inline Scene* scene_ = nullptr;
-    static inline Program* program_ = nullptr;
 };
 
 void Form::checkSpans(const CaseText& file) {

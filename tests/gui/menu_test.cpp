@@ -1,7 +1,7 @@
 // The menus and the toolbar, read back from the real window.
 #include <gtest/gtest.h>
 
-#include "driver/program.h"
+#include "shared_program.h"
 #include "soon.h"
 
 namespace varno::gui {
@@ -13,23 +13,7 @@ static void PrintTo(const MenuLine& line, std::ostream* out) {
 
 namespace {
 
-class Menus : public ::testing::Test {
-  protected:
-    static void SetUpTestSuite() {
-        scene_ = new Scene;
-        program_ = new Program(*scene_);
-        program_->passStartUp();
-    }
-    static void TearDownTestSuite() {
-        delete program_;
-        delete scene_;
-    }
-    const Program& program() const { return *program_; }
-
-  private:
-    static inline Scene* scene_ = nullptr;
-    static inline Program* program_ = nullptr;
-};
+class Menus : public SharedProgram {};
 
 struct Expected {
     int depth;

@@ -12,10 +12,7 @@ class WithoutPrinter : public ::testing::Test {
     WithoutPrinter() {
         program.passStartUp();
         program.open("bostad.ind");
-        program.command(idRun);
-        const Control viewer = program.window(viewerClass);
-        viewer.item(idReturn).click();
-        program.waitGone(viewer);
+        program.calculate();
     }
     void expectTold() {
         EXPECT_EQ(program.answer(),

@@ -92,9 +92,7 @@ TEST_F(Printing, MissingResultIsTold) {
 }
 
 TEST_F(Printing, ToolbarPrintsTheResultOfTheEngine) {
-    program.command(idRun);
-    program.window(viewerClass).item(idReturn).click();
-    program.waitGone(program.window(viewerClass));
+    program.calculate();
     program.clickToolbar(idPrintResult);
     const Print print = prints.next();
     ASSERT_EQ(print.pages.size(), 2u);

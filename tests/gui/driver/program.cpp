@@ -197,6 +197,13 @@ void Program::open(const std::string& name) const {
     settle([&] { return focused() == field(Field::rubrik); }, name + " is not opened");
 }
 
+void Program::calculate() const {
+    command(idRun);
+    const Control viewer = window(viewerClass);
+    viewer.item(idReturn).click();
+    waitGone(viewer);
+}
+
 void Program::saveAs(const std::string& name) const {
     command(idSaveAs);
     chooseFile(name);

@@ -102,6 +102,9 @@ class Program {
     void open(const std::string& name) const;
     void saveAs(const std::string& name) const;
 
+    /// "Kör...", and away from the result that then comes.
+    void calculate() const;
+
     std::vector<MenuLine> menuOf(const Control& window) const;
     bool diagramEnabled() const;
     std::vector<ToolbarButton> toolbarButtons() const;
