@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "base/text.h"
+#include "controls/rule_sets.h"
 #include "model/reference_tables.h"
 
 namespace varno::tool {
@@ -12,14 +13,6 @@ namespace varno::tool {
 namespace {
 
 // By number, from 1.
-constexpr std::array<std::string_view, 6> ruleSets{"BKR (svenska byggregler)", "Eurokod Polen",
-                                                   "Eurokod Sverige",          "Eurokod Finland",
-                                                   "Eurokod Danmark",          "Eurokod allmän"};
-constexpr std::array<std::string_view, 6> classCaptions{"Säkerhetsklass",       "Säkerhetsklass",
-                                                        "Pålitlighetsklass",    "Säkerhetsklass",
-                                                        "Konstruktionssklasse", "Säkerhetsklass"};
-constexpr std::array<std::string_view, 3> plainClasses{"1", "2", "3"};
-constexpr std::array<std::string_view, 3> reliabilityClasses{"RC1", "RC2", "RC3"};
 constexpr std::array<std::string_view, 3> loadCombinations{"6.10 a", "6.10 b", "6.10 a och 6.10 b"};
 constexpr std::array<std::string_view, 2> serviceCombinations{"Frekventa laster", "Karakteristiska laster"};
 constexpr std::array<std::string_view, 4> fireResistances{"REI 30", "REI 60", "REI 90", "REI 120"};
@@ -35,17 +28,21 @@ std::string nameOf(std::span<const std::string_view> names, int number, int firs
 } // namespace
 
 std::string ruleSetWords(int ruleSet) {
-    return nameOf(ruleSets, ruleSet);
+    const RuleSet* const rules = ruleSetWith(&RuleSet::number, ruleSet);
+    return rules == nullptr ? std::to_string(ruleSet) : rules->name;
 }
 
 std::string classCaption(int ruleSet) {
-    return std::string(ruleSet >= 1 && ruleSet <= maxLoadCode ? nameOf(classCaptions, ruleSet)
-                                                              : "Säkerhetsklass");
+    const RuleSet* const rules = ruleSetWith(&RuleSet::number, ruleSet);
+    return rules == nullptr ? ruleSets.front().frame : rules->frame;
 }
 
 std::string classWords(int ruleSet, int option) {
-    const bool reliability = ruleSet == 2 || ruleSet == 4 || ruleSet == 6;
-    return nameOf(reliability ? reliabilityClasses : plainClasses, option);
+    const RuleSet* const rules = ruleSetWith(&RuleSet::number, ruleSet);
+    const auto& classes = rules == nullptr ? ruleSets.front().classes : rules->classes;
+    return option >= 1 && option <= static_cast<int>(classes.size())
+               ? classes[static_cast<std::size_t>(option - 1)]
+               : std::to_string(option);
 }
 
 std::string loadCategoryWords(int category) {

@@ -20,8 +20,5 @@ const TextField* textField(Field field) {
 const ChoiceField* choiceField(Field field) {
     return rowOf(choiceFields, field);
 }
-const ClassGroup* classGroupField(Field field) {
-    return rowOf(classGroupFields, field);
-}
 
 } // namespace varno

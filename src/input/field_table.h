@@ -136,32 +136,8 @@ inline constexpr auto choiceFields = [] {
 }();
 // clang-format on
 
-/// The class options of a rule set; one frame is shown at a time.
-struct ClassGroup {
-    int ruleSet;
-    Field field;
-    std::string_view name;
-    std::string_view caption; ///< of the frame
-    std::array<std::string_view, 3> options;
-    int writes; ///< the element of `safetyClass` that a click writes; 0: a click does nothing
-    std::string_view helpTopic;
-};
-
-// Meant as they stand: a click in shklpl writes the element of shkldk, and shkleu has no click action.
-// clang-format off
-inline constexpr std::array classGroupFields{
-    ClassGroup{1, Field::shkl,   "shkl",   "Säkerhetsklass",       {"1", "2", "3"},       1, "falt-shkl"},
-    ClassGroup{2, Field::shklpl, "shklpl", "Säkerhetsklass",       {"RC1", "RC2", "RC3"}, 5, "falt-shklpl"},
-    ClassGroup{3, Field::pkl,    "pkl",    "Pålitlighetsklass",    {"1", "2", "3"},       3, "falt-pkl"},
-    ClassGroup{4, Field::shklfi, "shklfi", "Säkerhetsklass",       {"RC1", "RC2", "RC3"}, 4, "falt-shklfi"},
-    ClassGroup{5, Field::shkldk, "shkldk", "Konstruktionssklasse", {"1", "2", "3"},       5, "falt-shkldk"},
-    ClassGroup{6, Field::shkleu, "shkleu", "Säkerhetsklass",       {"RC1", "RC2", "RC3"}, 0, "falt-shkleu"},
-};
-// clang-format on
-
 /// The row of a field, null for a field that is not in the table.
 const TextField* textField(Field field);
 const ChoiceField* choiceField(Field field);
-const ClassGroup* classGroupField(Field field);
 
 } // namespace varno

@@ -3,20 +3,12 @@
 #include <algorithm>
 #include <array>
 
+#include "controls/rule_sets.h"
 #include "model/reference_tables.h"
 
 namespace varno {
 
 namespace {
-
-// By rule set, from 1.
-constexpr std::array classGroups{Field::shkl,   Field::shklpl, Field::pkl,
-                                 Field::shklfi, Field::shkldk, Field::shkleu};
-constexpr std::array flags{1, 5, 2, 4, 3, 6};
-
-bool hasPresets(int ruleSet) {
-    return ruleSet >= 1 && ruleSet <= maxLoadCode;
-}
 
 struct CaseList {
     Field field;
@@ -64,29 +56,15 @@ constexpr std::array factorFields{Field::lambdaG, Field::ksi,  Field::lambdaQ,
 
 } // namespace
 
-Field classGroup(int ruleSet) {
-    if (!hasPresets(ruleSet)) throw RunTimeError(errSubscriptOutOfRange);
-    return classGroups[static_cast<std::size_t>(ruleSet - 1)];
-}
-
-int flagOfRuleSet(int ruleSet) {
-    return hasPresets(ruleSet) ? flags[static_cast<std::size_t>(ruleSet - 1)] : 0;
-}
-
 CaseFormFiller::CaseFormFiller(DesignCase& designCase, FormView& form, MainView& window, NumberLocale locale)
     : case_(designCase), form_(form), window_(window), locale_(std::move(locale)) {}
 
 void CaseFormFiller::showCase(const std::string& title) {
     form_.setText({Field::rubrik}, title);
     showRuleSet();
-    if (hasPresets(case_.loadCode)) {
-        form_.selectOption(classGroup(case_.loadCode), case_.safetyClass(case_.loadCode));
-    }
-    showLoadFrameCaption();
     // Whatever the rule set: only a switch to the sixth opens them.
     for (const Field factor : factorFields)
         form_.setEnabled({factor}, false);
-    showFactors();
     for (const CaseList& list : fixedLists)
         fillList(list.field, list.rows);
     fillCaseLists();
@@ -119,10 +97,13 @@ void CaseFormFiller::showNumber(Control control, Number value, std::string_view 
 }
 
 void CaseFormFiller::showRuleSet() {
-    const int ruleSet = case_.loadCode;
-    window_.showFlag(flagOfRuleSet(ruleSet));
-    for (int other = 1; other <= maxLoadCode; ++other)
-        form_.showGroup(classGroup(other), other == ruleSet);
+    const RuleSet* const current = ruleSetWith(&RuleSet::number, case_.loadCode);
+    window_.showFlag(current == nullptr ? 0 : current->flag);
+    for (const RuleSet& other : ruleSets)
+        form_.showGroup(other.classGroup, &other == current);
+    if (current != nullptr) form_.selectOption(current->classGroup, case_.safetyClass(case_.loadCode));
+    form_.setCaption({Field::loadFrame}, loadFrameCaption(case_.loadCode));
+    showFactors();
 }
 
 void CaseFormFiller::showFactors() {
@@ -137,10 +118,6 @@ void CaseFormFiller::showFactors() {
     show(Field::psi0, case_.psi0(ruleSet, category));
     show(Field::psi1, case_.psi1(ruleSet, category));
     show(Field::psi2, case_.psi2(ruleSet, category));
-}
-
-void CaseFormFiller::showLoadFrameCaption() {
-    form_.setCaption({Field::loadFrame}, case_.loadCode == 1 ? "Laster enl. BKR" : "Laster enl. Eurokod");
 }
 
 void CaseFormFiller::showNumbers() {

@@ -11,12 +11,6 @@
 
 namespace varno {
 
-/// The option group of the safety or reliability classes of a rule set 1..6.
-Field classGroup(int ruleSet);
-
-/// The flag picture (1..6) that stands for a rule set, 0 for a rule set without one.
-int flagOfRuleSet(int ruleSet);
-
 /// Shows the one design case in the input form.
 class CaseFormFiller {
   public:
@@ -32,15 +26,13 @@ class CaseFormFiller {
     void showSpanCells();
     /// The six factors of the current rule set and load category.
     void showFactors();
-    /// The flag and the class frame of the rule set.
+    /// The flag of the rule set, its classes with the chosen one, its factors, and the caption of the load frame.
     void showRuleSet();
     /// The captions of the fire options, which depend on the fire class; the fourth is offered for class 2
     /// only.
     void showFireOptions();
     /// Fills the lists of load category, concrete class and steel grades anew and selects the record's rows.
     void fillCaseLists();
-    /// "Laster enl. BKR" for the Swedish rules, "Laster enl. Eurokod" otherwise.
-    void showLoadFrameCaption();
 
   private:
     void fillList(Field list, std::span<const std::string_view> rows);

@@ -3,8 +3,7 @@
 #include <array>
 
 #include "controls/control_ids.h"
-#include "input/form_filling.h"
-#include "model/design_case.h"
+#include "controls/rule_sets.h"
 
 namespace varno {
 
@@ -117,27 +116,14 @@ constexpr int loadTop = geometryTop + geometryHeight + 6;
 constexpr int loadHeight = 112;
 
 void addClassGroups(LayoutBuilder& form, int x, int y) {
-    struct Group {
-        const char* frame;
-        std::array<const char*, 3> options;
-    };
-    static constexpr std::array<Group, maxLoadCode> groups{{
-        {"Säkerhetsklass", {"1", "2", "3"}},
-        {"Säkerhetsklass", {"RC1", "RC2", "RC3"}},
-        {"Pålitlighetsklass", {"1", "2", "3"}},
-        {"Säkerhetsklass", {"RC1", "RC2", "RC3"}},
-        {"Konstruktionssklasse", {"1", "2", "3"}},
-        {"Säkerhetsklass", {"RC1", "RC2", "RC3"}},
-    }};
-    for (int ruleSet = 1; ruleSet <= maxLoadCode; ++ruleSet) {
-        const Group& group = groups[static_cast<std::size_t>(ruleSet - 1)];
-        form.add(classFrameId(ruleSet), ControlKind::group, group.frame, x, y, 150, 84);
-        form.options(classGroup(ruleSet), group.options, x + inner, y + 19, 120);
+    for (const RuleSet& rules : ruleSets) {
+        form.add(classFrameId(rules.number), ControlKind::group, rules.frame, x, y, 150, 84);
+        form.options(rules.classGroup, rules.classes, x + inner, y + 19, 120);
     }
 }
 
 void addLoads(LayoutBuilder& form) {
-    form.add(controlId({Field::loadFrame}), ControlKind::group, "Laster enl. Eurokod", margin, loadTop,
+    form.add(controlId({Field::loadFrame}), ControlKind::group, loadFrameCaption(0), margin, loadTop,
              frameWidth, loadHeight);
     const int y = loadTop + 18;
     form.label("Lastkategori", margin + inner, y, 130);

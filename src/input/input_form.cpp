@@ -70,8 +70,8 @@ void InputForm::storeRow(const ChoiceField& row) {
 }
 
 void InputForm::clicked(Control control) {
-    if (const ClassGroup* group = classGroupField(control.field)) {
-        loads_.classClicked(*group, control.index);
+    if (const RuleSet* rules = ruleSetWith(&RuleSet::classGroup, control.field)) {
+        loads_.classClicked(*rules, control.index);
     } else if (control.field == Field::lokt) {
         loads_.categoryChosen(context_.form.selectedRow(Field::lokt));
     } else if (control.field == Field::brandk) {

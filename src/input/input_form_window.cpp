@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include "controls/control_ids.h"
+#include "controls/rule_sets.h"
 #include "input/accessible_names.h"
 #include "input/form_keys.h"
 #include "input/form_layout.h"
@@ -18,23 +19,6 @@ namespace {
 
 // The highest option a group has on the form.
 constexpr int mostOptions = 4;
-
-int classFrameOf(Field group) {
-    switch (group) {
-    case Field::shkl:
-        return classFrameId(1);
-    case Field::shklpl:
-        return classFrameId(2);
-    case Field::pkl:
-        return classFrameId(3);
-    case Field::shklfi:
-        return classFrameId(4);
-    case Field::shkldk:
-        return classFrameId(5);
-    default:
-        return classFrameId(6);
-    }
-}
 
 } // namespace
 
@@ -125,7 +109,8 @@ void InputFormWindow::selectOption(Field group, int option) {
 }
 
 void InputFormWindow::showGroup(Field group, bool visible) {
-    ShowWindow(item(classFrameOf(group)), visible ? SW_SHOWNA : SW_HIDE);
+    ShowWindow(item(classFrameId(ruleSetWith(&RuleSet::classGroup, group)->number)),
+               visible ? SW_SHOWNA : SW_HIDE);
     for (int i = 1; i <= mostOptions; ++i) {
         const HWND button = control({group, i});
         if (button != nullptr) ShowWindow(button, visible ? SW_SHOWNA : SW_HIDE);

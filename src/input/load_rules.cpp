@@ -6,66 +6,52 @@ namespace varno {
 
 namespace {
 
-constexpr int swedishRules = 1;
 // The one set whose factors can be edited.
 constexpr int editableRules = 6;
 
-int ruleSetAfterFlag(int flag) {
-    switch (flag) {
-    case 1:
-        return 3;
-    case 2:
-        return 5;
-    case 3:
-        return 4;
-    case 4:
-        return 2;
-    case 5:
-        return 6;
-    default:
-        return swedishRules;
-    }
+const RuleSet& ruleSetOfFlag(int flag) {
+    const RuleSet* const row = ruleSetWith(&RuleSet::flag, flag);
+    return row == nullptr ? ruleSets.front() : *row;
 }
 
 } // namespace
 
 void LoadRules::flagClicked(int flag) {
-    context_.document.dataChanged = true;
-    enterRuleSet(ruleSetAfterFlag(flag));
-    if (context_.designCase.loadCode == swedishRules) switchToSwedishRules();
+    const RuleSet& next = ruleSetOfFlag(flag + 1);
+    if (next.number == swedishRules) {
+        switchToSwedishRules();
+    } else {
+        enterRuleSet(next);
+    }
 }
 
-void LoadRules::enterRuleSet(int ruleSet) {
+void LoadRules::enterRuleSet(const RuleSet& rules) {
+    context_.document.dataChanged = true;
     // A flag takes no focus. A factor being typed in belongs to the rule set that is left, and its box may be
     // locked in a moment.
     context_.form.focus({Field::rubrik});
 
     DesignCase& designCase = context_.designCase;
     // A category outside the tables ends here, before anything has changed.
-    static_cast<void>(designCase.psi0(ruleSet, designCase.lokt));
-    designCase.loadCode = static_cast<std::int16_t>(ruleSet);
+    static_cast<void>(designCase.psi0(rules.number, designCase.lokt));
+    designCase.loadCode = static_cast<std::int16_t>(rules.number);
 
     // psi2 is not among them: it keeps whatever state it has.
     for (const Field factor : {Field::lambdaG, Field::ksi, Field::lambdaQ, Field::psi0, Field::psi1}) {
-        context_.form.setEnabled({factor}, ruleSet == editableRules);
+        context_.form.setEnabled({factor}, rules.number == editableRules);
     }
-    context_.filler.showRuleSet();
-
-    // Sets 2 and 6 start from their first class each time; the others keep the user's choice.
-    std::int16_t& chosen = designCase.safetyClass(ruleSet);
-    if (ruleSet == 2 || ruleSet == 6) {
+    // Sets whose clicks are not kept as their own choice start from the first class each time.
+    std::int16_t& chosen = designCase.safetyClass(rules.number);
+    if (rules.classWritten != rules.number) {
         chosen = 1;
     } else if (chosen == 0) {
         chosen = 2;
     }
-    context_.form.selectOption(classGroup(ruleSet), chosen);
-    context_.filler.showFactors();
-    context_.filler.showLoadFrameCaption();
+    context_.filler.showRuleSet();
 }
 
 void LoadRules::switchToSwedishRules() {
-    context_.document.dataChanged = true;
-    enterRuleSet(swedishRules);
+    enterRuleSet(ruleSets.front());
     context_.filler.fillCaseLists();
 }
 
@@ -87,11 +73,11 @@ void LoadRules::categoryChosen(int row) {
     }
 }
 
-void LoadRules::classClicked(const ClassGroup& group, int option) {
-    if (group.writes == 0) return;
-    const int options = static_cast<int>(group.options.size());
+void LoadRules::classClicked(const RuleSet& rules, int option) {
+    if (rules.classWritten == 0) return;
+    const int options = static_cast<int>(rules.classes.size());
     if (option < 1 || option > options) throw RunTimeError(errSubscriptOutOfRange);
-    context_.designCase.safetyClass(group.writes) = static_cast<std::int16_t>(option);
+    context_.designCase.safetyClass(rules.classWritten) = static_cast<std::int16_t>(option);
     context_.document.dataChanged = true;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "input/field_table.h"
+#include "controls/rule_sets.h"
 #include "input/input_context.h"
 
 namespace varno {
@@ -16,10 +16,10 @@ class LoadRules {
     void switchToSwedishRules();
     /// The user chose a row of `lokt`. \throws RunTimeError 9 for a row outside the tables.
     void categoryChosen(int row);
-    void classClicked(const ClassGroup& group, int option);
+    void classClicked(const RuleSet& rules, int option);
 
   private:
-    void enterRuleSet(int ruleSet);
+    void enterRuleSet(const RuleSet& rules);
 
     InputContext& context_;
 };

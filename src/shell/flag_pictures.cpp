@@ -86,23 +86,4 @@ std::span<const FlagShape> flagShapes(int flag) {
     }
 }
 
-const char* flagName(int flag) {
-    switch (flag) {
-    case 1:
-        return "Svenska byggregler (BKR)";
-    case 2:
-        return "Eurokod, Sverige";
-    case 3:
-        return "Eurokod, Danmark";
-    case 4:
-        return "Eurokod, Finland";
-    case 5:
-        return "Eurokod, Polen";
-    case 6:
-        return "Eurokod, allmänt";
-    default:
-        return "Inget regelverk valt";
-    }
-}
-
 } // namespace varno

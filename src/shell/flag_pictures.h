@@ -20,7 +20,4 @@ struct FlagShape {
 /// corner.
 std::span<const FlagShape> flagShapes(int flag);
 
-/// The rule set that a flag shows, for the label beside it and for screen readers.
-const char* flagName(int flag);
-
 } // namespace varno

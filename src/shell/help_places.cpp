@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 
+#include "controls/rule_sets.h"
 #include "help/help_topics.h"
 #include "input/field_table.h"
 #include "shell/menu_table.h"
@@ -39,7 +40,7 @@ constexpr std::array windowTopics{
 std::string_view helpTopicOf(Control control) {
     if (const TextField* field = textField(control.field)) return field->helpTopic;
     if (const ChoiceField* field = choiceField(control.field)) return field->helpTopic;
-    if (const ClassGroup* group = classGroupField(control.field)) return group->helpTopic;
+    if (const RuleSet* rules = ruleSetWith(&RuleSet::classGroup, control.field)) return rules->helpTopic;
     switch (control.field) {
     case Field::rubrik:
         return "falt-rubrik";

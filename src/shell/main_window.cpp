@@ -7,6 +7,7 @@
 
 #include "controls/control_ids.h"
 #include "controls/control_spec.h"
+#include "controls/rule_sets.h"
 #include "shell/flag_painter.h"
 #include "shell/flag_pictures.h"
 #include "shell/menu_table.h"

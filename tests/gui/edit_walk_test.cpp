@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <random>
 
+#include "controls/rule_sets.h"
 #include "edit_rig.h"
 #include "input/field_table.h"
 #include "input/form_layout.h"
@@ -221,11 +222,11 @@ void EditWalk::check() {
 }
 
 void EditWalk::checkRules() {
-    constexpr std::array ruleSets{0, 1, 3, 5, 4, 2, 6}; // by flag
-    const int ruleSet = ruleSets[static_cast<std::size_t>(shownFlag())];
-    for (const ClassGroup& group : classGroupFields) {
-        EXPECT_EQ(formItem(classFrameId(group.ruleSet)).visible(), group.ruleSet == ruleSet);
-        EXPECT_TRUE(group.ruleSet != ruleSet || chosen(group.field) != 0) << "a class is chosen";
+    constexpr std::array byFlag{0, 1, 3, 5, 4, 2, 6};
+    const int ruleSet = byFlag[static_cast<std::size_t>(shownFlag())];
+    for (const RuleSet& rules : ruleSets) {
+        EXPECT_EQ(formItem(classFrameId(rules.number)).visible(), rules.number == ruleSet);
+        EXPECT_TRUE(rules.number != ruleSet || chosen(rules.classGroup) != 0) << "a class is chosen";
     }
     for (const Field factor : {Field::lambdaG, Field::ksi, Field::lambdaQ, Field::psi0, Field::psi1})
         EXPECT_EQ(field(factor).enabled(), ruleSet == 6);
@@ -304,11 +305,11 @@ void EditWalk::checkChoices(const DesignCase& stored) {
             EXPECT_EQ(field(row.field).selectedRow() + row.firstNumber, number) << row.name;
         }
     }
-    for (const ClassGroup& group : classGroupFields) {
-        if (group.ruleSet != stored.loadCode) continue;
+    for (const RuleSet& rules : ruleSets) {
+        if (rules.number != stored.loadCode) continue;
         // The classes of sets 2 and 6 are not stored under their own number.
-        const bool own = group.writes == group.ruleSet;
-        EXPECT_EQ(stored.safetyClass(group.ruleSet), own ? chosen(group.field) : 1);
+        const bool own = rules.classWritten == rules.number;
+        EXPECT_EQ(stored.safetyClass(rules.number), own ? chosen(rules.classGroup) : 1);
     }
 }
 

@@ -5,11 +5,11 @@
 
 #include "base/open_file.h"
 #include "base/run_time_error.h"
+#include "controls/rule_sets.h"
 #include "help/help_pages.h"
 #include "help/help_viewer.h"
 #include "input/field_table.h"
 #include "lineloads/line_load_set.h"
-#include "shell/flag_pictures.h"
 #include "shell/menu_table.h"
 #include "support/memory_files.h"
 
@@ -32,8 +32,8 @@ TEST(HelpMessages, EveryFieldCaptionAndOptionIsExplained) {
         for (const std::string_view option : field.options)
             expectExplained(option);
     }
-    for (const ClassGroup& group : classGroupFields)
-        expectExplained(group.caption);
+    for (const RuleSet& rules : ruleSets)
+        expectExplained(rules.frame);
     for (int flag = 1; flag <= 6; ++flag)
         expectExplained(flagName(flag));
 }

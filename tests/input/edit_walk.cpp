@@ -132,9 +132,9 @@ void EditWalk::chooseRow() {
 
 void EditWalk::clickOption() {
     if (pick(0, 1) == 0) {
-        const ClassGroup& group = classGroupFields[static_cast<std::size_t>(pick(0, 5))];
-        rig.form.focus({group.field});
-        guarded([&] { rig.input.clicked({group.field, pick(1, 3)}); });
+        const RuleSet& rules = ruleSets[static_cast<std::size_t>(pick(0, 5))];
+        rig.form.focus({rules.classGroup});
+        guarded([&] { rig.input.clicked({rules.classGroup, pick(1, 3)}); });
         return;
     }
     const ChoiceField& row = choiceFields[static_cast<std::size_t>(pick(7, 11))];

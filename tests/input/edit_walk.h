@@ -4,6 +4,7 @@
 #include <random>
 #include <string>
 
+#include "controls/rule_sets.h"
 #include "input/input_rig.h"
 
 namespace varno::testing {

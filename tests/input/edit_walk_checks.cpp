@@ -133,10 +133,12 @@ void EditWalk::checkLists() {
         }
     }
     int frames = 0;
-    for (const ClassGroup& group : classGroupFields)
-        frames += rig.form.groupVisible(group.field) ? 1 : 0;
-    expect(frames == 1 && rig.form.groupVisible(classGroup(rig.designCase.loadCode)), "class frames");
-    expect(rig.window.flag == flagOfRuleSet(rig.designCase.loadCode), "flag");
+    for (const RuleSet& rules : ruleSets)
+        frames += rig.form.groupVisible(rules.classGroup) ? 1 : 0;
+    expect(frames == 1 &&
+               rig.form.groupVisible(ruleSetWith(&RuleSet::number, rig.designCase.loadCode)->classGroup),
+           "class frames");
+    expect(rig.window.flag == ruleSetWith(&RuleSet::number, rig.designCase.loadCode)->flag, "flag");
 }
 
 void EditWalk::checkSavedFile() {

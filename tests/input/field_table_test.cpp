@@ -28,9 +28,7 @@ TEST(FieldTable, EveryFieldHasOneRowANameAndAHelpTopic) {
         add(row);
     for (const ChoiceField& row : choiceFields)
         add(row);
-    for (const ClassGroup& row : classGroupFields)
-        add(row);
-    EXPECT_EQ(fields.size(), 18u + 12 + 6);
+    EXPECT_EQ(fields.size(), 18u + 12);
 }
 
 TEST(FieldTable, RowsAreFoundByTheirField) {
@@ -38,11 +36,8 @@ TEST(FieldTable, RowsAreFoundByTheirField) {
         EXPECT_EQ(textField(row.field), &row);
     for (const ChoiceField& row : choiceFields)
         EXPECT_EQ(choiceField(row.field), &row);
-    for (const ClassGroup& row : classGroupFields)
-        EXPECT_EQ(classGroupField(row.field), &row);
     EXPECT_EQ(textField(Field::nfack), nullptr);
     EXPECT_EQ(choiceField(Field::rubrik), nullptr);
-    EXPECT_EQ(classGroupField(Field::kavko), nullptr);
 }
 
 TEST(FieldTable, ListsHaveAsManyRowsAsTheirTables) {
@@ -53,11 +48,6 @@ TEST(FieldTable, ListsHaveAsManyRowsAsTheirTables) {
     EXPECT_EQ(choiceField(Field::duk)->count, static_cast<int>(barDiameters.size()));
     EXPECT_EQ(choiceField(Field::brandk)->count, static_cast<int>(fireClasses.size()));
     EXPECT_EQ(choiceField(Field::lokt)->count, static_cast<int>(loadCategories.size()));
-}
-
-TEST(FieldTable, ClassGroupsAreThoseThatReadingACaseShows) {
-    for (const ClassGroup& row : classGroupFields)
-        EXPECT_EQ(classGroup(row.ruleSet), row.field);
 }
 
 } // namespace

@@ -151,18 +151,16 @@ TEST_F(FormFilling, ShowsTheFlagAndTheClassFrameOfTheRuleSet) {
     constexpr int ruleSetOfFlag[] = {1, 3, 5, 4, 2, 6};
     for (int flag = 1; flag <= 6; ++flag) {
         const int ruleSet = ruleSetOfFlag[flag - 1];
-        EXPECT_EQ(flagOfRuleSet(ruleSet), flag);
         readWith([&](DesignCase& c) {
             c.loadCode = static_cast<std::int16_t>(ruleSet);
             c.safetyClass(ruleSet) = 3;
         });
         EXPECT_EQ(window.flag, flag);
         for (int other = 1; other <= 6; ++other) {
-            EXPECT_EQ(classGroup(other), classGroups[other - 1]);
             EXPECT_EQ(form.groupVisible(classGroups[other - 1]), other == ruleSet)
                 << ruleSet << ", " << other;
         }
-        EXPECT_EQ(form.option(classGroup(ruleSet)), 3);
+        EXPECT_EQ(form.option(classGroups[ruleSet - 1]), 3);
     }
 }
 
@@ -170,11 +168,8 @@ TEST_F(FormFilling, ShowsNeitherFlagNorClassFrameWithoutRules) {
     read(sampleFile());
     readWith([](DesignCase& c) { c.loadCode = 0; });
     EXPECT_EQ(window.flag, 0);
-    EXPECT_EQ(flagOfRuleSet(7), 0);
     for (const Field group : classGroups)
         EXPECT_FALSE(form.groupVisible(group));
-    EXPECT_EQ(testing::errorOf([] { classGroup(0); }), errSubscriptOutOfRange);
-    EXPECT_EQ(testing::errorOf([] { classGroup(7); }), errSubscriptOutOfRange);
 }
 
 TEST_F(FormFilling, NamesTheLoadRulesInTheFrame) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "controls/rule_sets.h"
 #include "input/input_rig.h"
 #include "model/reference_tables.h"
 
@@ -15,11 +16,12 @@ constexpr std::array fiveFactors{Field::lambdaG, Field::ksi, Field::lambdaQ, Fie
 void expectRuleSet(const InputRig& rig, int ruleSet, int flag) {
     EXPECT_EQ(rig.designCase.loadCode, ruleSet);
     EXPECT_EQ(rig.window.flag, flag);
-    for (const ClassGroup& group : classGroupFields)
-        EXPECT_EQ(rig.form.groupVisible(group.field), group.ruleSet == ruleSet) << group.name;
+    for (const RuleSet& rules : ruleSets)
+        EXPECT_EQ(rig.form.groupVisible(rules.classGroup), rules.number == ruleSet) << rules.groupName;
     for (const Field factor : fiveFactors)
         EXPECT_EQ(rig.form.state({factor}).enabled, ruleSet == 6);
-    EXPECT_EQ(rig.form.option(classGroup(ruleSet)), rig.designCase.safetyClass(ruleSet));
+    EXPECT_EQ(rig.form.option(ruleSetWith(&RuleSet::number, ruleSet)->classGroup),
+              rig.designCase.safetyClass(ruleSet));
     EXPECT_EQ(rig.form.state({Field::loadFrame}).caption,
               ruleSet == 1 ? "Laster enl. BKR" : "Laster enl. Eurokod");
     const int category = rig.designCase.lokt;
@@ -112,7 +114,8 @@ TEST(ClassOption, AFreshCaseStartsAtTheSecondClassWhereTheChoiceIsKept) {
     const int expected[] = {2, 1, 2, 2, 2, 1};
     for (int ruleSet = 1; ruleSet <= 6; ++ruleSet) {
         EXPECT_EQ(rig.designCase.safetyClass(ruleSet), expected[ruleSet - 1]) << ruleSet;
-        EXPECT_EQ(rig.form.option(classGroup(ruleSet)), expected[ruleSet - 1]) << ruleSet;
+        EXPECT_EQ(rig.form.option(ruleSetWith(&RuleSet::number, ruleSet)->classGroup), expected[ruleSet - 1])
+            << ruleSet;
     }
 }
 
@@ -128,14 +131,14 @@ TEST(ClassOption, AChoiceComesBackButForSetsTwoAndSix) {
 }
 
 TEST(ClassOption, AClickWritesTheElementOfItsGroup) {
-    for (const ClassGroup& group : classGroupFields) {
+    for (const RuleSet& rules : ruleSets) {
         InputRig rig;
         DesignCase expected = rig.designCase;
-        if (group.writes != 0) expected.safetyClass(group.writes) = 3;
-        rig.input.clicked({group.field, 3});
-        EXPECT_EQ(rig.designCase, expected) << group.name;
-        EXPECT_EQ(rig.document.dataChanged, group.field != Field::shkleu) << group.name;
-        EXPECT_TRUE(rig.window.diagram) << group.name;
+        if (rules.classWritten != 0) expected.safetyClass(rules.classWritten) = 3;
+        rig.input.clicked({rules.classGroup, 3});
+        EXPECT_EQ(rig.designCase, expected) << rules.groupName;
+        EXPECT_EQ(rig.document.dataChanged, rules.classGroup != Field::shkleu) << rules.groupName;
+        EXPECT_TRUE(rig.window.diagram) << rules.groupName;
     }
     InputRig rig;
     EXPECT_EQ(errorOf([&] { rig.input.clicked({Field::shkl, 4}); }), errSubscriptOutOfRange);

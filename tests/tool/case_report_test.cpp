@@ -29,7 +29,7 @@ constexpr const char* sampleReport = R"(NAMNLÖS.IND
 Bärlägg för Ångström
 
 Lastförutsättningar
-  Lastregler                    Eurokod Sverige
+  Lastregler                    Eurokod, Sverige
   Pålitlighetsklass             2
   Lastkategori                  B-Kontor
   Lastkombination               6.10 a och 6.10 b
@@ -141,12 +141,12 @@ TEST(CaseReport, ShowsAllSpansAndNoMoreLineLoadsThanThereAre) {
 
 TEST(CaseWords, NameTheRuleSets) {
     const char* names[] = {"0",
-                           "BKR (svenska byggregler)",
-                           "Eurokod Polen",
-                           "Eurokod Sverige",
-                           "Eurokod Finland",
-                           "Eurokod Danmark",
-                           "Eurokod allmän",
+                           "Svenska byggregler (BKR)",
+                           "Eurokod, Polen",
+                           "Eurokod, Sverige",
+                           "Eurokod, Finland",
+                           "Eurokod, Danmark",
+                           "Eurokod, allmänt",
                            "7"};
     const char* captions[] = {"Säkerhetsklass", "Säkerhetsklass",       "Säkerhetsklass", "Pålitlighetsklass",
                               "Säkerhetsklass", "Konstruktionssklasse", "Säkerhetsklass", "Säkerhetsklass"};
