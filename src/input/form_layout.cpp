@@ -4,6 +4,7 @@
 
 #include "controls/control_ids.h"
 #include "controls/rule_sets.h"
+#include "model/design_case.h"
 
 namespace varno {
 

@@ -25,14 +25,13 @@ InputContext Application::inputContext() {
 
 Application::Application()
     : locale_(win32::userNumberLocale()), files_(systemFileCalls(), boxes_), fileDialog_(folders_, boxes_),
-      main_(*this, *this, picture_), form_(*this, *this),
+      main_(*this, picture_), form_(*this, *this),
       sketch_(case_, picture_.loadPicture, picture_.slabStrip, picture_, [this] { main_.sketchChanged(); }),
       filler_(case_, form_, main_, locale_), input_(inputContext()),
       document_(case_, state_, filler_, form_, main_, files_, fileDialog_, boxes_, *this),
       printing_(files_, boxes_, main_, printer_), deletion_(folders_, systemFileCalls()),
       diagram_(case_, sketch_) {
-    commands_ = commandTable();
-    main_.create([this](int id) { return commands_.contains(id); });
+    main_.listen(*this);
     form_.create(main_.mdiClient());
     setHelpContexts(main_.handle(), form_.handle());
     helpSystem_.setOwner(main_.handle());
@@ -106,37 +105,45 @@ bool Application::translateFlagKey(const MSG& message) {
 
 // Main window
 
-std::map<int, std::function<void()>> Application::commandTable() {
-    const auto deleting = [this](std::size_t item) {
-        return [this, item] { deleteFiles(deletionMenu[item].pattern); };
-    };
-    return {
-        {idNew, [this] { document_.newCase(settings_.workFolder); }},
-        {idOpen, [this] { document_.open(); }},
-        {idSave, [this] { document_.save(); }},
-        {idSaveAs, [this] { document_.saveAs(); }},
-        {idPrint, [this] { printChosen(); }},
-        {idPrinterSetup, [this] { setUpPrinter(); }},
-        {idExit, [this] { document_.exit(); }},
-        {idLineLoads, [this] { openLineLoads(lineLoads_, caseLineLoads); }},
-        {idFreeLineLoads, [this] { openLineLoads(freeLoads_, freeLineLoads); }},
-        {idRun, [this] { calculate(); }},
-        {idShowResult, [this] { showResult(); }},
-        {idPrintResult, [this] { printCurrent(); }},
-        {idDeleteResults, deleting(0)},
-        {idDeleteInputs, deleting(1)},
-        {idDeleteBoth, deleting(2)},
-        {idMoment, [this] { showMoments(); }},
-        {idImportant, [this] { showImportant(); }},
-    };
-}
-
 void Application::command(int id) {
-    const auto found = commands_.find(id);
-    if (found == commands_.end()) return;
     // However a file command was given: what is being typed belongs to the case it works on.
     if (id >= idNew && id <= idExit) endTyping();
-    found->second();
+    switch (id) {
+    case idNew:
+        return document_.newCase(settings_.workFolder);
+    case idOpen:
+        return document_.open();
+    case idSave:
+        return document_.save();
+    case idSaveAs:
+        return document_.saveAs();
+    case idPrint:
+        return printChosen();
+    case idPrinterSetup:
+        return setUpPrinter();
+    case idExit:
+        return document_.exit();
+    case idLineLoads:
+        return openLineLoads(lineLoads_, caseLineLoads);
+    case idFreeLineLoads:
+        return openLineLoads(freeLoads_, freeLineLoads);
+    case idRun:
+        return calculate();
+    case idShowResult:
+        return showResult();
+    case idPrintResult:
+        return printCurrent();
+    case idDeleteResults:
+    case idDeleteInputs:
+    case idDeleteBoth:
+        return deleteFiles(deletionMenu[static_cast<std::size_t>(id - idDeleteResults)].pattern);
+    case idMoment:
+        return showMoments();
+    case idImportant:
+        return showImportant();
+    default:
+        return;
+    }
 }
 
 void Application::endTyping() {

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-#include <map>
 #include <memory>
 
 #include "diagram/diagram_window.h"
@@ -86,8 +84,6 @@ class Application : private win32::WindowHost,
     void setResultFont(const std::string& face) override;
 
     win32::WindowHost& host() { return *this; }
-    /// What every menu item and toolbar button does, by its ID.
-    std::map<int, std::function<void()>> commandTable();
     bool translateFlagKey(const MSG& message);
     bool translateHelpKey(const MSG& message);
     void calculate();
@@ -112,7 +108,6 @@ class Application : private win32::WindowHost,
     DocumentState state_;
     Settings settings_;
     SketchPicture picture_;
-    std::map<int, std::function<void()>> commands_;
     bool ended_ = false;
     bool listening_ = false; ///< the form's events reach the rules
 

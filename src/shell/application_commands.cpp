@@ -1,4 +1,4 @@
-// The program's commands on results, files and line loads; the rest is in application_window.cpp.
+// The program's commands on results, files and line loads; the rest is in application.cpp.
 #include "diagram/diagram_commands.h"
 #include "files/deletion_window.h"
 #include "results/font_choice.h"

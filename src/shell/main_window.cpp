@@ -40,8 +40,8 @@ constexpr int flagLabelX = flagX + flagWidth + raster(10);
 
 } // namespace
 
-MainWindow::MainWindow(win32::WindowHost& host, MainEvents& events, const SketchPicture& sketch)
-    : Window(host), events_(events), sketch_(sketch), loadPicture_(host), slabStrip_(host) {}
+MainWindow::MainWindow(win32::WindowHost& host, const SketchPicture& sketch)
+    : Window(host), sketch_(sketch), loadPicture_(host), slabStrip_(host) {}
 
 MainWindow::~MainWindow() {
     destroy();
@@ -57,7 +57,6 @@ HMENU MainWindow::buildMenu() {
     HMENU submenu = nullptr;
     for (const MenuEntry& entry : menuTree) {
         const std::wstring caption = win32::wide(entry.caption);
-        const UINT state = hasCommand_(entry.id) ? MF_ENABLED : MF_GRAYED;
         const auto id = static_cast<UINT_PTR>(entry.id);
         switch (entry.kind) {
         case MenuEntry::menu:
@@ -66,7 +65,7 @@ HMENU MainWindow::buildMenu() {
             AppendMenuW(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(menu), caption.c_str());
             break;
         case MenuEntry::item:
-            AppendMenuW(menu, MF_STRING | state, id, caption.c_str());
+            AppendMenuW(menu, MF_STRING, id, caption.c_str());
             break;
         case MenuEntry::separator:
             AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
@@ -76,24 +75,22 @@ HMENU MainWindow::buildMenu() {
             AppendMenuW(menu, MF_POPUP, reinterpret_cast<UINT_PTR>(submenu), caption.c_str());
             break;
         case MenuEntry::submenuItem:
-            AppendMenuW(submenu, MF_STRING | state, id, caption.c_str());
+            AppendMenuW(submenu, MF_STRING, id, caption.c_str());
             break;
         case MenuEntry::plainItem:
-            AppendMenuW(bar, MF_STRING | state, id, caption.c_str());
+            AppendMenuW(bar, MF_STRING, id, caption.c_str());
             break;
         }
     }
     return bar;
 }
 
-void MainWindow::create(const std::function<bool(int id)>& hasCommand) {
-    hasCommand_ = hasCommand;
+void MainWindow::listen(MainEvents& events) {
+    events_ = &events;
     Window::create(L"VarnoMain", "", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, 0, nullptr, buildMenu(), {});
     // The menu tree is fixed, so the help command stands in the menu of the window itself.
     AppendMenuW(GetSystemMenu(handle(), FALSE), MF_STRING, idHelp, L"Hjälp\tF1");
     createParts();
-    for (const ToolbarKey& key : toolbarKeys)
-        toolbar_.setEnabled(key.id, hasCommand_(key.id));
     setDpi(win32::dpiOf(handle()));
 }
 
@@ -187,7 +184,7 @@ void MainWindow::layOut() {
     // them.
     ShowScrollBar(mdiClient_, SB_BOTH, FALSE);
     SetWindowPos(mdiClient_, nullptr, 0, top, client.right, height, SWP_NOZORDER | SWP_NOACTIVATE);
-    events_.clientResized(client.right, height);
+    events_->clientResized(client.right, height);
 }
 
 void MainWindow::placeSupportButtons() {
@@ -231,7 +228,7 @@ void MainWindow::setDiagramEnabled(bool enabled) {
     diagramEnabled_ = enabled;
     EnableMenuItem(GetMenu(handle()), diagramMenuPlace, MF_BYPOSITION | (enabled ? MF_ENABLED : MF_GRAYED));
     DrawMenuBar(handle());
-    toolbar_.setEnabled(idMoment, enabled && hasCommand_(idMoment));
+    toolbar_.setEnabled(idMoment, enabled);
 }
 
 void MainWindow::showFlag(int flag) {
@@ -251,7 +248,7 @@ void MainWindow::drawFlag(const DRAWITEMSTRUCT& item) const {
 LRESULT MainWindow::onActivate(WPARAM wParam, LPARAM lParam) {
     const bool comesBack = activationChanged(wParam, lParam);
     if (LOWORD(wParam) == WA_INACTIVE) return 0;
-    if (!comesBack) events_.activated();
+    if (!comesBack) events_->activated();
     if (!IsChild(handle(), GetFocus()) && !restoreFocus()) defaultProc(WM_ACTIVATE, wParam, lParam);
     return 0;
 }
@@ -259,17 +256,17 @@ LRESULT MainWindow::onActivate(WPARAM wParam, LPARAM lParam) {
 LRESULT MainWindow::onCommand(WPARAM wParam, LPARAM lParam) {
     const int id = LOWORD(wParam);
     if (id >= idFlag && id < idFlag + flagCount) {
-        if (HIWORD(wParam) == BN_CLICKED) events_.flagClicked(id - idFlag);
+        if (HIWORD(wParam) == BN_CLICKED) events_->flagClicked(id - idFlag);
         return 0;
     }
     if (id == idHelp) {
         sendHelpKey();
         return 0;
     }
-    if (hasCommand_(id)) {
+    if (id >= idNew && id <= idFreeLineLoads) {
         // A toolbar button leaves the focus where it is; the field being typed in is ended as "Arkiv" ends it.
-        if (reinterpret_cast<HWND>(lParam) == toolbar_.handle()) events_.endTyping();
-        events_.command(id);
+        if (reinterpret_cast<HWND>(lParam) == toolbar_.handle()) events_->endTyping();
+        events_->command(id);
         return 0;
     }
     return defaultProc(WM_COMMAND, wParam, lParam);
@@ -291,7 +288,7 @@ LRESULT MainWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_COMMAND:
         return onCommand(wParam, lParam);
     case WM_INITMENUPOPUP:
-        if (reinterpret_cast<HMENU>(wParam) == fileMenu_) events_.endTyping();
+        if (reinterpret_cast<HMENU>(wParam) == fileMenu_) events_->endTyping();
         break;
     case WM_CONTEXTMENU: {
         const auto window = reinterpret_cast<HWND>(wParam);
@@ -304,9 +301,9 @@ LRESULT MainWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             place = {box.left, box.bottom};
         }
         if (window == flagButton()) {
-            events_.flagMenu(place);
+            events_->flagMenu(place);
         } else {
-            events_.loadPictureMenu(place);
+            events_->loadPictureMenu(place);
         }
         return 0;
     }
@@ -328,7 +325,7 @@ LRESULT MainWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return onActivate(wParam, lParam);
     case WM_DPICHANGED: {
         setDpi(win32::dpiOf(handle()));
-        events_.dpiChanged(dpi_);
+        events_->dpiChanged(dpi_);
         const auto& box = *reinterpret_cast<const RECT*>(lParam);
         SetWindowPos(handle(), nullptr, box.left, box.top, box.right - box.left, box.bottom - box.top,
                      SWP_NOZORDER | SWP_NOACTIVATE);
@@ -336,19 +333,19 @@ LRESULT MainWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return 0;
     }
     case WM_CLOSE:
-        events_.closing();
+        events_->closing();
         return 0;
     case WM_QUERYENDSESSION:
-        return events_.closing() ? TRUE : FALSE;
+        return events_->closing() ? TRUE : FALSE;
     case WM_HELP:
-        events_.helpRequested(*reinterpret_cast<const HELPINFO*>(lParam));
+        events_->helpRequested(*reinterpret_cast<const HELPINFO*>(lParam));
         return TRUE;
     case WM_SYSCOMMAND:
         if ((wParam & 0xFFF0) != idHelp) break;
         sendHelpKey();
         return 0;
     case showErrorMessage:
-        events_.showRunTimeError(static_cast<int>(wParam));
+        events_->showRunTimeError(static_cast<int>(wParam));
         return 0;
     default:
         break;

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-
 #include "controls/control_ids.h"
 #include "controls/main_view.h"
 #include "input/sketch_picture.h"
@@ -42,11 +40,11 @@ class MainEvents {
 /// the flag of the load rules, and below it the MDI client that the input form fills.
 class MainWindow : public win32::Window, public MainView {
   public:
-    MainWindow(win32::WindowHost& host, MainEvents& events, const SketchPicture& sketch);
+    MainWindow(win32::WindowHost& host, const SketchPicture& sketch);
     ~MainWindow() override;
 
-    /// Creates the window, hidden. An item that has no command is greyed.
-    void create(const std::function<bool(int id)>& hasCommand);
+    /// Creates the window, hidden; from now on its events are told.
+    void listen(MainEvents& events);
     /// Shows it; the first time with room for a form of `form` pixels.
     void show(SIZE form);
     HWND mdiClient() const { return mdiClient_; }
@@ -81,7 +79,7 @@ class MainWindow : public win32::Window, public MainView {
     LRESULT onCommand(WPARAM wParam, LPARAM lParam);
     void sendHelpKey();
 
-    MainEvents& events_;
+    MainEvents* events_ = nullptr;
     const SketchPicture& sketch_;
     win32::PictureWindow loadPicture_;
     win32::PictureWindow slabStrip_;
@@ -90,7 +88,6 @@ class MainWindow : public win32::Window, public MainView {
     HWND flagLabel_ = nullptr;
     HMENU fileMenu_ = nullptr;
     win32::UniqueFont font_;
-    std::function<bool(int id)> hasCommand_;
     bool diagramEnabled_ = true;
     int dpi_ = USER_DEFAULT_SCREEN_DPI;
     int flag_ = -1;

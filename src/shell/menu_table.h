@@ -43,8 +43,7 @@ inline constexpr std::array menuTree{
     MenuEntry{MenuEntry::plainItem, "vikt", "Viktigt", idImportant},
 };
 
-/// Places of two top-level menus in the menu bar.
-inline constexpr int fileMenuPlace = 0;
+/// The place of "Diagram" in the menu bar.
 inline constexpr int diagramMenuPlace = 5;
 
 /// A button of the toolbar. It runs the menu item of its action; its tip is that item's caption.
