@@ -9,7 +9,6 @@
 #include "controls/control_spec.h"
 #include "controls/rule_sets.h"
 #include "shell/flag_painter.h"
-#include "shell/flag_pictures.h"
 #include "shell/menu_table.h"
 #include "win32/dpi.h"
 #include "win32/strings.h"
