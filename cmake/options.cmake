@@ -2,7 +2,8 @@
 add_library(varno_options INTERFACE)
 target_compile_features(varno_options INTERFACE cxx_std_20)
 target_compile_options(varno_options INTERFACE
-    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Werror)
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
+    $<$<BOOL:${VARNO_WARNINGS_AS_ERRORS}>:-Werror>)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     # GCC 12 sees overlapping copies in every inlined operator+ of a literal and a string; none of them is there.
     target_compile_options(varno_options INTERFACE -Wno-restrict)

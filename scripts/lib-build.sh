@@ -1,30 +1,46 @@
 # shellcheck shell=bash disable=SC2154 # names from lib.sh
 # Building, and the work folder that the program is started in. Sourced after lib.sh.
 
-# Configures and builds one of the presets of CMakePresets.json. Two builds in the same folders would break each other,
-# so ./run waits for ./test here.
+# build_preset PRESET OPTIONS TARGETS: configures one of the presets of CMakePresets.json and builds targets of it; the
+# last two are names of arrays, and no target stands for all. Two builds in the same folders would break each other, so
+# ./run waits for ./test here.
 build_preset() {
     mkdir -p -- "$project/build"
     exec 8>"$project/build/lock"
     flock 8
     local status=0
-    build_preset_alone "$1" 8>&- || status=$?
+    build_preset_alone "$@" 8>&- || status=$?
     exec 8>&-
     return "$status"
 }
 
 build_preset_alone() {
-    local folder=$project/build/$1 log=$project/build/configure-$1.log
-    say "Building: $1"
+    local preset=$1 folder=$project/build/$1
+    local -n build_options=$2 build_targets=$3
     # CMake refuses the cache of a checkout that has been moved.
     if [[ -f $folder/CMakeCache.txt ]] && ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$project" "$folder/CMakeCache.txt"; then
         rm -rf --one-file-system -- "$folder"
     fi
-    if ! (cd -- "$project" && cmake --preset "$1") >"$log" 2>&1; then
-        cat -- "$log"
-        return 1
-    fi
-    cmake --build "$folder"
+    say "Building: $preset"
+    progress "configuring"
+    (cd -- "$project" && logged "configure-$preset" cmake --preset "$preset" "${build_options[@]}") || return 1
+    watched "build-$preset" ninja_progress cmake --build "$folder" ${build_targets:+--target "${build_targets[@]}"}
+}
+
+# Ninja's lines begin with "[12/84] ".
+ninja_progress() {
+    local line
+    while IFS= read -r line; do
+        [[ ! $line =~ ^\[([0-9]+)/([0-9]+)\] ]] || progress "building ${BASH_REMATCH[1]} of ${BASH_REMATCH[2]}"
+    done
+}
+
+# What a build folder was configured with stands, as a change would build everything anew: an option of CMake with the
+# folder's value, or this one where it has none.
+kept_or() {
+    local cached
+    cached=$(sed -n "s/^$2:[A-Z]*=//p" "$project/build/$1/CMakeCache.txt" 2>/dev/null || true)
+    printf -- '-D%s=%s' "$2" "${cached:-$3}"
 }
 
 # The path of a program that was built for Windows.

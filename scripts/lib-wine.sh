@@ -11,8 +11,12 @@ wine_root=$cache/wine-root-$wine_root_key
 # Where 32-bit programs look for their loader.
 wine_loader_link=/lib/ld-linux.so.2
 
-# Holds the locales, the prefix that all others are copied from, and those copies.
-wine_home=$cache/wine-$wine_root_key
+# Holds the locales, the prefix that all others are copied from, and those copies. They are made anew when what makes
+# or checks them has changed.
+wine_home=$cache/wine-$(
+    { printf '%s' "$wine_root_key" && cat -- "$scripts"/{wine-setup,lib-wine-prefix.sh,wine-check.cpp}; } |
+        sha256sum | cut -c1-12
+)
 wine_template=$wine_home/template
 wine_locales=(sv_SE.UTF-8 en_US.UTF-8)
 # "root", "bare" (the root, run as it lies), or "host" and the version of the machine's own Wine. Written last of all by wine-setup.
@@ -75,8 +79,9 @@ set_root_world() {
     world+=(--chdir "$(realpath -- "$PWD")" --)
 }
 
-# Runs a command under the lock of descriptor 9, which the Wine server, living on after its caller, must not inherit.
-in_world() { "${world[@]}" "$@" </dev/null 9>&-; }
+# Runs a command under the locks of descriptors 7 and 9, which the Wine server, living on after its caller, must not
+# inherit.
+in_world() { "${world[@]}" "$@" </dev/null 7>&- 9>&-; }
 
 wine_is_set_up() {
     local choice

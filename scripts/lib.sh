@@ -1,8 +1,9 @@
 # shellcheck shell=bash disable=SC2034 # names for the scripts that source this file
-# Shared by the project's scripts: where things lie, messages, and the installing of packages.
+# Shared by the project's scripts: where things lie, messages, progress, and the installing of packages.
 
 project=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd)
 scripts=$project/scripts
+logs=$project/build/logs
 # Some build machines run without HOME.
 : "${HOME:=$(getent passwd "$(id -u)" | cut -d: -f6)}"
 export HOME
@@ -16,6 +17,46 @@ say() { printf '== %s\n' "$*"; }
 fail() {
     printf 'FAILED: %s\n' "$*" >&2
     exit 1
+}
+
+# How far the thing is that is being done. On a terminal it is one line that is written over; elsewhere, in a log, it
+# would be a line a moment, so that one comes only now and then.
+progress() {
+    if [[ -t 1 ]]; then
+        printf '\r   %s\e[K' "$1"
+    elif ((SECONDS >= ${progress_due:-0})); then
+        printf '   %s\n' "$1"
+        progress_due=$((SECONDS + 10))
+    fi
+}
+
+end_progress() { [[ ! -t 1 ]] || printf '\r\e[K'; }
+
+# watched LOG FILTER COMMAND...: runs a command whose output goes to a log, through a filter that tells from its lines
+# how far it is. When it fails, the end of the log is shown.
+watched() {
+    local log=$logs/$1.log filter=$2 status=0
+    shift 2
+    mkdir -p -- "$logs"
+    "$@" 2>&1 </dev/null | tee -- "$log" | "$filter" || status=${PIPESTATUS[0]}
+    end_progress
+    ((status == 0)) || show_log "$log"
+    return "$status"
+}
+
+# logged LOG COMMAND...: the same for a command that does not tell how far it is.
+logged() {
+    local log=$logs/$1.log status=0
+    shift
+    mkdir -p -- "$logs"
+    "$@" >"$log" 2>&1 </dev/null || status=$?
+    ((status == 0)) || show_log "$log"
+    return "$status"
+}
+
+show_log() {
+    printf 'The end of %s:\n' "$1" >&2
+    tail -n 150 -- "$1" | sed 's/^/    /' >&2
 }
 
 # A Unix path as Wine's drive Z: shows it.
@@ -37,14 +78,25 @@ is_installed() {
     [[ $(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null) == installed ]]
 }
 
+# apt reports "dlstatus:1:23.4:..." while it downloads and "pmstatus:PACKAGE:45.6:..." while it installs.
+apt_progress() {
+    local kind percent
+    while IFS=: read -r kind _ percent _; do
+        case $kind in
+            dlstatus) progress "downloading: ${percent%.*} %" ;;
+            pmstatus) progress "installing: ${percent%.*} %" ;;
+        esac
+    done
+}
+
 apt_install() {
-    as_root env DEBIAN_FRONTEND=noninteractive apt-get install --yes --quiet --no-install-recommends \
-        -o DPkg::Lock::Timeout=600 "$@" </dev/null
+    watched packages apt_progress as_root env DEBIAN_FRONTEND=noninteractive apt-get install --yes --quiet \
+        --no-install-recommends -o DPkg::Lock::Timeout=600 -o APT::Status-Fd=1 "$@"
 }
 
 apt_update() {
     say "Updating apt's package index"
-    as_root apt-get update --quiet </dev/null
+    logged package-index as_root apt-get update --quiet
 }
 
 # Installs those of the packages that are missing. Packages are asked for by name, not by the command they bring: a
@@ -52,7 +104,7 @@ apt_update() {
 need_packages() {
     local package missing=()
     command -v apt-get >/dev/null ||
-        fail "this set-up knows Debian's apt-get only. Needed here are the counterparts of: $*"
+        fail "this set-up knows Debian's apt-get only. Needed here are the counterparts of Debian's packages: $*"
     for package in "$@"; do
         is_installed "$package" || missing+=("$package")
     done
@@ -61,8 +113,8 @@ need_packages() {
     if [[ $(id -u) != 0 ]] && ! command -v sudo >/dev/null; then
         fail "packages are missing and there is no sudo. As root: apt-get install ${missing[*]}"
     fi
-    say "Installing packages: ${missing[*]}"
-    compgen -G '/var/lib/apt/lists/*_Packages*' >/dev/null || apt_update
+    compgen -G '/var/lib/apt/lists/*_Packages*' >/dev/null || apt_update || true
+    say "Installing ${#missing[@]} packages and what they need: ${missing[*]}"
     # An index that is out of date shows as a failed install.
     apt_install "${missing[@]}" || {
         apt_update

@@ -1,22 +1,26 @@
 # shellcheck shell=bash disable=SC2034 # read by the scripts that source this file
 # Every package that the scripts install, and what it is for.
 
-# To configure and build on this machine: the core, varnotool, the help, the tests and the benchmarks.
-native_packages=(
+# To build varno.exe, its companions and its help for 32-bit Windows.
+build_packages=(
     cmake
     ninja-build
-    g++
-    googletest
-    nlohmann-json3-dev
-    libcli11-dev
-    libbenchmark-dev
+    g++-mingw-w64-i686-posix
     halibut
     python3
 )
 
-# To build varno.exe and its companions for 32-bit Windows, besides the packages above.
-cross_packages=(
-    g++-mingw-w64-i686-posix
+# What the tests need besides, and varnotool, here and for Windows.
+test_packages=(
+    g++
+    googletest
+    nlohmann-json3-dev
+    libcli11-dev
+)
+
+# For the benchmarks (preset native-release).
+bench_packages=(
+    libbenchmark-dev
 )
 
 # To show windows without a screen and to take pictures of them.
@@ -24,6 +28,11 @@ display_packages=(
     xvfb
     xdotool
     imagemagick
+)
+
+# To see how windows stand where a window manager runs.
+window_manager_packages=(
+    openbox
 )
 
 # To print without a printer and to look at what was printed.
@@ -34,15 +43,31 @@ printing_packages=(
     poppler-utils
 )
 
-# To make the Wine root when no `wine` on the PATH runs a 32-bit program.
+# For a Wine that was on the machine before: the locales that ours are made of, and the faces that stand in for Windows'.
+host_wine_packages=(
+    locales
+    fonts-liberation
+)
+
+# To make the Wine root when no Wine of the machine's own will do.
 wine_root_tools=(
     mmdebstrap
     arch-test
     bubblewrap
 )
 
-# What goes into the Wine root: the release and its 32-bit packages. A change here makes a new root.
-wine_root_suite=bookworm
+# What goes into the Wine root: the release and its 32-bit packages. A change here makes a new root. It is Debian 12 on
+# every Debian: that Wine also runs as it lies, which Debian 13's does not ("failed to load l_intl.nls"). Ubuntu's mirrors
+# carry no Debian, so its own release serves there.
+read -r wine_root_suite wine_root_components < <(
+    # shellcheck source=/dev/null
+    source /etc/os-release 2>/dev/null || true
+    if [[ ${ID:-} == ubuntu || " ${ID_LIKE:-} " == *" ubuntu "* ]]; then
+        printf '%s main,universe\n' "${UBUNTU_CODENAME:-noble}"
+    else
+        printf 'bookworm main\n'
+    fi
+)
 wine_root_packages=(
     wine
     wine32

@@ -1,5 +1,6 @@
 #include "shell/flag_pictures.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <numbers>

@@ -4,6 +4,7 @@
 #include "tests/engine/support.h"
 
 #include <algorithm>
+#include <iterator>
 #include <gtest/gtest.h>
 
 namespace varno::engine {

@@ -1,15 +1,16 @@
 // Drives the program in the current folder through a typical run and has every window on the way
 // photographed. The exit code is zero only when every step went as it should.
-//
-// A picture is asked for by writing its name to the file shot-request.txt; whoever takes it deletes the file.
 #include <windows.h>
 
 #include <cstdio>
+#include <functional>
 #include <string>
+#include <vector>
 
 #include "driver/keyboard.h"
 #include "driver/program.h"
 #include "driver/wait.h"
+#include "tour_camera.h"
 #include "tour_paper.h"
 #include "win32/strings.h"
 
@@ -47,12 +48,20 @@ class Tour {
     }
     bool has(const char* file) const { return fileExists(folder_ + "\\" + file); }
 
-    void picture(const std::string& name) {
-        char number[16];
-        std::snprintf(number, sizeof number, "%02d-", ++pictures_);
-        const std::string request = folder_ + "\\shot-request.txt";
-        writeFile(request, number + name + "\n");
-        requireSoon([&] { return !fileExists(request); }, "the picture " + name + " was taken");
+    void picture(const std::string& name, const Control& window, const std::vector<Control>& controls) {
+        camera_.take(name, window, controls);
+    }
+    void pictureOfMain(const std::string& name, const std::vector<varno::Control>& fields) {
+        std::vector<Control> shown{program_.main().item(idToolbar), program_.main().item(idLoadPicture),
+                                   program_.main().item(idSlabStrip)};
+        for (const varno::Control field : fields)
+            shown.push_back(program_.field(field));
+        picture(name, program_.main(), shown);
+    }
+    void pictureOfFiles(const std::string& name, const Control& dialog) {
+        picture(name, dialog,
+                {dialog.item(idFileName), dialog.item(idDirectoryList), dialog.item(idFileList),
+                 dialog.item(idOkButton)});
     }
     void press(const Control& window, int button) const {
         window.item(button).click();
@@ -87,22 +96,22 @@ class Tour {
 
     const std::string folder_ = currentFolder();
     Program program_{StartOptions{folder_, folder_ + "\\varno.exe", 0}};
-    int pictures_ = 0;
-    PaperTour paper_{program_, folder_, [this](const std::string& name) { picture(name); }};
+    Camera camera_{program_, folder_};
+    PaperTour paper_{program_, folder_, camera_};
 };
 
 void Tour::startUp() {
     const Control notice = program_.window(noticeClass);
-    picture("nyheter");
+    picture("nyheter", notice, {notice.item(idHideNotice), notice.item(idOkButton)});
     notice.item(idHideNotice).click();
     requireSoon([&] { return notice.item(idHideNotice).checked(); }, "the box is ticked");
     press(notice, idOkButton);
-    program_.window(disclaimerClass);
+    const Control disclaimer = program_.window(disclaimerClass);
     require(readFile(folder_ + "\\varno.ver") == "\x33\x33\xE3\x40", "the notice is dismissed");
-    picture("viktigt");
+    picture("viktigt", disclaimer, {disclaimer.item(idOkButton)});
     program_.passStartUp();
     require(program_.caption() == "NAMNLÖS.IND", "the default case is shown");
-    picture("huvudfonster");
+    pictureOfMain("huvudfonster", {Field::rubrik, {Field::spv, 1}, {Field::flast, 1}, Field::konsv});
 }
 
 // Once round the flags, and a load category that fixes the loads; both end where they began.
@@ -115,14 +124,15 @@ void Tour::loadRules() {
         flag(shown).clickInto();
         shown = shown % 6 + 1;
         requireSoon([&] { return flag(shown).visible(); }, "the next flag comes");
-        if (shown == 1) picture("svenska-regler");
-        if (shown == 3) picture("danska-regler");
+        const auto seen = [&](const char* name) { picture(name, program_.main(), {flag(shown)}); };
+        if (shown == 1) seen("svenska-regler");
+        if (shown == 3) seen("danska-regler");
     } while (shown != first);
 
     const Control category = program_.field({Field::lokt});
     category.choose("B-Kontor   ");
     requireSoon([&] { return !program_.field({Field::flast, 1}).enabled(); }, "the category fixes the loads");
-    picture("lastkategori");
+    pictureOfMain("lastkategori", {Field::lokt, {Field::flast, 1}});
     category.choose("Valfri last");
     requireSoon(
         [&] {
@@ -148,19 +158,21 @@ void Tour::input() {
     tabTo({Field::konsh});
     // The sign is the user's.
     requireSoon([&] { return program_.field(Field::konsv).text().ends_with("20"); }, "the field is tidied");
-    picture("indata");
+    pictureOfMain("indata",
+                  {Field::rubrik, {Field::spv, 3}, {Field::plast, 1}, {Field::flast, 3}, Field::konsv});
 }
 
 void Tour::saveAs() {
     program_.command(idRun);
     require(program_.message().text == "Du måste spara Filen först !", "an unsaved case is refused");
-    picture("spara-forst");
+    const Control message = program_.window(messageBoxClass);
+    picture("spara-forst", message, {message.item(IDOK)});
     program_.answer();
 
     program_.command(idSaveAs);
     const Control dialog = program_.window(fileDialogClass);
     requireSoon([&] { return program_.focused() == dialog.item(idFileName); }, "the name has the focus");
-    picture("spara-som");
+    pictureOfFiles("spara-som", dialog);
     keyboard::type("hus1");
     requireSoon([&] { return dialog.item(idFileName).text() == "hus1"; }, "the name is typed");
     keyboard::press(VK_RETURN);
@@ -177,7 +189,7 @@ void Tour::calculate() {
     require(viewer.item(idFileTextBox).text().starts_with("\r\n"), "the text begins with an empty line");
     require(has("HUS1.res") && has("momk.dat") && has("~indata~.tmp"), "the engine has run");
     require(program_.diagramEnabled(), "the diagram can be drawn");
-    picture("utdata");
+    picture("utdata", viewer, {viewer.item(idFileTextBox), viewer.item(idReturn)});
 }
 
 void Tour::chooseFont() {
@@ -194,10 +206,11 @@ void Tour::chooseFont() {
     chooser.item(idInstalledFonts).choose(face);
     requireSoon([&] { return chooser.item(idCurrentFont).rows() == std::vector<std::string>{face}; },
                 "the chosen font is named");
-    picture("typsnitt");
+    picture("typsnitt", chooser,
+            {chooser.item(idInstalledFonts), chooser.item(idStoredFont), chooser.item(idCurrentFont)});
     press(chooser, idOkButton);
     require(has("Varnfnt.ini"), "the font is stored");
-    picture("utdata-i-valt-typsnitt");
+    picture("utdata-i-valt-typsnitt", viewer, {viewer.item(idFileTextBox)});
     press(viewer, idReturn);
 }
 
@@ -205,18 +218,18 @@ void Tour::showAgain() {
     program_.command(idOpen);
     const Control dialog = program_.window(fileDialogClass);
     require(dialog.text() == "Välj Indatafil", "the file dialog is shown");
-    picture("valj-indatafil");
+    pictureOfFiles("valj-indatafil", dialog);
     press(dialog, idCancelButton);
 
     program_.command(idShowResult);
     const Control viewer = program_.window(viewerClass);
-    picture("resultat-pa-skarm");
+    picture("resultat-pa-skarm", viewer, {viewer.item(idFileTextBox), viewer.item(idReturn)});
     press(viewer, idReturn);
 
     program_.command(idImportant);
     const Control disclaimer = program_.window(disclaimerClass);
     require(program_.main().enabled(), "the window stands beside the program");
-    picture("viktigt-fran-menyn");
+    picture("viktigt-fran-menyn", disclaimer, {disclaimer.item(idOkButton)});
     press(disclaimer, idOkButton);
 }
 
@@ -225,7 +238,8 @@ void Tour::exit() {
     program_.command(idExit);
     const Control prompt = program_.window(savePromptClass);
     require(prompt.item(idQuestion).text() == "Vill Du spara ändringarna i HUS1.IND ?", "the prompt asks");
-    picture("avsluta");
+    picture("avsluta", prompt,
+            {prompt.item(idQuestion), prompt.item(idYesButton), prompt.item(idCancelButton)});
     press(prompt, idCancelButton);
     program_.command(idSave);
     program_.command(idExit);
@@ -237,6 +251,8 @@ void Tour::exit() {
 } // namespace varno::gui
 
 int main() {
+    // Places are compared with the screen's, which a process that knows nothing of scaling is told wrongly.
+    SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
     try {
         varno::gui::Tour tour;
         try {

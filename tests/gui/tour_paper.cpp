@@ -13,9 +13,8 @@ Control box(const Control& editor, LineLoadBox which, int row = 0) {
 
 } // namespace
 
-PaperTour::PaperTour(const Program& program, std::string folder,
-                     std::function<void(const std::string&)> picture)
-    : program_(program), folder_(std::move(folder)), picture_(std::move(picture)) {}
+PaperTour::PaperTour(const Program& program, std::string folder, Camera& camera)
+    : program_(program), folder_(std::move(folder)), camera_(camera) {}
 
 void PaperTour::require(bool wanted, const std::string& what) const {
     if (!wanted) throw GuiError("not so: " + what);
@@ -38,11 +37,21 @@ void PaperTour::typeInto(const Control& field, const std::string& text) const {
     requireSoon([&] { return field.text() == text; }, "a box takes \"" + text + "\"");
 }
 
+// On every page, what is more than its number; and this many words in all.
+void PaperTour::requireText(const Print& print, std::size_t words) const {
+    std::size_t found = 0;
+    for (const PrintedPage& page : print.pages) {
+        require(page.lines.size() > 1 && page.words.size() > 2, "a printed page holds text");
+        found += page.words.size();
+    }
+    require(found >= words, "the printed pages hold text");
+}
+
 void PaperTour::keep(const Print& print, const std::string& name) const {
     writeFile(folder_ + "\\" + name, readFile(print.pdf));
 }
 
-void PaperTour::lineLoads() const {
+void PaperTour::lineLoads() {
     program_.command(idLineLoads);
     const Control editor = program_.window("VarnoLineLoads");
     const Control count = box(editor, LineLoadBox::nllast);
@@ -55,7 +64,8 @@ void PaperTour::lineLoads() const {
     typeInto(box(editor, LineLoadBox::lllast, row), "8,5");
     count.clickInto();
     requireSoon([&] { return box(editor, LineLoadBox::lllast, row).text() != "8,5"; }, "the load is tidied");
-    picture_("linjelaster");
+    camera_.take("linjelaster", editor,
+                 {count, box(editor, LineLoadBox::llfnr, row), box(editor, LineLoadBox::lllast, row)});
     editor.post(WM_COMMAND, idLayout);
     program_.waitGone(editor);
 }
@@ -69,14 +79,15 @@ void PaperTour::printAndDraw() {
 void PaperTour::printResult() {
     program_.clickToolbar(idPrintResult);
     const Print print = prints_.next();
-    require(!print.pages.empty() && print.pages[0].lines.at(0).ends_with("sid 1"), "page 1 is numbered");
+    requireText(print, 100);
+    require(print.pages.at(0).lines.at(0).ends_with("sid 1"), "page 1 is numbered");
     keep(print, "result.pdf");
 }
 
-void PaperTour::plotMoments() const {
+void PaperTour::plotMoments() {
     program_.command(idMoment);
     const Control diagram = program_.window("VarnoMomkurva");
-    picture_("momentdiagram");
+    camera_.take("momentdiagram", diagram, {diagram.item(idDiagramPicture), diagram.item(idPlot)});
     diagram.item(idPlot).click();
     // A question is answered when the pass has run.
     diagram.item(idPlot).send(WM_NULL);
@@ -85,17 +96,17 @@ void PaperTour::plotMoments() const {
     program_.waitGone(diagram);
 }
 
-void PaperTour::deleteFile() const {
+void PaperTour::deleteFile() {
     writeFile(folder_ + "\\GAMMAL.RES", "gammalt resultat\r\n");
     program_.command(idDeleteResults);
     const Control window = program_.window("VarnoDelFile");
     const Control files = window.item(idFileList);
     files.send(LB_SETSEL, TRUE, 0);
-    picture_("ta-bort-filer");
+    camera_.take("ta-bort-filer", window, {files, window.item(idDelete)});
     window.item(idDelete).click();
     const Control question = program_.window("VarnoVeri");
     require(question.item(idFileName).text() == "GAMMAL.RES", "the old result is asked for");
-    picture_("bekrafta");
+    camera_.take("bekrafta", question, {question.item(idFileName), question.item(idYesButton)});
     press(question, idYesButton);
     requireSoon([&] { return files.send(LB_GETCOUNT) == 1; }, "one result is left");
     require(!fileExists(folder_ + "\\GAMMAL.RES"), "the old one is deleted");
@@ -104,6 +115,7 @@ void PaperTour::deleteFile() const {
 
 void PaperTour::takePlot() {
     const Print print = prints_.next();
+    requireText(print, 5);
     require(print.pages.size() == 1 && print.pages[0].picture.count(RGB(0x80, 0, 0)) > 100,
             "the red curve is on paper");
     keep(print, "diagram.pdf");

@@ -1,5 +1,7 @@
 #include "results/calculation_run.h"
 
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include "support/fake_form.h"
