@@ -57,7 +57,7 @@ make_wine_root() {
     watched wine-root root_progress as_root mmdebstrap --verbose --architectures=i386 --variant=essential \
         --format=directory --aptopt="$apt_options" \
         --include="$(IFS=, && printf '%s' "${wine_root_packages[*]}")" \
-        --dpkgopt='path-exclude=/usr/share/man/*' --dpkgopt='path-exclude=/usr/share/doc/*' \
+        --dpkgopt=force-unsafe-io --dpkgopt='path-exclude=/usr/share/man/*' --dpkgopt='path-exclude=/usr/share/doc/*' \
         --dpkgopt='path-exclude=/usr/share/locale/*' \
         "$wine_root_suite" "$new" "deb $options $uri $wine_root_suite ${wine_root_components//,/ }" ||
         fail "the Wine root could not be made. Install a Wine that runs 32-bit programs instead (Debian: wine, wine32)"

@@ -94,6 +94,46 @@ wine_is_set_up() {
     esac
 }
 
+# The packages that setting up Wine takes besides, so that they come with the others: apt's own work takes longest.
+wine_packages() {
+    wine_is_set_up || {
+        if host_wine_version >/dev/null; then
+            printf '%s\n' "${host_wine_packages[@]}"
+        else
+            printf '%s\n' "${wine_root_tools[@]}"
+        fi
+    }
+}
+
+# Sets Wine up while something else is being done, building for one: neither needs the other. Where a password may be
+# asked for it is done at once.
+begin_wine_setup() {
+    wine_setup=
+    wine_is_set_up && return 0
+    if [[ $(id -u) != 0 ]] && ! sudo -n true 2>/dev/null; then
+        "$scripts/wine-setup"
+        return
+    fi
+    mkdir -p -- "$logs"
+    say "Setting up Wine meanwhile"
+    "$scripts/wine-setup" >"$logs/wine-setup.log" 2>&1 </dev/null &
+    wine_setup=$!
+}
+
+# Waits for the end of it and says what there is to say.
+end_wine_setup() {
+    local log=$logs/wine-setup.log status=0
+    [[ -n $wine_setup ]] || return 0
+    while kill -0 "$wine_setup" 2>/dev/null; do
+        progress "Wine: $(tail -n 1 -- "$log" | sed 's/^[= ]*//')"
+        sleep 0.2
+    done
+    end_progress
+    wait "$wine_setup" || status=$?
+    grep -E '^(==|FAILED)' -- "$log" || true
+    ((status == 0)) || fail "Wine could not be set up; $log tells more"
+}
+
 # Gives the programs started from here on a folder of prefixes of their own, gone when the caller calls the second.
 # It lies in the cache for the sake of the file system: Wine's libraries are shared with the template there.
 take_own_wine_home() {

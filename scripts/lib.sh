@@ -56,7 +56,8 @@ logged() {
 
 show_log() {
     printf 'The end of %s:\n' "$1" >&2
-    tail -n 150 -- "$1" | sed 's/^/    /' >&2
+    # Ninja's steps that went well say nothing about the one that did not, nor do apt's percentages.
+    grep -avE '^\[[0-9]+/[0-9]+\] |^(dl|pm)status:' -- "$1" | tail -n 150 | sed 's/^/    /' >&2
 }
 
 # A Unix path as Wine's drive Z: shows it.

@@ -46,10 +46,11 @@ class Check {
 void Check::metric(const char* name, int index, int at100, int at150) {
     const int found = GetSystemMetrics(index);
     const int scaled = GetSystemMetricsForDpi(index, 144);
-    require(found >= at100 && found <= at100 + 1,
-            std::string(name) + " of " + std::to_string(found) + " pixels instead of " + std::to_string(at100));
+    require(found >= at100 && found <= at100 + 1, std::string(name) + " of " + std::to_string(found) +
+                                                      " pixels instead of " + std::to_string(at100));
     require(scaled >= at150 && scaled <= at150 + 2, std::string(name) + " of " + std::to_string(scaled) +
-                                                        " pixels at 150 % instead of " + std::to_string(at150));
+                                                        " pixels at 150 % instead of " +
+                                                        std::to_string(at150));
 }
 
 void Check::metrics() {
@@ -75,7 +76,8 @@ void Check::font(const wchar_t* face, const char* name, bool fixedPitch) {
     const HDC memory = CreateCompatibleDC(nullptr);
     const HBITMAP bitmap = CreateBitmap(side, side, 1, 1, nullptr);
     SelectObject(memory, bitmap);
-    const HFONT font = CreateFontW(-16, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0, 0, 0, face);
+    const HFONT font = CreateFontW(-16, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0, 0,
+                                   fixedPitch ? FIXED_PITCH | FF_MODERN : VARIABLE_PITCH | FF_SWISS, face);
     SelectObject(memory, font);
     TEXTMETRICW size{};
     GetTextMetricsW(memory, &size);
@@ -111,8 +113,8 @@ void Check::fonts() {
 void Check::screen() {
     const HMENU bar = CreateMenu();
     AppendMenuW(bar, MF_STRING, 1, L"Arkiv");
-    const HWND window = CreateWindowW(L"STATIC", L"Prov", WS_OVERLAPPEDWINDOW | SS_BLACKRECT, 10, 10, 300, 200, nullptr, bar,
-                                      nullptr, nullptr);
+    const HWND window = CreateWindowW(L"STATIC", L"Prov", WS_OVERLAPPEDWINDOW | SS_BLACKRECT, 10, 10, 300,
+                                      200, nullptr, bar, nullptr, nullptr);
     require(window != nullptr, "windows on the display");
     if (window == nullptr) return;
     ShowWindow(window, SW_SHOW);
@@ -135,8 +137,8 @@ void Check::screen() {
         Sleep(20);
     }
     require(client.right >= 280 && client.right <= 300 && client.bottom >= 140 && client.bottom <= 180,
-            "room in a window with a menu: " + std::to_string(client.right) + " x " + std::to_string(client.bottom) +
-                " pixels of 300 x 200");
+            "room in a window with a menu: " + std::to_string(client.right) + " x " +
+                std::to_string(client.bottom) + " pixels of 300 x 200");
     require(drawn, "windows that can be seen");
     DestroyWindow(window);
 }
@@ -146,7 +148,8 @@ void Check::printer(const char* text) {
     DWORD count = 0;
     EnumPrintersW(PRINTER_ENUM_LOCAL | PRINTER_ENUM_CONNECTIONS, nullptr, 4, nullptr, 0, &needed, &count);
     std::vector<BYTE> list(std::max<DWORD>(needed, 1));
-    EnumPrintersW(PRINTER_ENUM_LOCAL | PRINTER_ENUM_CONNECTIONS, nullptr, 4, list.data(), needed, &needed, &count);
+    EnumPrintersW(PRINTER_ENUM_LOCAL | PRINTER_ENUM_CONNECTIONS, nullptr, 4, list.data(), needed, &needed,
+                  &count);
     wchar_t name[MAX_PATH] = L"";
     DWORD length = MAX_PATH;
     const bool known = count > 0 && GetDefaultPrinterW(name, &length);

@@ -111,7 +111,7 @@ void Tour::startUp() {
     picture("viktigt", disclaimer, {disclaimer.item(idOkButton)});
     program_.passStartUp();
     require(program_.caption() == "NAMNLÖS.IND", "the default case is shown");
-    pictureOfMain("huvudfonster", {Field::rubrik, {Field::spv, 1}, {Field::flast, 1}, Field::konsv});
+    pictureOfMain("huvudfonster", {{Field::rubrik}, {Field::spv, 1}, {Field::flast, 1}, {Field::konsv}});
 }
 
 // Once round the flags, and a load category that fixes the loads; both end where they began.
@@ -132,7 +132,7 @@ void Tour::loadRules() {
     const Control category = program_.field({Field::lokt});
     category.choose("B-Kontor   ");
     requireSoon([&] { return !program_.field({Field::flast, 1}).enabled(); }, "the category fixes the loads");
-    pictureOfMain("lastkategori", {Field::lokt, {Field::flast, 1}});
+    pictureOfMain("lastkategori", {{Field::lokt}, {Field::flast, 1}});
     category.choose("Valfri last");
     requireSoon(
         [&] {
@@ -159,7 +159,7 @@ void Tour::input() {
     // The sign is the user's.
     requireSoon([&] { return program_.field(Field::konsv).text().ends_with("20"); }, "the field is tidied");
     pictureOfMain("indata",
-                  {Field::rubrik, {Field::spv, 3}, {Field::plast, 1}, {Field::flast, 3}, Field::konsv});
+                  {{Field::rubrik}, {Field::spv, 3}, {Field::plast, 1}, {Field::flast, 3}, {Field::konsv}});
 }
 
 void Tour::saveAs() {
