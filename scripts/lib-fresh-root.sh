@@ -33,7 +33,7 @@ make_root() {
 clone_project() {
     git -C "$project" bundle create --quiet "$folder/varno.bundle" HEAD
     as_root mv -- "$folder/varno.bundle" "$root/varno.bundle"
-    as_root chroot "$root" git clone --quiet /varno.bundle /varno
+    as_root chroot "$root" git -c advice.detachedHead=false clone --quiet /varno.bundle /varno
     as_root rm -- "$root/varno.bundle"
 }
 
