@@ -15,13 +15,15 @@ make_root() {
     [[ ! -e $root ]] || drop_root
     apt_options=$(mktemp)
     machine_apt_options >"$apt_options"
-    logged fresh-root as_root mmdebstrap --variant=apt --include=git --format=directory --aptopt="$apt_options" \
+    logged fresh-root as_root mmdebstrap --variant=apt --include="git${compiled:+,ccache}" --format=directory --aptopt="$apt_options" \
         "$release" "$root" "$(release_source)" || fail "the root could not be made"
     rm -f -- "$apt_options"
     # The keys' paths are the machine's; in the root its own keyring serves.
     as_root sed -i 's/^deb \[[^]]*\]/deb/' "$root/etc/apt/sources.list"
     as_root cp -L -- /etc/resolv.conf /etc/hosts "$root/etc/"
     as_root sh -c "rm -rf '$root/var/lib/apt/lists/'* '$root/var/cache/apt/archives/'*.deb"
+    [[ -z $compiled ]] || mkdir -p -- "$compiled"
+    as_root mkdir -p -- "$root/ccache"
     clone_project
     [[ $views != broken ]] || {
         printf '#!/bin/sh\nexit 1\n' | as_root tee "$root/usr/local/bin/bwrap" >/dev/null
@@ -43,7 +45,9 @@ root_environment=(
 )
 
 enter_root() {
+    [[ -z $compiled ]] || root_environment+=(CMAKE_CXX_COMPILER_LAUNCHER=ccache CCACHE_DIR=/ccache)
     [[ $views != yes ]] || return 0
+    [[ -z $compiled ]] || as_root mount --bind "$compiled" "$root/ccache"
     as_root mount -t proc proc "$root/proc"
     as_root mount -t tmpfs tmpfs "$root/dev/shm" 2>/dev/null || true
     as_root mount -t devpts -o newinstance,ptmxmode=666 devpts "$root/dev/pts" 2>/dev/null || true
@@ -52,8 +56,10 @@ enter_root() {
 # in_root COMMAND LINE. A root that is only changed into cannot show its programs a file system of their own, as it is
 # not the file system that the kernel knows; one that is a whole view can.
 in_root() {
+    local shared=()
     if [[ $views == yes ]]; then
-        as_root bwrap --dev-bind "$root" / --dev /dev --proc /proc --unshare-pid --die-with-parent --cap-add ALL \
+        [[ -z $compiled ]] || shared=(--bind "$compiled" /ccache)
+        as_root bwrap --dev-bind "$root" / "${shared[@]}" --dev /dev --proc /proc --unshare-pid --die-with-parent --cap-add ALL \
             -- "${root_environment[@]}" bash -c "$1"
     else
         as_root chroot "$root" "${root_environment[@]}" bash -c "$1"
@@ -75,7 +81,7 @@ leave_root() {
     for process in /proc/[0-9]*; do
         [[ $(as_root readlink "$process/root" 2>/dev/null) != "$root" ]] || as_root kill -KILL "${process##*/}" || true
     done
-    for place in dev/pts dev/shm proc; do
+    for place in ccache dev/pts dev/shm proc; do
         ! mountpoint -q "$root/$place" || as_root umount "$root/$place" || as_root umount -l "$root/$place"
     done
 }
