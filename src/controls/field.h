@@ -1,5 +1,7 @@
 #pragma once
 
+#include <compare>
+
 namespace varno {
 
 /// The controls of the main input form, by the program's own names.
@@ -54,7 +56,7 @@ enum class Field {
 struct Control {
     Field field;
     int index = 0;
-    bool operator==(const Control&) const = default;
+    auto operator<=>(const Control&) const = default;
 };
 
 } // namespace varno

@@ -18,6 +18,8 @@ class MainView {
     /// The picture `Flagga` of this number (1 to 6) and no other; 0 shows a neutral picture for a case
     /// without rules.
     virtual void showFlag(int flag) = 0;
+    /// The focus goes to the flag, which Tab leads to from either end of the form.
+    virtual void focusFlag() = 0;
 };
 
 /// The hourglass for as long as it lives, however the command ends.

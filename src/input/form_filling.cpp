@@ -57,7 +57,7 @@ constexpr std::array factorFields{Field::lambdaG, Field::ksi,  Field::lambdaQ,
 } // namespace
 
 CaseFormFiller::CaseFormFiller(DesignCase& designCase, FormView& form, MainView& window, NumberLocale locale)
-    : case_(designCase), form_(form), window_(window), locale_(std::move(locale)) {}
+    : case_(designCase), form_(form), window_(window), boxes_(form, std::move(locale)) {}
 
 void CaseFormFiller::showCase(const std::string& title) {
     form_.setText({Field::rubrik}, title);
@@ -93,7 +93,7 @@ void CaseFormFiller::fillCaseLists() {
 
 template <typename Number>
 void CaseFormFiller::showNumber(Control control, Number value, std::string_view pattern) {
-    form_.setText(control, formatNumber(value, pattern, locale_));
+    boxes_.put(control, value, pattern);
 }
 
 void CaseFormFiller::showRuleSet() {
@@ -107,9 +107,7 @@ void CaseFormFiller::showRuleSet() {
 }
 
 void CaseFormFiller::showFactors() {
-    const auto show = [this](Field field, const Factor& factor) {
-        form_.setText({field}, factor ? formatNumber(*factor, "#0.00", locale_) : "");
-    };
+    const auto show = [this](Field field, const Factor& factor) { boxes_.put({field}, factor, "#0.00"); };
     const int ruleSet = case_.loadCode;
     const int category = case_.lokt;
     show(Field::lambdaG, case_.lambdaG(ruleSet));

@@ -7,14 +7,19 @@
 #include "base/numbers.h"
 #include "controls/main_view.h"
 #include "input/form_view.h"
+#include "input/number_box.h"
 #include "model/design_case.h"
 
 namespace varno {
+
+using FormBoxes = NumberBoxes<FormView, Control>;
 
 /// Shows the one design case in the input form.
 class CaseFormFiller {
   public:
     CaseFormFiller(DesignCase& designCase, FormView& form, MainView& window, NumberLocale locale);
+
+    FormBoxes& boxes() { return boxes_; }
 
     /// Shows the whole record and its title, every list filled anew.
     void showCase(const std::string& title);
@@ -43,7 +48,7 @@ class CaseFormFiller {
     DesignCase& case_;
     FormView& form_;
     MainView& window_;
-    NumberLocale locale_;
+    FormBoxes boxes_;
 };
 
 } // namespace varno

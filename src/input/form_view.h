@@ -36,6 +36,8 @@ class FormView {
 
     virtual void focus(Control control) = 0;
     virtual void selectAll(Control control) = 0;
+    /// The focus goes back to a box, its text selected, once the event is over.
+    virtual void returnTo(Control control) = 0;
 };
 
 } // namespace varno

@@ -3,6 +3,7 @@
 namespace varno {
 
 void InputForm::changed(Control control) {
+    context_.boxes().changed(control);
     const ChoiceField* choice = choiceField(control.field);
     const bool isList = choice != nullptr && choice->kind == ChoiceKind::list;
     if (isList || textField(control.field) != nullptr) context_.markChanged();
@@ -37,26 +38,21 @@ void InputForm::leaveNumber(const TextField& row, int index) {
 }
 
 void InputForm::leaveFactor(const TextField& row, Factor& stored) {
-    const std::string text = context_.form.text({row.field});
-    // Left as it was shown: the factor keeps the decimals that its display lacks.
-    if (text == (stored ? context_.display(*stored, row.shownPattern) : std::string())) return;
-    const double number = asShown(VARNO1::parseNumber(text), row.pattern);
-    stored = number;
-    context_.form.setText({row.field}, context_.display(number, row.pattern));
+    const Control box{row.field};
+    context_.boxes().leave(box, row.pattern, [&](double typed) {
+        const double number = asShown(typed, row.pattern);
+        context_.boxes().put(box, number, row.pattern);
+        stored = number;
+    });
 }
 
 void InputForm::leaveWhole(const TextField& row, std::int16_t& stored) {
     const Control box{row.field};
-    const std::string text = context_.form.text(box);
-    // What was rewritten here may mean another number than its digits say: 23.50 is stored as 24.
-    const auto written = written_.find(row.field);
-    if (written != written_.end() && written->second == Written{text, stored}) return;
-
-    const double number = VARNO1::parseNumber(text);
-    const std::string rewritten = context_.display(number, row.pattern);
-    stored = toInteger(asShown(number, row.pattern));
-    written_[row.field] = {rewritten, stored};
-    context_.form.setText(box, rewritten);
+    context_.boxes().leave(box, row.pattern, [&](double typed) {
+        const double number = asShown(typed, row.pattern);
+        stored = toInteger(number);
+        context_.boxes().put(box, number, row.pattern);
+    });
 }
 
 void InputForm::storeRow(const ChoiceField& row) {

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <map>
-#include <string>
-
 #include "input/field_table.h"
 #include "input/input_context.h"
 #include "input/load_rules.h"
@@ -14,7 +11,7 @@ namespace varno {
 ///
 /// Input is never rejected: a text is read as the number it begins with, rewritten in its field's pattern and
 /// stored. Only what no number type can hold raises a run-time error (6; 9 for an index): the event stops,
-/// the record keeps its value and the box the user's text.
+/// the record keeps its value and the box shows it again.
 ///
 /// Events arrive while a rule runs: setting a text or a row brings `changed`, taking the focus `lostFocus` of
 /// the field that had it. Both are expected.
@@ -38,16 +35,12 @@ class InputForm {
     void switchToSwedishRules() { loads_.switchToSwedishRules(); }
     /// The form became the active window.
     void activated() { context_.form.focus({Field::rubrik}); }
+    /// Tab went past the last control, or before the first.
+    void tabbedOut() { context_.window.focusFlag(); }
     /// A click beside all controls.
     void formClicked() { context_.form.focus({Field::rubrik}); }
 
   private:
-    struct Written {
-        std::string text;
-        std::int16_t stored = 0;
-        bool operator==(const Written&) const = default;
-    };
-
     void leaveNumber(const TextField& row, int index);
     void leaveFactor(const TextField& row, Factor& stored);
     void leaveWhole(const TextField& row, std::int16_t& stored);
@@ -57,7 +50,6 @@ class InputForm {
     InputContext context_;
     SpanRules spans_;
     LoadRules loads_;
-    std::map<Field, Written> written_; ///< what a whole-number field was last rewritten to
 };
 
 } // namespace varno

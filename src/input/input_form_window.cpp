@@ -22,9 +22,6 @@ constexpr int mostOptions = 4;
 
 } // namespace
 
-InputFormWindow::InputFormWindow(win32::WindowHost& host, FormEvents& events)
-    : FormWindow(host), events_(events) {}
-
 int InputFormWindow::controlNumber(Control control) {
     return controlId(control);
 }
@@ -58,8 +55,7 @@ std::string InputFormWindow::text(Control control) const {
 }
 
 void InputFormWindow::setText(Control control, const std::string& text) {
-    // The same text again is no change: it must not mark the case, nor move the caret.
-    if (this->text(control) != text) win32::setText(this->control(control), text);
+    setBoxText(controlId(control), text);
 }
 
 void InputFormWindow::setVisible(Control control, bool visible) {
@@ -93,7 +89,7 @@ void InputFormWindow::selectRow(Field list, int row) {
     showRow(controlNumber({list}), wanted);
     if (!another) return;
     // Windows tells nothing of a row that the program chose; the change rule runs for it all the same.
-    guarded([&] { events_.changed({list}); });
+    if (rules_ != nullptr) guarded([&] { rules_->changed({list}); });
 }
 
 int InputFormWindow::selectedRow(Field list) const {
@@ -129,28 +125,32 @@ void InputFormWindow::selectAll(Control control) {
     SendMessageW(this->control(control), EM_SETSEL, 0, -1);
 }
 
+void InputFormWindow::returnTo(Control control) {
+    postReturnTo(controlId(control));
+}
+
 LRESULT InputFormWindow::defaultProc(UINT message, WPARAM wParam, LPARAM lParam) {
     return DefMDIChildProcW(handle(), message, wParam, lParam);
 }
 
 void InputFormWindow::onCommand(int id, int notification) {
     const auto control = controlOfId(id);
-    if (!control) return;
+    if (!control || rules_ == nullptr) return;
     const HWND window = item(id);
     wchar_t className[16] = L"";
     GetClassNameW(window, className, 16);
     const std::wstring kind = className;
     if (kind == L"Edit") {
-        if (notification == EN_CHANGE) events_.changed(*control);
+        if (notification == EN_CHANGE) rules_->changed(*control);
         if (notification == EN_SETFOCUS) lastFocused_ = window;
-        if (notification == EN_KILLFOCUS) events_.lostFocus(*control);
+        if (notification == EN_KILLFOCUS) rules_->lostFocus(*control);
     } else if (kind == L"ComboBox") {
         if (notification == CBN_SETFOCUS) lastFocused_ = window;
         if (notification == CBN_SELCHANGE) {
-            events_.changed(*control);
-            events_.clicked(*control);
+            rules_->changed(*control);
+            rules_->clicked(*control);
         }
-        if (notification == CBN_KILLFOCUS) events_.lostFocus(*control);
+        if (notification == CBN_KILLFOCUS) rules_->lostFocus(*control);
     } else if (notification == BN_CLICKED) {
         clickButton(*control, window);
     }
@@ -159,10 +159,10 @@ void InputFormWindow::onCommand(int id, int notification) {
 void InputFormWindow::clickButton(Control control, HWND button) {
     const auto state = static_cast<int>(SendMessageW(button, BM_GETCHECK, 0, 0));
     if (control.field == Field::kavko) {
-        events_.clicked({control.field, state});
+        rules_->clicked({control.field, state});
     } else if (state == BST_CHECKED) {
         // Walking through a group with the arrow keys also tells of the button that is left.
-        events_.clicked(control);
+        rules_->clicked(control);
     }
 }
 
@@ -182,7 +182,7 @@ bool InputFormWindow::moveOn(HWND from, bool backwards) {
     const HWND first = GetNextDlgTabItem(handle(), nullptr, FALSE);
     const HWND next = GetNextDlgTabItem(handle(), from, backwards);
     if (backwards ? from == first : next == first) {
-        events_.tabbedOut();
+        rules_->tabbedOut();
     } else {
         enter(next);
     }
@@ -192,9 +192,9 @@ bool InputFormWindow::moveOn(HWND from, bool backwards) {
 bool InputFormWindow::moveInColumn(Control from, int rows) {
     if (from.field == Field::nfack) {
         if (rows < 0) {
-            events_.spinUp();
+            rules_->spinUp();
         } else {
-            events_.spinDown();
+            rules_->spinDown();
         }
         enter(control({Field::nfack}));
         return true;
@@ -210,7 +210,7 @@ bool InputFormWindow::moveInColumn(Control from, int rows) {
 }
 
 bool InputFormWindow::translateKey(const MSG& message) {
-    if (message.message != WM_KEYDOWN) return false;
+    if (message.message != WM_KEYDOWN || rules_ == nullptr) return false;
     const HWND focus = GetFocus();
     if (focus == nullptr || GetParent(focus) != handle()) return false;
     const auto control = controlOfId(GetDlgCtrlID(focus));
@@ -243,16 +243,16 @@ LRESULT InputFormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         SetFocus(lastFocused_ != nullptr ? lastFocused_ : item(controlId({Field::rubrik})));
         return 0;
     case WM_LBUTTONDOWN:
-        events_.formClicked();
+        if (rules_ != nullptr) rules_->formClicked();
         return 0;
     case WM_NOTIFY: {
         const auto& header = *reinterpret_cast<const NMHDR*>(lParam);
-        if (header.code != UDN_DELTAPOS) break;
+        if (header.code != UDN_DELTAPOS || rules_ == nullptr) break;
         const auto& step = *reinterpret_cast<const NMUPDOWN*>(lParam);
         if (step.iDelta > 0) {
-            events_.spinUp();
+            rules_->spinUp();
         } else {
-            events_.spinDown();
+            rules_->spinDown();
         }
         // The control's own position means nothing; it must not run into its end.
         return TRUE;

@@ -1,38 +1,18 @@
 #pragma once
 
-#include <functional>
-
-#include "input/form_view.h"
+#include "input/input_form.h"
 #include "win32/form_window.h"
 
 namespace varno {
 
-/// Takes what the user does in the input form.
-class FormEvents {
-  public:
-    virtual ~FormEvents() = default;
-    /// The text of a box or the row of a list is another, by whoever changed it.
-    virtual void changed(Control control) = 0;
-    virtual void lostFocus(Control control) = 0;
-    /// An option (the index), the check box (the index is its state: 1 ticked, 0 clear) or a row of a list
-    /// was chosen by the user.
-    virtual void clicked(Control control) = 0;
-    virtual void spinUp() = 0;
-    virtual void spinDown() = 0;
-    /// The form itself was clicked, beside its controls.
-    virtual void formClicked() = 0;
-    /// Tab went past the last control of the form, or before the first: the focus goes to what stands around
-    /// it.
-    virtual void tabbedOut() = 0;
-};
-
-/// The main input form: a child window of the main window's MDI client that fills it. It forwards events and
-/// shows what it is told.
+/// The main input form: a child window of the main window's MDI client that fills it.
 class InputFormWindow : public win32::FormWindow, public FormView {
   public:
-    InputFormWindow(win32::WindowHost& host, FormEvents& events);
+    using FormWindow::FormWindow;
 
     void create(HWND mdiClient);
+    /// From here on what happens in the form goes to its rules.
+    void listen(InputForm& rules) { rules_ = &rules; }
     /// The size the form needs, in pixels at its resolution.
     SIZE naturalSize() const;
     /// Handles the keys of one message: Tab and Enter go through the form in its order, the arrow keys up and
@@ -58,6 +38,7 @@ class InputFormWindow : public win32::FormWindow, public FormView {
     void setChecked(Field box, bool checked) override;
     void focus(Control control) override;
     void selectAll(Control control) override;
+    void returnTo(Control control) override;
 
   protected:
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -73,7 +54,7 @@ class InputFormWindow : public win32::FormWindow, public FormView {
     HWND control(Control control) const { return item(controlNumber(control)); }
     static int controlNumber(Control control);
 
-    FormEvents& events_;
+    InputForm* rules_ = nullptr;
     HWND lastFocused_ = nullptr;
 };
 

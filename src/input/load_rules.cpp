@@ -63,7 +63,7 @@ void LoadRules::categoryChosen(int row) {
     for (int span = 1; span <= maxSpans; ++span) {
         context_.form.setEnabled({Field::flast, span}, false);
         designCase.flast(span) = load;
-        context_.form.setText({Field::flast, span}, context_.display(load, "#0.00"));
+        context_.boxes().put({Field::flast, span}, load, "#0.00");
     }
     context_.filler.showFactors();
     // Category 0 is the user's own load; the others fix it.

@@ -10,12 +10,6 @@ constexpr Control countBox{Field::nfack};
 
 } // namespace
 
-// A text that is still the stored number's own display is not read again: it shows fewer digits than the
-// number may have, and the display's signs need not be those of the number reader.
-bool SpanRules::isUntouched(Control control, float stored, std::string_view pattern) const {
-    return context_.form.text(control) == context_.display(stored, pattern);
-}
-
 // A damaged file leaves any count behind; what goes through the spans asks for it before it changes anything.
 int SpanRules::spanCount() const {
     const int count = context_.designCase.nfack;
@@ -29,76 +23,59 @@ void SpanRules::redraw(Redraws what) {
 }
 
 void SpanRules::leaveSpanCell(const TextField& row, int span) {
-    SpanArray& values = context_.designCase.*std::get<SpanArray DesignCase::*>(row.place);
-    const int count = spanCount();
-    const Control cell{row.field, span};
-    if (span < 1 || span > count || isUntouched(cell, values(span), row.pattern)) return;
-
-    const double typed = VARNO1::parseNumber(context_.form.text(cell));
-    if (toSingle(typed) == values(span)) {
-        context_.form.setText(cell, context_.display(values(span), row.pattern));
-        return;
-    }
-    const float stored = toSingle(asShown(typed, row.pattern));
-    const std::string text = context_.display(typed, row.pattern);
-    for (int k = span; k <= count; ++k) {
-        values(k) = stored;
-        if (k <= maxSpans) context_.form.setText({row.field, k}, text);
-    }
-    redraw(row.redraws);
+    if (span >= 1) leaveCell(row, span, spanCount());
 }
 
 void SpanRules::leaveSupport(const TextField& row, int support) {
-    SpanArray& widths = context_.designCase.upl;
     const int count = spanCount();
-    const Control cell{row.field, support};
-    if (support < 0 || support > count) return;
-    if (support == 0 || support == count) {
-        widths(support) = 0;
-        context_.form.setText(cell, context_.display(0.0, row.pattern));
-        return;
+    if (support > 0 && support < count) {
+        leaveCell(row, support, count - 1);
+    } else if (support == 0 || support == count) {
+        context_.designCase.upl(support) = 0;
+        context_.boxes().put({row.field, support}, 0.0, row.pattern);
     }
-    if (isUntouched(cell, widths(support), row.pattern)) return;
+}
 
-    const double typed = VARNO1::parseNumber(context_.form.text(cell));
-    if (toSingle(typed) == widths(support)) {
-        context_.form.setText(cell, context_.display(widths(support), row.pattern));
-        return;
-    }
-    const float stored = toSingle(asShown(typed, row.pattern));
-    const std::string text = context_.display(typed, row.pattern);
-    for (int k = support; k < count; ++k) {
-        widths(k) = stored;
-        if (k <= maxSpans) context_.form.setText({row.field, k}, text);
-    }
-    if (count <= maxSpans) {
-        context_.form.setText({row.field, count}, context_.display(0.0, row.pattern));
-        context_.form.setEnabled({row.field, count}, false);
-    }
+void SpanRules::leaveCell(const TextField& row, int index, int last) {
+    if (index > last) return;
+    SpanArray& values = context_.designCase.*std::get<SpanArray DesignCase::*>(row.place);
+    const Control cell{row.field, index};
+    context_.boxes().leave(cell, row.pattern, [&](double typed) {
+        if (toSingle(typed) == values(index)) {
+            context_.boxes().put(cell, values(index), row.pattern);
+            return;
+        }
+        const double number = asShown(typed, row.pattern);
+        const float stored = toSingle(number);
+        for (int k = index; k <= last; ++k) {
+            values(k) = stored;
+            if (k <= maxSpans) context_.boxes().put({row.field, k}, number, row.pattern);
+        }
+        redraw(row.redraws);
+    });
 }
 
 void SpanRules::leaveCantilever(const TextField& row) {
     float& length = context_.designCase.*std::get<float DesignCase::*>(row.place);
     const Control box{row.field};
-    if (isUntouched(box, length, row.pattern)) return;
-
-    const float typed = toSingle(VARNO1::parseNumber(context_.form.text(box)));
-    const bool differs = typed != length;
-    length = typed;
-    context_.form.setText(box, context_.display(length, row.pattern));
-    if (differs) redraw(row.redraws);
+    context_.boxes().leave(box, row.pattern, [&](double typed) {
+        const bool differs = toSingle(typed) != length;
+        length = toSingle(typed);
+        context_.boxes().put(box, length, row.pattern);
+        if (differs) redraw(row.redraws);
+    });
 }
 
 void SpanRules::addSpan() {
     const std::string text = context_.form.text(countBox);
     if (VARNO1::parseNumber(text) >= maxSpans) return;
-    enterCount(countFrom(VARNO1::plainNumber(text) + 1), maxSpans);
+    enterCount(VARNO1::plainNumber(text) + 1, maxSpans);
 }
 
 void SpanRules::removeSpan() {
     const std::string text = context_.form.text(countBox);
     if (!(VARNO1::parseNumber(text) > 1)) return;
-    enterCount(countFrom(VARNO1::plainNumber(text) - 1), context_.designCase.nfack);
+    enterCount(VARNO1::plainNumber(text) - 1, context_.designCase.nfack);
 }
 
 // The count box takes any text, so a step can lead anywhere. The form has boxes for ten spans; only a case
@@ -109,7 +86,9 @@ int SpanRules::countFrom(double wanted) const {
     return count;
 }
 
-void SpanRules::enterCount(int count, int lastCleared) {
+void SpanRules::enterCount(double wanted, int lastCleared) {
+    int count = 0;
+    context_.boxes().attempt(countBox, [&] { count = countFrom(wanted); });
     DesignCase& designCase = context_.designCase;
     context_.document.dataChanged = true;
     // Whatever is being typed is stored now, under the old count.
@@ -117,13 +96,13 @@ void SpanRules::enterCount(int count, int lastCleared) {
     context_.window.setDiagramEnabled(false);
 
     const int before = std::max(spanCount(), 0);
-    context_.form.setText(countBox, context_.display(static_cast<double>(count), "#0"));
+    context_.boxes().put(countBox, static_cast<double>(count), "#0");
     for (int support = count; support <= std::max(count, lastCleared); ++support)
         designCase.upl(support) = 0;
     designCase.nfack = static_cast<std::int16_t>(count);
     for (int span = before + 1; span <= std::min(count, maxSpans); ++span)
         showSpan(span);
-    if (count <= maxSpans) context_.form.setText({Field::upl, count}, context_.display(0.0, "0.000"));
+    if (count <= maxSpans) context_.boxes().put({Field::upl, count}, 0.0, "0.000");
     context_.filler.showSpanCells();
     context_.sketch.fullRefresh();
 }
@@ -132,7 +111,7 @@ void SpanRules::showSpan(int span) {
     for (const Field row : {Field::spv, Field::upl, Field::ptjl, Field::flast, Field::plast}) {
         const TextField& field = *textField(row);
         const SpanArray& values = context_.designCase.*std::get<SpanArray DesignCase::*>(field.place);
-        context_.form.setText({row, span}, context_.display(values(span), field.shownPattern));
+        context_.boxes().put({row, span}, values(span), field.shownPattern);
     }
 }
 

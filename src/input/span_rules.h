@@ -8,8 +8,8 @@ namespace varno {
 /// The grid of spans and supports, the cantilevers and the number of spans.
 ///
 /// A text that cannot be stored raises run-time error 6, a number of spans that the form has no room for 9;
-/// record and form are then as they were, and the text stays for correction. Errors of the sketch come after
-/// everything is stored and shown.
+/// the record is then as it was, and the box shows it again. Errors of the sketch come after everything is
+/// stored and shown.
 class SpanRules {
   public:
     explicit SpanRules(InputContext& context) : context_(context) {}
@@ -25,10 +25,10 @@ class SpanRules {
     void removeSpan();
 
   private:
-    bool isUntouched(Control control, float stored, std::string_view pattern) const;
+    void leaveCell(const TextField& row, int index, int last);
     int spanCount() const;
     int countFrom(double wanted) const;
-    void enterCount(int count, int lastCleared);
+    void enterCount(double wanted, int lastCleared);
     void showSpan(int span);
     void redraw(Redraws what);
 

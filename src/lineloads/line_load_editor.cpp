@@ -1,9 +1,6 @@
 #include "lineloads/line_load_editor.h"
 
 #include <algorithm>
-#include <utility>
-
-#include "input/input_context.h"
 
 namespace varno {
 
@@ -20,31 +17,13 @@ constexpr double highestSpan = 15;
 
 } // namespace
 
-template <typename Number>
-void LineLoadEditor::write(LineLoadControl control, Number value, const char* pattern) {
-    const std::string text = formatNumber(value, pattern, context_.locale);
-    written_[{control.box, control.index}] = text;
-    context_.view.setText(control, text);
-}
-
-// A text that still is what was shown from here is not read: its grouping sign would be taken for a decimal
-// comma, and it shows fewer digits than the number may have. The zeros of a row that was counted away are not
-// read either, so that its values come back with the count.
-bool LineLoadEditor::isUntouched(LineLoadControl control) const {
-    const auto written = written_.find({control.box, control.index});
-    return context_.view.text(control) == (written == written_.end() ? std::string() : written->second);
-}
-
 void LineLoadEditor::opened() {
     const BusyPointer busy(context_.window);
     if (!open_) {
         showRecord();
         if (set_.hasMultipliers) {
-            for (int k = 1; k <= static_cast<int>(multiplierBoxes.size()); ++k) {
-                const LineLoadControl box{LineLoadBox::multiplier, k};
-                written_[{box.box, k}] = "";
-                context_.view.setText(box, "");
-            }
+            for (int k = 1; k <= static_cast<int>(multiplierBoxes.size()); ++k)
+                boxes_.put({LineLoadBox::multiplier, k}, std::nullopt, realPattern);
         }
         open_ = true;
     }
@@ -60,6 +39,7 @@ void LineLoadEditor::layout() {
     context_.view.focus(countBox);
     open_ = false;
     context_.view.close();
+    context_.form.focus({Field::rubrik});
 }
 
 void LineLoadEditor::backgroundClicked() {
@@ -68,7 +48,7 @@ void LineLoadEditor::backgroundClicked() {
 
 void LineLoadEditor::showRecord() {
     if (count() > maxLineLoads) throw RunTimeError(errSubscriptOutOfRange);
-    write(countBox, static_cast<double>(count()), wholePattern);
+    boxes_.put(countBox, count(), wholePattern);
     for (int row = 1; row <= count(); ++row)
         fillRow(row);
     showRows(count());
@@ -76,9 +56,9 @@ void LineLoadEditor::showRecord() {
 
 void LineLoadEditor::fillRow(int row) {
     const DesignCase& designCase = context_.designCase;
-    write({LineLoadBox::llfnr, row}, static_cast<double>((designCase.*set_.span)(row)), wholePattern);
-    write({LineLoadBox::avst, row}, (designCase.*set_.distance)(row), realPattern);
-    write({LineLoadBox::lllast, row}, (designCase.*set_.load)(row), realPattern);
+    boxes_.put({LineLoadBox::llfnr, row}, (designCase.*set_.span)(row), wholePattern);
+    boxes_.put({LineLoadBox::avst, row}, (designCase.*set_.distance)(row), realPattern);
+    boxes_.put({LineLoadBox::lllast, row}, (designCase.*set_.load)(row), realPattern);
 }
 
 void LineLoadEditor::showRows(int last) {
@@ -91,18 +71,17 @@ void LineLoadEditor::showRows(int last) {
 void LineLoadEditor::spanNumberLeft(int row) {
     const LineLoadControl box{LineLoadBox::llfnr, row};
     std::int16_t& stored = (context_.designCase.*set_.span)(row);
-    if (isUntouched(box)) return;
-
-    const double typed = VARNO1::parseNumber(context_.view.text(box));
-    const double number = std::min(typed, highestSpan);
-    if (number == stored) {
-        if (typed > highestSpan) write(box, number, wholePattern);
-        return;
-    }
-    const std::int16_t span = toInteger(asShown(number, wholePattern));
-    write(box, number, wholePattern);
-    stored = span;
-    context_.sketch.lineLoadRefresh();
+    boxes_.leave(box, [&](double typed) {
+        const double number = std::min(typed, highestSpan);
+        if (number == stored) {
+            if (typed > highestSpan) boxes_.put(box, number, wholePattern);
+            return;
+        }
+        const double whole = asShown(number, wholePattern);
+        stored = toInteger(whole);
+        boxes_.put(box, whole, wholePattern);
+        context_.sketch.lineLoadRefresh();
+    });
 }
 
 void LineLoadEditor::distanceLeft(int row) {
@@ -113,34 +92,31 @@ void LineLoadEditor::loadLeft(int row) {
     leaveReal({LineLoadBox::lllast, row}, (context_.designCase.*set_.load)(row), editedLoadPattern);
 }
 
-void LineLoadEditor::leaveReal(LineLoadControl control, float& stored, const char* pattern) {
-    if (isUntouched(control)) return;
-    const double typed = VARNO1::parseNumber(context_.view.text(control));
-    if (toSingle(typed) == stored) return;
-
-    // The digits without a grouping sign are what the shown number means: 1,234.00 is not 1.234.
-    const float value = toSingle(asShown(typed, realPattern));
-    write(control, typed, pattern);
-    stored = value;
-    context_.sketch.lineLoadRefresh();
+void LineLoadEditor::leaveReal(LineLoadControl box, float& stored, const char* pattern) {
+    boxes_.leave(box, [&](double typed) {
+        if (toSingle(typed) == stored) return;
+        const double number = asShown(typed, pattern);
+        stored = toSingle(number);
+        boxes_.put(box, number, pattern);
+        context_.sketch.lineLoadRefresh();
+    });
 }
 
 void LineLoadEditor::multiplierLeft(int multiplier) {
     const LineLoadControl box{LineLoadBox::multiplier, multiplier};
-    if (isUntouched(box)) return;
-    write(box, VARNO1::parseNumber(context_.view.text(box)), realPattern);
+    boxes_.leave(box, [&](double typed) { boxes_.put(box, typed, realPattern); });
 }
 
 void LineLoadEditor::spinUp() {
     const double shown = VARNO1::parseNumber(context_.view.text(countBox));
     if (shown >= maxLineLoads) return;
-    enterCount(countFrom(shown + 1));
+    enterCount(shown + 1);
 }
 
 void LineLoadEditor::spinDown() {
     const double shown = VARNO1::parseNumber(context_.view.text(countBox));
     if (!(shown > 0)) return;
-    enterCount(countFrom(shown - 1));
+    enterCount(shown - 1);
 }
 
 // The count box takes any text, so a step can lead anywhere. A negative count, which only a file brings, can
@@ -153,21 +129,23 @@ int LineLoadEditor::countFrom(double wanted) const {
     return result;
 }
 
-void LineLoadEditor::enterCount(int wanted) {
+void LineLoadEditor::enterCount(double typed) {
+    int wanted = 0;
+    boxes_.attempt(countBox, [&] { wanted = countFrom(typed); });
     // What is being typed is stored now, before its row can go.
     context_.view.focus(countBox);
     context_.document.dataChanged = true;
     context_.window.setDiagramEnabled(false);
 
-    write(countBox, static_cast<double>(wanted), wholePattern);
+    boxes_.put(countBox, static_cast<double>(wanted), wholePattern);
     for (int row = std::max<int>(count(), 0) + 1; row <= wanted; ++row)
         fillRow(row);
     const bool emptyRow = wanted == 0 && visible_(1);
     if (emptyRow) {
         // The first row stays, showing nothing; the record keeps its values.
-        write({LineLoadBox::llfnr, 1}, 0.0, wholePattern);
-        write({LineLoadBox::avst, 1}, 0.0, realPattern);
-        write({LineLoadBox::lllast, 1}, 0.0, realPattern);
+        boxes_.put({LineLoadBox::llfnr, 1}, 0.0, wholePattern);
+        boxes_.put({LineLoadBox::avst, 1}, 0.0, realPattern);
+        boxes_.put({LineLoadBox::lllast, 1}, 0.0, realPattern);
     }
     showRows(emptyRow ? 1 : wanted);
     count() = static_cast<std::int16_t>(wanted);

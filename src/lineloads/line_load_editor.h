@@ -1,10 +1,8 @@
 #pragma once
 
-#include <map>
-#include <string>
-
-#include "base/numbers.h"
 #include "controls/main_view.h"
+#include "input/form_view.h"
+#include "input/number_box.h"
 #include "input/sketch_refresh.h"
 #include "lineloads/line_load_set.h"
 #include "lineloads/line_load_view.h"
@@ -17,8 +15,8 @@ struct LineLoadContext {
     DocumentState& document;
     MainView& window;
     SketchRefresh& sketch;
+    FormView& form;
     LineLoadView& view;
-    NumberLocale locale; ///< of the display; what is typed may have "," or "." whatever it says
 };
 
 /// The rules of both line load editors. The window forwards its events and shows what it is told.
@@ -27,13 +25,14 @@ struct LineLoadContext {
 /// mark: the program asks nothing about it when it ends. That is meant.
 ///
 /// Input is not rejected, apart from what no number type holds (run-time error 6) and a count that the arrays
-/// have no room for (9): the event stops there, record and boxes are as they were and the text stays for
-/// correction. An error of the sketch comes after everything is stored and shown.
+/// have no room for (9): the event stops there, the record is as it was and the box shows it again. An error
+/// of the sketch comes after everything is stored and shown.
 ///
 /// Events arrive while a rule runs: taking the focus brings the event of the box that had it.
 class LineLoadEditor {
   public:
-    LineLoadEditor(const LineLoadSet& set, const LineLoadContext& context) : set_(set), context_(context) {}
+    LineLoadEditor(const LineLoadSet& set, const LineLoadContext& context, NumberLocale locale)
+        : set_(set), context_(context), boxes_(context.view, std::move(locale)) {}
     LineLoadEditor(const LineLoadEditor&) = delete;
     LineLoadEditor& operator=(const LineLoadEditor&) = delete;
 
@@ -45,6 +44,9 @@ class LineLoadEditor {
     /// The item "Layout", and the close box.
     void layout();
 
+    /// The text of a box is another than before.
+    void changed(LineLoadControl box) { boxes_.changed(box); }
+    void entered(LineLoadControl box) { boxes_.entered(box); }
     void spanNumberLeft(int row);
     void distanceLeft(int row);
     void loadLeft(int row);
@@ -62,18 +64,15 @@ class LineLoadEditor {
     void showRecord();
     void fillRow(int row);
     void showRows(int last);
-    template <typename Number>
-    void write(LineLoadControl control, Number value, const char* pattern);
-    bool isUntouched(LineLoadControl control) const;
-    void leaveReal(LineLoadControl control, float& stored, const char* pattern);
+    void leaveReal(LineLoadControl box, float& stored, const char* pattern);
     int countFrom(double wanted) const;
-    void enterCount(int wanted);
+    void enterCount(double typed);
 
     const LineLoadSet& set_;
     LineLoadContext context_;
     bool open_ = false;
     Rows visible_;
-    std::map<std::pair<LineLoadBox, int>, std::string> written_; ///< what was last shown in a box from here
+    NumberBoxes<LineLoadView, LineLoadControl> boxes_;
 };
 
 } // namespace varno

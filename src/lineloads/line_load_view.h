@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <string>
 
 namespace varno {
@@ -16,7 +17,7 @@ enum class LineLoadBox {
 struct LineLoadControl {
     LineLoadBox box;
     int index = 0;
-    bool operator==(const LineLoadControl&) const = default;
+    auto operator<=>(const LineLoadControl&) const = default;
 };
 
 /// What the rules ask of a line load editor's window. It shows what it is told and knows no rule. Texts are
@@ -30,9 +31,11 @@ class LineLoadView {
     /// The three boxes of a row 1..5.
     virtual void setRowVisible(int row, bool visible) = 0;
     virtual void focus(LineLoadControl control) = 0;
+    /// The focus goes back to a box, its text selected, once the event is over.
+    virtual void returnTo(LineLoadControl control) = 0;
     /// Shows the window, in front when it is shown already. Texts and rows are set before.
     virtual void show() = 0;
-    /// Unloads the window and shows the main input form again.
+    /// Unloads the window.
     virtual void close() = 0;
 };
 

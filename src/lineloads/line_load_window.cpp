@@ -110,9 +110,8 @@ void nameBoxes(const win32::FormWindow& window, const LineLoadSet& set) {
 
 } // namespace
 
-LineLoadWindow::LineLoadWindow(win32::WindowHost& host, HWND owner, const LineLoadSet& set,
-                               std::function<void()> returned)
-    : FormWindow(host), set_(set), returned_(std::move(returned)) {
+LineLoadWindow::LineLoadWindow(win32::WindowHost& host, HWND owner, const LineLoadSet& set)
+    : FormWindow(host), set_(set) {
     // Without WS_CLIPCHILDREN: a frame shows the window's background.
     create(set.hasMultipliers ? L"VarnoFreeLineLoads" : L"VarnoLineLoads", set.caption,
            WS_POPUP | WS_CAPTION | WS_SYSMENU, WS_EX_DLGMODALFRAME, owner, editorMenu(), {});
@@ -128,7 +127,7 @@ std::string LineLoadWindow::text(LineLoadControl control) const {
 }
 
 void LineLoadWindow::setText(LineLoadControl control, const std::string& text) {
-    if (this->text(control) != text) win32::setText(item(idOf(control)), text);
+    setBoxText(idOf(control), text);
 }
 
 void LineLoadWindow::setRowVisible(int row, bool visible) {
@@ -138,6 +137,10 @@ void LineLoadWindow::setRowVisible(int row, bool visible) {
 
 void LineLoadWindow::focus(LineLoadControl control) {
     SetFocus(item(idOf(control)));
+}
+
+void LineLoadWindow::returnTo(LineLoadControl control) {
+    postReturnTo(idOf(control));
 }
 
 void LineLoadWindow::show() {
@@ -153,7 +156,6 @@ void LineLoadWindow::show() {
 
 void LineLoadWindow::close() {
     closeForm();
-    returned_();
 }
 
 void LineLoadWindow::left(LineLoadControl control) {
@@ -161,24 +163,24 @@ void LineLoadWindow::left(LineLoadControl control) {
     case LineLoadBox::nllast:
         break;
     case LineLoadBox::llfnr:
-        editor_->spanNumberLeft(control.index);
+        rules_->spanNumberLeft(control.index);
         break;
     case LineLoadBox::avst:
-        editor_->distanceLeft(control.index);
+        rules_->distanceLeft(control.index);
         break;
     case LineLoadBox::lllast:
-        editor_->loadLeft(control.index);
+        rules_->loadLeft(control.index);
         break;
     case LineLoadBox::multiplier:
-        editor_->multiplierLeft(control.index);
+        rules_->multiplierLeft(control.index);
         break;
     }
 }
 
 void LineLoadWindow::onCommand(int id, int notification) {
-    if (editor_ == nullptr) return;
+    if (rules_ == nullptr) return;
     if (id == idLayout) {
-        editor_->layout();
+        rules_->layout();
         return;
     }
     if (id == idOkButton) {
@@ -186,29 +188,34 @@ void LineLoadWindow::onCommand(int id, int notification) {
         PostMessageW(GetFocus(), WM_KEYDOWN, VK_TAB, 0);
         return;
     }
-    const auto control = controlOf(id);
-    if (control && notification == EN_KILLFOCUS) {
-        left(*control);
-        return;
+    if (const auto box = controlOf(id)) {
+        onBox(*box, notification);
+    } else {
+        FormWindow::onCommand(id, notification);
     }
-    FormWindow::onCommand(id, notification);
+}
+
+void LineLoadWindow::onBox(LineLoadControl box, int notification) {
+    if (notification == EN_CHANGE) rules_->changed(box);
+    if (notification == EN_SETFOCUS) rules_->entered(box);
+    if (notification == EN_KILLFOCUS) left(box);
 }
 
 void LineLoadWindow::onCloseBox() {
-    if (editor_ != nullptr) editor_->layout();
+    if (rules_ != nullptr) rules_->layout();
 }
 
 LRESULT LineLoadWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (editor_ == nullptr) return FormWindow::onMessage(message, wParam, lParam);
+    if (rules_ == nullptr) return FormWindow::onMessage(message, wParam, lParam);
     if (message == WM_LBUTTONDOWN) {
-        editor_->backgroundClicked();
+        rules_->backgroundClicked();
         return 0;
     }
     if (message == WM_NOTIFY && reinterpret_cast<const NMHDR*>(lParam)->code == UDN_DELTAPOS) {
         if (reinterpret_cast<const NMUPDOWN*>(lParam)->iDelta > 0) {
-            editor_->spinUp();
+            rules_->spinUp();
         } else {
-            editor_->spinDown();
+            rules_->spinDown();
         }
         return TRUE;
     }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-
 #include "lineloads/line_load_editor.h"
 #include "win32/form_window.h"
 
@@ -10,17 +8,16 @@ namespace varno {
 /// The window of a line load editor, modeless: "Linjelaster", or "Fria linjelaster" with the multiplier panel.
 class LineLoadWindow : public win32::FormWindow, public LineLoadView {
   public:
-    /// `returned` shows the main input form again.
-    LineLoadWindow(win32::WindowHost& host, HWND owner, const LineLoadSet& set,
-                   std::function<void()> returned);
+    LineLoadWindow(win32::WindowHost& host, HWND owner, const LineLoadSet& set);
 
-    /// The rules; set before the window is first shown.
-    void listen(LineLoadEditor& editor) { editor_ = &editor; }
+    /// From here on what happens in the window goes to its rules.
+    void listen(LineLoadEditor& rules) { rules_ = &rules; }
 
     std::string text(LineLoadControl control) const override;
     void setText(LineLoadControl control, const std::string& text) override;
     void setRowVisible(int row, bool visible) override;
     void focus(LineLoadControl control) override;
+    void returnTo(LineLoadControl control) override;
     void show() override;
     void close() override;
 
@@ -30,11 +27,11 @@ class LineLoadWindow : public win32::FormWindow, public LineLoadView {
     void onCloseBox() override;
 
   private:
-    void left(LineLoadControl control);
+    void onBox(LineLoadControl box, int notification);
+    void left(LineLoadControl box);
 
     const LineLoadSet& set_;
-    std::function<void()> returned_;
-    LineLoadEditor* editor_ = nullptr;
+    LineLoadEditor* rules_ = nullptr;
     bool placed_ = false;
 };
 

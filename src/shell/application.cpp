@@ -20,12 +20,12 @@ constexpr const char* errorTitle = "Varno";
 } // namespace
 
 InputContext Application::inputContext() {
-    return {case_, state_, form_, main_, filler_, sketch_, locale_};
+    return {case_, state_, form_, main_, filler_, sketch_};
 }
 
 Application::Application()
     : locale_(win32::userNumberLocale()), files_(systemFileCalls(), boxes_), fileDialog_(folders_, boxes_),
-      main_(*this, picture_), form_(*this, *this),
+      main_(*this, picture_), form_(*this),
       sketch_(case_, picture_.loadPicture, picture_.slabStrip, picture_, [this] { main_.sketchChanged(); }),
       filler_(case_, form_, main_, locale_), input_(inputContext()),
       document_(case_, state_, filler_, form_, main_, files_, fileDialog_, boxes_, *this),
@@ -42,7 +42,6 @@ Application::Application()
 
 Application::~Application() {
     help_.close();
-    listening_ = false;
 }
 
 int Application::run() {
@@ -55,7 +54,6 @@ int Application::run() {
     MSG message;
     while (GetMessageW(&message, nullptr, 0, 0) > 0)
         win32::dispatch(*this, message);
-    listening_ = false;
     return ended_ ? 0 : static_cast<int>(message.wParam);
 }
 
@@ -150,7 +148,7 @@ void Application::endTyping() {
     form_.focus({Field::rubrik});
 }
 void Application::activated() {
-    if (listening_) input_.activated();
+    if (IsWindowVisible(form_.handle())) input_.activated();
 }
 void Application::flagClicked(int flag) {
     const bool keyboard = GetFocus() == main_.flagButton();
@@ -208,31 +206,6 @@ void Application::showRunTimeError(int number) {
     boxes_.show(RunTimeError(number).message(), MB_OK | MB_ICONERROR, errorTitle);
 }
 
-// Input form
-
-void Application::changed(Control control) {
-    if (listening_) input_.changed(control);
-}
-void Application::lostFocus(Control control) {
-    if (listening_) input_.lostFocus(control);
-}
-void Application::clicked(Control control) {
-    if (listening_) input_.clicked(control);
-}
-void Application::spinUp() {
-    input_.spinUp();
-}
-void Application::spinDown() {
-    input_.spinDown();
-}
-void Application::formClicked() {
-    input_.formClicked();
-}
-
-void Application::tabbedOut() {
-    SetFocus(main_.flagButton());
-}
-
 // Document
 
 SaveAnswer Application::askToSave(const std::string& caption, const std::string& text, bool cancelOffered) {
@@ -266,7 +239,7 @@ void Application::showDisclaimer() {
 }
 
 void Application::showInputForm() {
-    listening_ = true;
+    form_.listen(input_);
     ShowWindow(form_.handle(), SW_SHOW);
     form_.focus({Field::rubrik});
 }

@@ -32,7 +32,6 @@ namespace varno {
 /// references down. It wires events to rules and holds no rule of its own.
 class Application : private win32::WindowHost,
                     private MainEvents,
-                    private FormEvents,
                     private DocumentView,
                     private StartUpView {
   public:
@@ -59,15 +58,6 @@ class Application : private win32::WindowHost,
     void clientResized(int width, int height) override;
     void showRunTimeError(int number) override;
     void helpRequested(const HELPINFO& request) override;
-
-    // FormEvents
-    void changed(Control control) override;
-    void lostFocus(Control control) override;
-    void clicked(Control control) override;
-    void spinUp() override;
-    void spinDown() override;
-    void formClicked() override;
-    void tabbedOut() override;
 
     // DocumentView
     SaveAnswer askToSave(const std::string& caption, const std::string& text, bool cancelOffered) override;
@@ -109,7 +99,6 @@ class Application : private win32::WindowHost,
     Settings settings_;
     SketchPicture picture_;
     bool ended_ = false;
-    bool listening_ = false; ///< the form's events reach the rules
 
     win32::WindowsMessageBoxes boxes_;
     win32::WindowsFolders folders_;

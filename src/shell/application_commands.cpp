@@ -77,8 +77,8 @@ void Application::plotMoments() {
 void Application::openLineLoads(std::unique_ptr<LineLoads>& editor, const LineLoadSet& set) {
     const BusyPointer busy(main_);
     if (!editor) {
-        editor = std::make_unique<LineLoads>(host(), main_.handle(), set, case_, state_, main_, sketch_,
-                                             locale_, [this] { showForm(); });
+        editor = std::make_unique<LineLoads>(host(), main_.handle(), set, case_, state_, main_, sketch_, form_,
+                                             locale_);
     }
     editor->rules.opened();
 }

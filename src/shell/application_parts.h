@@ -1,8 +1,5 @@
 #pragma once
 
-#include <functional>
-#include <utility>
-
 #include "lineloads/line_load_window.h"
 #include "shell/application.h"
 
@@ -11,10 +8,9 @@ namespace varno {
 /// A line load editor: its window and its rules, which need each other.
 struct Application::LineLoads {
     LineLoads(win32::WindowHost& host, HWND owner, const LineLoadSet& set, DesignCase& designCase,
-              DocumentState& document, MainView& main, SketchRefresh& sketch, const NumberLocale& locale,
-              std::function<void()> returned)
-        : window(host, owner, set, std::move(returned)),
-          rules(set, {designCase, document, main, sketch, window, locale}) {
+              DocumentState& document, MainView& main, SketchRefresh& sketch, FormView& form,
+              const NumberLocale& locale)
+        : window(host, owner, set), rules(set, {designCase, document, main, sketch, form, window}, locale) {
         window.listen(rules);
     }
 

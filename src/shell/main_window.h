@@ -61,6 +61,7 @@ class MainWindow : public win32::Window, public MainView {
     void setDiagramEnabled(bool enabled) override;
     bool diagramEnabled() const override { return diagramEnabled_; }
     void showFlag(int flag) override;
+    void focusFlag() override { SetFocus(flagButton()); }
 
   protected:
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;

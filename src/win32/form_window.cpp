@@ -13,6 +13,8 @@ namespace varno::win32 {
 
 namespace {
 
+constexpr UINT returnToBox = WM_APP;
+
 struct KindStyle {
     const wchar_t* className;
     DWORD style;
@@ -142,6 +144,34 @@ void FormWindow::runModal() {
 void FormWindow::closeForm() {
     if (std::exchange(open_, false)) return;
     ShowWindow(handle(), SW_HIDE);
+}
+
+void FormWindow::setBoxText(int id, const std::string& text) {
+    const HWND box = item(id);
+    // Setting a text moves the caret and tells of a change, also when it is the same.
+    if (textOf(box) == text) return;
+    DWORD start = 0;
+    DWORD end = 0;
+    SendMessageW(box, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+    const int before = GetWindowTextLengthW(box);
+    setText(box, text);
+    if (GetFocus() != box) return;
+    const bool all = start == 0 && static_cast<int>(end) == before;
+    const int grown = GetWindowTextLengthW(box) - before;
+    const auto moved = [&](DWORD place) { return std::max(0, static_cast<int>(place) + grown); };
+    SendMessageW(box, EM_SETSEL, static_cast<WPARAM>(all ? 0 : moved(start)), all ? -1 : moved(end));
+}
+
+void FormWindow::postReturnTo(int id) {
+    PostMessageW(handle(), returnToBox, static_cast<WPARAM>(id), 0);
+}
+
+void FormWindow::returnTo(HWND box) {
+    // Another window may have come up in the meantime, or the box gone with its row.
+    const HWND root = GetAncestor(handle(), GA_ROOT);
+    if (GetActiveWindow() == root && IsWindowEnabled(root) && IsWindowVisible(box) && IsWindowEnabled(box))
+        SetFocus(box);
+    SendMessageW(box, EM_SETSEL, 0, -1);
 }
 
 HWND FormWindow::createControl(const ControlSpec& spec) {
@@ -308,6 +338,9 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return 0;
     case WM_CLOSE:
         onCloseBox();
+        return 0;
+    case returnToBox:
+        returnTo(item(static_cast<int>(wParam)));
         return 0;
     case WM_DRAWITEM:
         drawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));

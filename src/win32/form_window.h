@@ -1,6 +1,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <vector>
 
 #include "controls/control_spec.h"
@@ -52,6 +53,10 @@ class FormWindow : public Window, private FieldWindow {
     virtual void onCommand(int id, int notification);
     /// The close box or Esc.
     virtual void onCloseBox() { closeForm(); }
+    /// Exchanges the text of a box. The caret of the box with the focus stays where it is from the right end.
+    void setBoxText(int id, const std::string& text);
+    /// Later, when the current event is over, the focus goes back to a box, its text selected.
+    void postReturnTo(int id);
     /// Ends a modal run, or hides a modeless window.
     void closeForm();
 
@@ -71,6 +76,7 @@ class FormWindow : public Window, private FieldWindow {
     void leaveKept(int field) override;
     void controlTold(HWND control, int notification);
     HWND createControl(const ControlSpec& spec);
+    void returnTo(HWND box);
     void drawItem(const DRAWITEMSTRUCT& item);
     void drawSymbol(const DRAWITEMSTRUCT& item);
     HFONT font(FontRole role) const;

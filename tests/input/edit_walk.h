@@ -48,7 +48,6 @@ class EditWalk {
     std::mt19937 random_;
     int index_ = 0;
     std::string last_;
-    std::map<std::pair<Field, int>, std::string> refused_; ///< texts that no number type could hold
 };
 
 } // namespace varno::testing

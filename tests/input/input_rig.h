@@ -52,7 +52,7 @@ class InputRig {
   public:
     explicit InputRig(int spans = 3, const NumberLocale& locale = {})
         : filler(designCase, form, window, locale),
-          input({designCase, document, form, window, filler, sketch, locale}) {
+          input({designCase, document, form, window, filler, sketch}) {
         form.onChange = [this](Control control) { input.changed(control); };
         form.onLeave = [this](Control control) { input.lostFocus(control); };
         presetDesignCase(designCase);
@@ -90,7 +90,7 @@ class InputRig {
 
     void type(Control control, const std::string& text) {
         form.focus(control);
-        form.setText(control, text);
+        form.type(control, text);
     }
     void edit(Control control, const std::string& text) {
         type(control, text);

@@ -104,16 +104,16 @@ TEST_P(Count, WhatIsBeingTypedIsStoredBeforeItsRowGoes) {
 }
 
 TEST_P(Count, AStepGoesFromWhatIsShownInTheBox) {
-    rig.view.setText(loadCountBox, "4");
+    rig.view.type(loadCountBox, "4");
     rig.editor.spinUp();
     EXPECT_EQ(rig.count(), 5);
     EXPECT_EQ(rig.view.rows(), "1 2 3 4 5");
     EXPECT_EQ(rig.shownRow(4), "9/-1.00/0.25");
-    rig.view.setText(loadCountBox, "2,4");
+    rig.view.type(loadCountBox, "2,4");
     rig.editor.spinDown();
     EXPECT_EQ(rig.text(LineLoadBox::nllast), "1");
     EXPECT_EQ(rig.view.rows(), "1");
-    rig.view.setText(loadCountBox, "many");
+    rig.view.type(loadCountBox, "many");
     rig.editor.spinUp();
     EXPECT_EQ(rig.count(), 1);
 }
@@ -121,13 +121,14 @@ TEST_P(Count, AStepGoesFromWhatIsShownInTheBox) {
 TEST_P(Count, AStepBeyondTheArraysIsError9AndChangesNothing) {
     const std::pair<const char*, bool> steps[] = {{"4.6", true}, {"7", false}, {"0.3", false}, {"-7", true}};
     for (const auto& [typed, up] : steps) {
-        rig.view.setText(loadCountBox, typed);
+        rig.view.type(loadCountBox, typed);
         const int error = errorOf([&] { up ? rig.editor.spinUp() : rig.editor.spinDown(); });
         EXPECT_EQ(error, errSubscriptOutOfRange) << typed;
-        EXPECT_EQ(rig.text(LineLoadBox::nllast), typed);
+        EXPECT_EQ(rig.text(LineLoadBox::nllast), "2");
+        EXPECT_EQ(rig.view.returnedTo, loadCountBox);
     }
     for (const char* typed : {"1e9", "1e999"}) {
-        rig.view.setText(loadCountBox, typed);
+        rig.view.type(loadCountBox, typed);
         EXPECT_EQ(errorOf([&] { rig.editor.spinDown(); }), errOverflow) << typed;
     }
     EXPECT_EQ(rig.count(), 2);

@@ -3,18 +3,28 @@
 namespace varno::testing {
 
 std::string FakeLineLoadWindow::text(LineLoadControl control) const {
-    const auto found = texts_.find({control.box, control.index});
+    const auto found = texts_.find(control);
     return found == texts_.end() ? std::string() : found->second;
 }
 
 void FakeLineLoadWindow::setText(LineLoadControl control, const std::string& shownText) {
-    texts_[{control.box, control.index}] = shownText;
+    std::string& text = texts_[control];
+    if (text == shownText) return;
+    text = shownText;
+    onChange(control);
+}
+
+void FakeLineLoadWindow::type(LineLoadControl control, const std::string& typed) {
+    texts_[control] = typed;
+    onChange(control);
 }
 
 void FakeLineLoadWindow::focus(LineLoadControl control) {
     const LineLoadControl before = focused;
     focused = control;
-    if (before != control && onLeave) onLeave(before);
+    if (before == control) return;
+    if (onLeave) onLeave(before);
+    onEnter(control);
 }
 
 std::string FakeLineLoadWindow::rows() const {
@@ -27,8 +37,10 @@ std::string FakeLineLoadWindow::rows() const {
 }
 
 LineLoadRig::LineLoadRig(const LineLoadSet& which, const NumberLocale& locale)
-    : set(which), editor(set, {designCase, document, window, sketch, view, locale}) {
+    : set(which), editor(set, {designCase, document, window, sketch, form, view}, locale) {
     view.onLeave = [this](LineLoadControl control) { leave(control); };
+    view.onEnter = [this](LineLoadControl control) { editor.entered(control); };
+    view.onChange = [this](LineLoadControl control) { editor.changed(control); };
     designCase.nfack = 3;
     for (int i = 1; i <= 3; ++i) {
         designCase.spv(i) = 5;
@@ -55,7 +67,7 @@ void LineLoadRig::open() {
 
 void LineLoadRig::type(LineLoadControl control, const std::string& typed) {
     view.focus(control);
-    view.setText(control, typed);
+    view.type(control, typed);
 }
 
 void LineLoadRig::edit(LineLoadControl control, const std::string& typed) {

@@ -20,6 +20,9 @@ class FakeLineLoadWindow : public LineLoadView {
         visibleRows.at(static_cast<std::size_t>(row)) = visible;
     }
     void focus(LineLoadControl control) override;
+    void returnTo(LineLoadControl control) override { returnedTo = control; }
+    /// As the user does it: a change also when the text reads the same.
+    void type(LineLoadControl control, const std::string& typed);
     void show() override { ++shown; }
     void close() override { ++closed; }
 
@@ -27,13 +30,16 @@ class FakeLineLoadWindow : public LineLoadView {
     std::string rows() const;
 
     std::function<void(LineLoadControl)> onLeave;
+    std::function<void(LineLoadControl)> onEnter;
+    std::function<void(LineLoadControl)> onChange;
+    std::optional<LineLoadControl> returnedTo;
     std::array<bool, 6> visibleRows{true, true, true, true, true, true};
     LineLoadControl focused{LineLoadBox::nllast};
     int shown = 0;
     int closed = 0;
 
   private:
-    std::map<std::pair<LineLoadBox, int>, std::string> texts_;
+    std::map<LineLoadControl, std::string> texts_;
 };
 
 /// An editor over a case of three spans of 5 m, with the sketch behind it. The set holds two loads, and old
@@ -67,6 +73,7 @@ class LineLoadRig {
     SketchPicture picture;
     SlabSketch slab{designCase, picture.loadPicture, picture.slabStrip, picture};
     WatchedSketch sketch{slab};
+    FakeForm form;
     FakeLineLoadWindow view;
     LineLoadEditor editor;
 };

@@ -13,6 +13,11 @@ void FakeForm::setText(Control control, const std::string& text) {
     changed(control);
 }
 
+void FakeForm::type(Control control, const std::string& text) {
+    states_[key(control)].text = text;
+    changed(control);
+}
+
 void FakeForm::setVisible(Control control, bool visible) {
     states_[key(control)].visible = visible;
 }

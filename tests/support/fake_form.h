@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -36,6 +37,9 @@ class FakeForm : public FormView {
     void setChecked(Field box, bool checked) override;
     void focus(Control control) override;
     void selectAll(Control control) override;
+    void returnTo(Control control) override { returnedTo = control; }
+    /// As the user does it: a change also when the text reads the same.
+    void type(Control control, const std::string& text);
 
     const State& state(Control control) const;
     const std::vector<std::string>& rows(Field list) const;
@@ -46,6 +50,7 @@ class FakeForm : public FormView {
     Control allSelected() const { return allSelected_; }
 
     std::function<void(Control)> onChange;
+    std::optional<Control> returnedTo;
 
   private:
     using Key = std::pair<int, int>;
@@ -78,11 +83,13 @@ class FakeMainWindow : public MainView {
     void setDiagramEnabled(bool now) override { diagram = now; }
     bool diagramEnabled() const override { return diagram; }
     void showFlag(int number) override { flag = number; }
+    void focusFlag() override { flagFocused = true; }
 
     std::string caption;
     bool busy = false;
     bool wasBusy = false;
     bool diagram = true;
+    bool flagFocused = false;
     int flag = -1;
 };
 
