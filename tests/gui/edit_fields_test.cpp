@@ -87,6 +87,25 @@ TEST_F(EditFields, CoverIsShownWithDecimalsAndStoredWhole) {
     EXPECT_EQ(saved().duarm, 43);
 }
 
+TEST_F(EditFields, NumberTypedOverItsShownTextCounts) {
+    open({{15, "2.345"}, {6, cells({"4.005", "5.000", "6.000"})}});
+    expectText(Field::konsh, shown("2.35"));
+    for (const Field left : {Field::konsh, Field::ktack})
+        leave(left);
+    clickInto(field(Field::spv, 1));
+    tab();
+    DesignCase stored = saved();
+    EXPECT_EQ(stored.konsh, 2.345f) << "tabbing through stores nothing";
+    EXPECT_EQ(stored.spv(1), 4.005f);
+    EXPECT_EQ(stored.spv(2), 5.0f);
+    enter(Field::konsh, shown("2.35"));
+    enter(Field::spv, 1, shown("4.01"));
+    stored = saved();
+    EXPECT_EQ(stored.konsh, 2.35f);
+    EXPECT_EQ(stored.spv(1), 4.01f);
+    EXPECT_EQ(stored.spv(3), 4.01f) << "typed, so it is carried forward";
+}
+
 TEST_F(EditFields, LeavingMarksTheFieldsThatSaySo) {
     openEditableFactors();
     for (const Field marking : {Field::lambdaG, Field::lambdaQ, Field::ksi, Field::psi0, Field::psi1,

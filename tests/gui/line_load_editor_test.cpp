@@ -26,6 +26,8 @@ class LineLoadEditing : public LineLoads {
     }
 };
 
+class LineLoadLocale : public LineLoadEditing {};
+
 TEST_F(LineLoadEditing, ShowsTheLoadsOfTheCase) {
     open(threeLoads());
     const Editor editor = openEditor();
@@ -102,10 +104,41 @@ TEST_F(LineLoadEditing, ThousandsAreGroupedAndStayThousands) {
     const std::string grouped = "1" + thousands() + shown("234.50");
     expectBox(editor, lllast, 1, grouped);
     clickInto(editor.box(lllast, 1));
+    expectBox(editor, lllast, 1, shown("1234.50"));
     tab();
-    settle();
-    EXPECT_EQ(editor.text(lllast, 1), grouped);
+    expectBox(editor, lllast, 1, grouped);
     EXPECT_EQ(saved().lllast(1), 1234.5f);
+    close(editor);
+}
+
+TEST_F(LineLoadLocale, AThousandStaysAThousandWhenItsEndIsEdited) {
+    open(threeLoads());
+    const Editor editor = openEditor();
+    enter(editor.box(lllast, 1), "1234");
+    clickInto(editor.box(lllast, 1));
+    keyboard::press(VK_END);
+    keyboard::press(VK_BACK);
+    keyboard::type("5");
+    tab();
+    expectBox(editor, lllast, 1, "1" + thousands() + shown("234.05"));
+    EXPECT_EQ(saved().lllast(1), 1234.05f);
+    // As copied from a text, with no-break spaces.
+    for (const char* typed : {"2\u00A0345,5", "2\u202F345,5"}) {
+        enter(editor.box(lllast, 1), "0");
+        enter(editor.box(lllast, 1), typed);
+        expectBox(editor, lllast, 1, "2" + thousands() + shown("345.50"));
+    }
+    close(editor);
+}
+
+TEST_F(LineLoadEditing, NumberTypedOverItsShownTextCounts) {
+    open({{32, "1"}, {33, loadLine("1", "2.505", "8.125")}});
+    const Editor editor = openEditor();
+    enter(editor.box(avst, 1), "2,51");
+    enter(editor.box(lllast, 1), "8,13");
+    const DesignCase stored = saved();
+    EXPECT_EQ(stored.avst(1), 2.51f);
+    EXPECT_EQ(stored.lllast(1), 8.13f);
     close(editor);
 }
 
@@ -255,14 +288,13 @@ TEST_F(LineLoadEditing, ErrorOfASpanNumberIsToldOnce) {
     EXPECT_EQ(program().answer(), (Message{"Varno", "Run-time error '6': Overflow"}));
     settle();
     EXPECT_FALSE(program().shows(messageBoxClass));
-    EXPECT_EQ(editor.text(llfnr, 2), "-99999");
+    EXPECT_EQ(editor.text(llfnr, 2), "2");
+    expectFocus(editor.box(llfnr, 2));
     enter(editor.box(llfnr, 2), "1");
     expectRow(editor, 2, "1 1.25 6.00");
     EXPECT_EQ(saved().llfnr(2), 1);
     close(editor);
 }
-
-class LineLoadLocale : public LineLoadEditing {};
 
 TEST_F(LineLoadLocale, CommaAndPointMeanTheSame) {
     open(threeLoads());
