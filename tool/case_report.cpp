@@ -5,6 +5,7 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "input/field_table.h"
 #include "tool/case_words.h"
 #include "tool/text_table.h"
 
@@ -62,12 +63,16 @@ std::string heading(const CaseFile& loaded) {
            "\n";
 }
 
+void addChoice(Section& section, const DesignCase& c, Field field) {
+    section.add(plainCaption(field), choiceWords(field, c));
+}
+
 std::string rules(const DesignCase& c) {
     Section section("Lastförutsättningar");
     section.add("Lastregler", ruleSetWords(c.loadCode));
     section.add(classCaption(c.loadCode), classWords(c.loadCode, c.safetyClass(c.loadCode)));
-    section.add("Lastkategori", loadCategoryWords(c.lokt));
-    section.add("Lastkombination", loadCombinationWords(c.lastkomb));
+    addChoice(section, c, Field::lokt);
+    addChoice(section, c, Field::lastkomb);
     section.add("Partialkoefficient γG", factorText(c.lambdaG(c.loadCode)));
     section.add("Reduktionsfaktor ξ", factorText(c.ksi(c.loadCode)));
     section.add("Partialkoefficient γQ", factorText(c.lambdaQ(c.loadCode)));
@@ -78,10 +83,16 @@ std::string rules(const DesignCase& c) {
 }
 
 std::string spans(const DesignCase& c) {
-    Section section("Fack (" + std::to_string(c.nfack) + ")");
+    Section section(std::string(spanHeading) + " (" + std::to_string(c.nfack) + ")");
     TextTable table;
-    table.addRow({"Fack", "Spännvidd", "Plattjocklek", "Permanent last", "Variabel last"});
-    table.addRow({"", "m", "m", "kN/m²", "kN/m²"});
+    std::vector<std::string> captions{std::string(spanHeading)};
+    std::vector<std::string> units{""};
+    for (const Field column : {Field::spv, Field::ptjl, Field::plast, Field::flast}) {
+        captions.push_back(plainCaption(column));
+        units.push_back(unitOf(column));
+    }
+    table.addRow(captions);
+    table.addRow(units);
     for (int span = 1; span <= c.nfack; ++span) {
         table.addRow({std::to_string(span), aligned(c.spv(span)), thickness(c.ptjl(span)),
                       aligned(c.plast(span)), aligned(c.flast(span))});
@@ -99,8 +110,8 @@ std::string supports(const DesignCase& c) {
         table.addRow({std::to_string(support), thickness(c.upl(support))});
     section.add(table);
     const auto length = [](float value) { return value == 0 ? "saknas" : plain(value) + " m"; };
-    section.add("Konsol vänster", length(c.konsv));
-    section.add("Konsol höger", length(c.konsh));
+    section.add(plainCaption(Field::konsv), length(c.konsv));
+    section.add(plainCaption(Field::konsh), length(c.konsh));
     return section.text();
 }
 
@@ -111,7 +122,7 @@ std::string lineLoads(const DesignCase& c) {
         return section.text();
     }
     TextTable table;
-    table.addRow({"Nr", "Fack", "Avstånd", "Last"});
+    table.addRow({"Nr", std::string(spanHeading), "Avstånd", "Last"});
     table.addRow({"", "", "m", "kN/m"});
     for (int i = 1; i <= std::min<int>(c.nllast, maxLineLoads); ++i) {
         table.addRow(
@@ -127,34 +138,34 @@ std::string millimetres(int value) {
 
 std::string materials(const DesignCase& c) {
     Section section("Betong och armering");
-    section.add("Betongklass", concreteWords(c.btg));
-    section.add("Överkant: stål fyk", steelWords(c.aok) + (c.aok >= 1 && c.aok <= 3 ? " MPa" : ""));
-    section.add("Överkant: stångdiameter", barWords(c.dok));
+    addChoice(section, c, Field::btg);
+    section.add("Överkant: stål fyk", choiceWords(Field::aok, c) + (c.aok >= 1 && c.aok <= 3 ? " MPa" : ""));
+    section.add("Överkant: stångdiameter", choiceWords(Field::dok, c));
     section.add("Överkant: täckande skikt", millimetres(c.ktack));
     section.add("Överkant: avkortning", c.kavko != 0 ? "ja" : "nej");
-    section.add("Underkant: stål fyk", steelWords(c.auk) + (c.auk >= 1 && c.auk <= 3 ? " MPa" : ""));
-    section.add("Underkant: stångdiameter", barWords(c.duk));
+    section.add("Underkant: stål fyk", choiceWords(Field::auk, c) + (c.auk >= 1 && c.auk <= 3 ? " MPa" : ""));
+    section.add("Underkant: stångdiameter", choiceWords(Field::duk, c));
     section.add("Underkant: avst. tyngdpunkt", millimetres(c.duarm));
     return section.text();
 }
 
 std::string fire(const DesignCase& c) {
     Section section("Brand");
-    section.add("Brandklass", fireClassWords(c.brandk));
-    section.add("Beräkningsmetod", fireMethodWords(c.brandk, c.brandb));
-    section.add("Undertak", ceilingWords(c.kutak));
+    section.add("Brandklass", choiceWords(Field::brandk, c));
+    addChoice(section, c, Field::brandb);
+    addChoice(section, c, Field::kutak);
     return section.text();
 }
 
 std::string deformation(const DesignCase& c) {
-    Section section("Deformation");
+    Section section(plainCaption(Field::brukskomb));
     const auto limit = [](int divisor) {
         return divisor == 0 ? std::string("anges ej") : "L / " + std::to_string(divisor);
     };
-    section.add("Laster", serviceCombinationWords(c.brukskomb));
-    section.add("Initiell nedböjning", limit(c.initiell));
-    section.add("Tillkommande nedböjning", limit(c.tillkommande));
-    section.add("Överhöjning", millimetres(c.overhojning));
+    section.add("Laster", choiceWords(Field::brukskomb, c));
+    section.add(plainCaption(Field::initiell), limit(c.initiell));
+    section.add(plainCaption(Field::tillkommande), limit(c.tillkommande));
+    section.add(plainCaption(Field::overhojning), millimetres(c.overhojning));
     return section.text();
 }
 

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "controls/field.h"
 #include "model/design_case.h"
 
 namespace varno::tool {
@@ -13,15 +14,7 @@ std::string ruleSetWords(int ruleSet);
 /// The caption of the class group of a rule set, "Säkerhetsklass" for a rule set without one.
 std::string classCaption(int ruleSet);
 std::string classWords(int ruleSet, int option);
-std::string loadCategoryWords(int category);
-std::string loadCombinationWords(int option);
-std::string serviceCombinationWords(int option);
-std::string concreteWords(int row);
-std::string steelWords(int row);
-std::string barWords(int row);
-std::string fireClassWords(int row);
-/// A fire resistance, or a fire load for fire class 2.
-std::string fireMethodWords(int fireClass, int option);
-std::string ceilingWords(int option);
+/// A list's row, or an option.
+std::string choiceWords(Field field, const DesignCase& designCase);
 
 } // namespace varno::tool

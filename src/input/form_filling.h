@@ -1,11 +1,9 @@
 #pragma once
 
-#include <span>
 #include <string>
-#include <string_view>
 
-#include "base/numbers.h"
 #include "controls/main_view.h"
+#include "input/field_table.h"
 #include "input/form_view.h"
 #include "input/number_box.h"
 #include "model/design_case.h"
@@ -26,6 +24,8 @@ class CaseFormFiller {
 
     /// Writes the per-span and per-support fields from the record: support 0 first, then spans 1..nfack.
     void showCaseFields();
+    /// The boxes of one span and of the support at its right end.
+    void showSpan(int span);
     /// The cells of spans 1..nfack and supports 0..nfack visible, the end supports and loads fixed by the
     /// category locked.
     void showSpanCells();
@@ -40,10 +40,8 @@ class CaseFormFiller {
     void fillCaseLists();
 
   private:
-    void fillList(Field list, std::span<const std::string_view> rows);
-    void showNumbers();
-    template <typename Number>
-    void showNumber(Control control, Number value, std::string_view pattern);
+    void showChoice(const ChoiceField& row);
+    void showNumber(const TextField& row, int index = 0);
 
     DesignCase& case_;
     FormView& form_;

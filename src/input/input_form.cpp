@@ -60,7 +60,7 @@ void InputForm::storeRow(const ChoiceField& row) {
     std::int16_t& stored = context_.designCase.*row.place;
     // A number without a row shows as nothing selected. It stays until the user chooses.
     const int storedRow = stored - row.firstNumber;
-    if (selected < 0 && (storedRow < 0 || storedRow >= row.count)) return;
+    if (selected < 0 && (storedRow < 0 || storedRow >= row.count())) return;
     if (row.field == Field::btg && context_.designCase.loadCode != 1) return;
     stored = static_cast<std::int16_t>(selected + row.firstNumber);
 }
@@ -83,7 +83,7 @@ void InputForm::choose(const ChoiceField& row, int option) {
         // Only a tick counts; a grey check box is a clear one.
         context_.designCase.*row.place = option == 1 ? 1 : 0;
     } else {
-        if (option < 1 || option > row.count) throw RunTimeError(errSubscriptOutOfRange);
+        if (option < 1 || option > row.count()) throw RunTimeError(errSubscriptOutOfRange);
         context_.designCase.*row.place = static_cast<std::int16_t>(option);
     }
     context_.markChanged();

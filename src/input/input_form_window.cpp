@@ -4,7 +4,7 @@
 
 #include "controls/control_ids.h"
 #include "controls/rule_sets.h"
-#include "input/accessible_names.h"
+#include "input/field_table.h"
 #include "input/form_keys.h"
 #include "input/form_layout.h"
 #include "win32/accessible_names.h"

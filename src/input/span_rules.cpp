@@ -101,18 +101,10 @@ void SpanRules::enterCount(double wanted, int lastCleared) {
         designCase.upl(support) = 0;
     designCase.nfack = static_cast<std::int16_t>(count);
     for (int span = before + 1; span <= std::min(count, maxSpans); ++span)
-        showSpan(span);
+        context_.filler.showSpan(span);
     if (count <= maxSpans) context_.boxes().put({Field::upl, count}, 0.0, "0.000");
     context_.filler.showSpanCells();
     context_.sketch.fullRefresh();
-}
-
-void SpanRules::showSpan(int span) {
-    for (const Field row : {Field::spv, Field::upl, Field::ptjl, Field::flast, Field::plast}) {
-        const TextField& field = *textField(row);
-        const SpanArray& values = context_.designCase.*std::get<SpanArray DesignCase::*>(field.place);
-        context_.boxes().put({row, span}, values(span), field.shownPattern);
-    }
 }
 
 } // namespace varno

@@ -29,7 +29,6 @@ class SpanRules {
     int spanCount() const;
     int countFrom(double wanted) const;
     void enterCount(double wanted, int lastCleared);
-    void showSpan(int span);
     void redraw(Redraws what);
 
     InputContext& context_;

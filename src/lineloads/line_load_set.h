@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "input/field_table.h"
 #include "model/design_case.h"
 
 namespace varno {
@@ -33,7 +34,7 @@ inline constexpr LineLoadSet freeLineLoads{.caption = "Fria linjelaster",
 
 // What both editors show. UTF-8.
 
-inline constexpr const char* lineLoadFrame = "Linjelaster";
+inline constexpr const char* lineLoadFrame = caseLineLoads.caption;
 inline constexpr const char* lineLoadCount = "Antal linjelaster:";
 
 /// A column of the five rows: its heading and its unit.
@@ -50,7 +51,7 @@ inline constexpr std::array lineLoadColumns{
 // The multiplier panel. "Multiplikatoer" is how the users know it.
 
 inline constexpr const char* multiplierFrame = "Multiplikatoer 1)";
-inline constexpr const char* multiplierLoadCase = "Lastkombination";
+inline constexpr const char* multiplierLoadCase = combinationHeading;
 inline constexpr const char* multiplierValue = "Multiplikator";
 inline constexpr const char* multiplierNote =
     "1) Multiplikatorn för aktuell Lastkombination = Partkoeff. x Lastreduktionsfaktorn (Psi)";

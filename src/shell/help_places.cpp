@@ -37,19 +37,10 @@ constexpr std::array windowTopics{
 
 } // namespace
 
-std::string_view helpTopicOf(Control control) {
-    if (const TextField* field = textField(control.field)) return field->helpTopic;
-    if (const ChoiceField* field = choiceField(control.field)) return field->helpTopic;
+std::string helpTopicOf(Control control) {
     if (const RuleSet* rules = ruleSetWith(&RuleSet::classGroup, control.field)) return rules->helpTopic;
-    switch (control.field) {
-    case Field::rubrik:
-        return "falt-rubrik";
-    case Field::nfack:
-    case Field::spin1:
-        return "falt-nfack";
-    default:
-        return "laster";
-    }
+    const std::string topic = fieldTopic(control.field);
+    return topic.empty() ? "laster" : topic;
 }
 
 std::string_view helpTopicOf(LineLoadControl control) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "controls/field.h"
@@ -10,7 +11,7 @@
 namespace varno {
 
 /// What the field tables name for a control of the input form; the spin button has the topic of the span count.
-std::string_view helpTopicOf(Control control);
+std::string helpTopicOf(Control control);
 std::string_view helpTopicOf(LineLoadControl control);
 /// The topic of a menu item by its ID; "menyer" for one that has none.
 std::string_view helpTopicOfMenu(int id);

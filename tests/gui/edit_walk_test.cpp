@@ -18,7 +18,7 @@ namespace {
 
 int optionsOf(Field group) {
     const ChoiceField* choice = choiceField(group);
-    return choice != nullptr ? choice->count : 3;
+    return choice != nullptr ? choice->count() : 3;
 }
 
 class EditWalk : public Editing {

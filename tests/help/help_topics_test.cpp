@@ -30,9 +30,9 @@ TEST(HelpTopics, NoTopicAndNoNumberStandsTwice) {
 }
 
 TEST(HelpTopics, EveryControlOfTheFormHasATopicOfItsOwnField) {
-    std::set<std::string_view> topics;
+    std::set<std::string> topics;
     for (int field = 0; field < static_cast<int>(Field::loadFrame); ++field) {
-        const std::string_view topic = helpTopicOf(Control{static_cast<Field>(field)});
+        const std::string topic = helpTopicOf(Control{static_cast<Field>(field)});
         EXPECT_NE(helpContext(topic), 0U) << field << " " << topic;
         EXPECT_TRUE(topic.starts_with("falt-")) << topic;
         topics.insert(topic);

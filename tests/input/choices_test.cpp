@@ -15,7 +15,7 @@ TEST_P(LeftList, StoresItsPositionPlusOneWhenItIsLeft) {
     const ChoiceField& list = GetParam();
     InputRig rig;
     rig.designCase.loadCode = 1;
-    for (int row = 0; row < list.count; ++row) {
+    for (int row = 0; row < list.count(); ++row) {
         rig.form.focus({list.field});
         rig.form.selectRow(list.field, row);
         rig.input.clicked({list.field});
@@ -76,7 +76,7 @@ class ClickedOptions : public ::testing::TestWithParam<ChoiceField> {};
 TEST_P(ClickedOptions, AreStoredAtOnce) {
     const ChoiceField& group = GetParam();
     InputRig rig;
-    for (int option = group.count; option >= 1; --option) {
+    for (int option = group.count(); option >= 1; --option) {
         rig.calm();
         rig.input.clicked({group.field, option});
         EXPECT_EQ(rig.designCase.*group.place, option);
@@ -85,7 +85,7 @@ TEST_P(ClickedOptions, AreStoredAtOnce) {
     }
     EXPECT_TRUE(rig.sketch.asked.empty());
     EXPECT_EQ(errorOf([&] { rig.input.clicked({group.field, 0}); }), errSubscriptOutOfRange);
-    EXPECT_EQ(errorOf([&] { rig.input.clicked({group.field, group.count + 1}); }), errSubscriptOutOfRange);
+    EXPECT_EQ(errorOf([&] { rig.input.clicked({group.field, group.count() + 1}); }), errSubscriptOutOfRange);
     EXPECT_EQ(rig.designCase.*group.place, 1);
 }
 

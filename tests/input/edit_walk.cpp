@@ -122,7 +122,7 @@ void EditWalk::moveFocus() {
 void EditWalk::chooseRow() {
     const ChoiceField& list = choiceFields[static_cast<std::size_t>(pick(0, 6))];
     rig.form.focus({list.field});
-    rig.form.selectRow(list.field, pick(0, list.count - 1));
+    rig.form.selectRow(list.field, pick(0, list.count() - 1));
     guarded([&] { rig.input.clicked({list.field}); });
 }
 
@@ -134,7 +134,7 @@ void EditWalk::clickOption() {
         return;
     }
     const ChoiceField& row = choiceFields[static_cast<std::size_t>(pick(7, 11))];
-    const int option = row.kind == ChoiceKind::checkBox ? pick(0, 2) : pick(1, row.count);
+    const int option = row.kind == ChoiceKind::checkBox ? pick(0, 2) : pick(1, row.count());
     rig.form.focus({row.field});
     rig.form.selectOption(row.field, option);
     rig.form.setChecked(row.field, option == 1);

@@ -5,7 +5,7 @@
 #include <set>
 
 #include "controls/control_ids.h"
-#include "input/accessible_names.h"
+#include "input/field_table.h"
 #include "input/form_layout.h"
 
 namespace varno::testing {
