@@ -5,13 +5,12 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <random>
 
 #include "controls/rule_sets.h"
 #include "edit_rig.h"
 #include "input/field_table.h"
 #include "input/form_layout.h"
-#include "support/typed_texts.h"
+#include "support/walk.h"
 
 namespace varno::gui {
 namespace {
@@ -25,10 +24,10 @@ class EditWalk : public Editing {
   protected:
     static constexpr int events = 500;
 
-    int pick(int first, int last) { return std::uniform_int_distribution<int>(first, last)(random_); }
+    int pick(int first, int last) { return dice_.pick(first, last); }
     template <typename Table>
     const auto& anyOf(const Table& table) {
-        return table[static_cast<std::size_t>(pick(0, static_cast<int>(table.size()) - 1))];
+        return dice_.anyOf(table);
     }
 
     void step();
@@ -51,7 +50,7 @@ class EditWalk : public Editing {
     static void checkText(const TextField& row, int index, const DesignCase& stored);
     static void checkChoices(const DesignCase& stored);
 
-    std::mt19937 random_{20'240'611};
+    testing::Dice dice_{20'240'611};
     std::map<std::string, int> done_;
     int errors_ = 0;
 };
@@ -103,8 +102,7 @@ void EditWalk::answerErrors() {
 varno::Control EditWalk::anyBox() {
     if (pick(0, 15) == 0) return {Field::nfack};
     const TextField& row = anyOf(textFields);
-    const bool perSpan = std::holds_alternative<SpanArray DesignCase::*>(row.place);
-    return {row.field, perSpan ? pick(1, spans()) : 0};
+    return {row.field, row.isPerSpan() ? pick(1, spans()) : 0};
 }
 
 void EditWalk::typeSomewhere() {
@@ -113,9 +111,7 @@ void EditWalk::typeSomewhere() {
     box.clickInto();
     answerErrors();
     box.selectAll();
-    // Half of the texts are plain numbers, so that the case can be drawn now and then.
-    const std::string text =
-        pick(0, 1) == 0 ? std::to_string(pick(1, 99) / 10.0).substr(0, 3) : anyOf(testing::typedTexts);
+    const std::string text = dice_.text();
     if (text.empty()) box.key(VK_DELETE);
     box.type(text);
 }
@@ -244,7 +240,7 @@ void EditWalk::checkSaved() {
     EXPECT_EQ(stored.upl(0), 0.0f);
     EXPECT_EQ(stored.upl(stored.nfack), 0.0f);
     for (const TextField& row : textFields) {
-        if (!std::holds_alternative<SpanArray DesignCase::*>(row.place)) {
+        if (!row.isPerSpan()) {
             checkText(row, 0, stored);
             continue;
         }

@@ -1,11 +1,9 @@
 #include "input/edit_walk.h"
 
-#include "support/typed_texts.h"
-
 namespace varno::testing {
 
 EditWalk::EditWalk(unsigned seed, const NumberLocale& locale)
-    : rig(static_cast<int>(seed % 10) + 1, locale), locale_(locale), random_(seed) {
+    : rig(static_cast<int>(seed % 10) + 1, locale), locale_(locale), dice_(seed) {
     // As the real window does: an error of a field being left is shown, and the event around it goes on.
     rig.form.onLeave = [this](Control control) { leave(control); };
 }
@@ -87,9 +85,8 @@ void EditWalk::step() {
 
 Control EditWalk::anyBox() {
     if (pick(0, 15) == 0) return {Field::nfack};
-    const TextField& row = textFields[static_cast<std::size_t>(pick(0, int{textFields.size()} - 1))];
-    const bool perSpan = std::holds_alternative<SpanArray DesignCase::*>(row.place);
-    return {row.field, perSpan ? pick(row.field == Field::upl ? 0 : 1, rig.designCase.nfack) : 0};
+    const TextField& row = dice_.anyOf(textFields);
+    return {row.field, row.isPerSpan() ? pick(row.field == Field::upl ? 0 : 1, rig.designCase.nfack) : 0};
 }
 
 bool EditWalk::canEnter(Control control) const {
@@ -105,11 +102,7 @@ void EditWalk::typeSomewhere() {
         rig.form.focus({Field::rubrik});
         return;
     }
-    // Half of the texts are plain numbers, so that the case stays one that can be drawn now and then.
-    const std::string text =
-        pick(0, 1) == 0
-            ? std::to_string(pick(1, 99) / 10.0).substr(0, 3)
-            : typedTexts[static_cast<std::size_t>(pick(0, static_cast<int>(typedTexts.size()) - 1))];
+    const std::string text = dice_.text();
     last_ += " " + text;
     rig.form.type(box, text);
 }
@@ -128,7 +121,7 @@ void EditWalk::chooseRow() {
 
 void EditWalk::clickOption() {
     if (pick(0, 1) == 0) {
-        const RuleSet& rules = ruleSets[static_cast<std::size_t>(pick(0, 5))];
+        const RuleSet& rules = dice_.anyOf(ruleSets);
         rig.form.focus({rules.classGroup});
         guarded([&] { rig.input.clicked({rules.classGroup, pick(1, 3)}); });
         return;

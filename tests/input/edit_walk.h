@@ -1,11 +1,11 @@
 #pragma once
 
 #include <map>
-#include <random>
 #include <string>
 
 #include "controls/rule_sets.h"
 #include "input/input_rig.h"
+#include "support/walk.h"
 
 namespace varno::testing {
 
@@ -23,7 +23,7 @@ class EditWalk {
     std::map<std::string, int> done;
 
   private:
-    int pick(int first, int last) { return std::uniform_int_distribution<int>(first, last)(random_); }
+    int pick(int first, int last) { return dice_.pick(first, last); }
     void step();
     void typeSomewhere();
     void moveFocus();
@@ -45,7 +45,7 @@ class EditWalk {
     void expect(bool holds, const std::string& what);
 
     NumberLocale locale_;
-    std::mt19937 random_;
+    Dice dice_;
     int index_ = 0;
     std::string last_;
 };

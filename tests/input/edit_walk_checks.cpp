@@ -59,7 +59,7 @@ void EditWalk::check() {
     if (!breach.empty()) return;
     checkVisibility();
     for (const TextField& row : textFields) {
-        if (!std::holds_alternative<SpanArray DesignCase::*>(row.place)) {
+        if (!row.isPerSpan()) {
             checkBox(row, 0);
             continue;
         }
@@ -92,23 +92,12 @@ bool EditWalk::agrees(const TextField& row, int index, const std::string& text) 
     if (sign != std::string::npos) pointed.replace(sign, locale_.decimal.size(), ".");
     const double shown = VARNO1::plainNumber(pointed);
 
-    const DesignCase& designCase = rig.designCase;
-    const int set = designCase.loadCode;
-    if (const auto* cells = std::get_if<SpanArray DesignCase::*>(&row.place)) {
-        return static_cast<float>(shown) == (designCase.**cells)(index);
-    }
-    if (const auto* single = std::get_if<float DesignCase::*>(&row.place)) {
-        return text == formatNumber(designCase.**single, row.pattern, locale_);
-    }
-    if (const auto* whole = std::get_if<std::int16_t DesignCase::*>(&row.place)) {
-        return toInteger(shown) == designCase.**whole;
-    }
-    const auto* perSet = std::get_if<FactorPerRuleSet DesignCase::*>(&row.place);
-    const Factor& factor =
-        perSet != nullptr
-            ? (designCase.**perSet)(set)
-            : (designCase.*std::get<FactorPerCategory DesignCase::*>(row.place))(set, designCase.lokt);
-    return factor && *factor == shown;
+    const std::optional<double> stored = numberOf(rig.designCase, row, index);
+    // A cantilever keeps what was typed and shows two decimals of it.
+    if (row.field == Field::konsv || row.field == Field::konsh)
+        return text == formatNumber(*stored, row.pattern, locale_);
+    if (row.isPerSpan()) return static_cast<float>(shown) == static_cast<float>(*stored);
+    return row.isFactor() ? stored == shown : *stored == toInteger(shown);
 }
 
 void EditWalk::checkBox(const TextField& row, int index) {

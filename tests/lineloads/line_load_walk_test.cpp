@@ -5,6 +5,7 @@
 #include <random>
 
 #include "lineloads/line_load_rig.h"
+#include "support/walk.h"
 
 // Long random use of an editor. After every step, whatever it was: the record is what a plain reckoning of
 // the edits says, the rows seen are the counted ones, and the sketch shows what a fresh one would.
@@ -21,8 +22,7 @@ struct Edited {
 
 class Walk {
   public:
-    Walk(const LineLoadSet& set, const NumberLocale& locale, unsigned seed)
-        : rig_(set, locale), random_(seed) {
+    Walk(const LineLoadSet& set, const NumberLocale& locale, unsigned seed) : rig_(set, locale), dice_(seed) {
         rig_.open();
     }
 
@@ -62,7 +62,7 @@ class Walk {
     }
 
   private:
-    int pick(int choices) { return static_cast<int>(random_() % static_cast<unsigned>(choices)); }
+    int pick(int choices) { return dice_.pick(0, choices - 1); }
 
     void count(int by) {
         by > 0 ? rig_.editor.spinUp() : rig_.editor.spinDown();
@@ -102,7 +102,7 @@ class Walk {
     }
 
     LineLoadRig rig_;
-    std::mt19937 random_;
+    Dice dice_;
     Edited expected_;
 };
 
