@@ -5,7 +5,13 @@
 namespace varno {
 
 /// Style numbers of a message box.
-enum MessageStyle : int { msgOk = 0, msgYesNo = 4, msgQuestionYesNoCancel = 35 };
+enum MessageStyle : int {
+    msgOk = 0,
+    msgYesNo = 4,
+    msgError = 16, ///< "OK" beside the sign of an error
+    msgQuestionYesNoCancel = 35,
+    msgYesNoDefaultNo = 260, ///< for what cannot be undone: Enter answers "Nej"
+};
 
 /// The button that closed a message box.
 enum class MessageAnswer : int { ok = 1, cancel = 2, abort = 3, retry = 4, ignore = 5, yes = 6, no = 7 };

@@ -36,6 +36,7 @@ void DiagramCommands::moment() {
 }
 
 void DiagramCommands::plot() {
+    if (!printerThere(printer_, boxes_)) return;
     const BusyPointer busy(window_);
     File file = files_.openFile(momentFileName, FileMode::input);
     {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/message_boxes.h"
 #include "base/open_file.h"
 #include "controls/main_view.h"
 #include "diagram/moment_diagram.h"
@@ -23,9 +24,9 @@ class DiagramView {
 /// through makes the picture whole again.
 class DiagramCommands {
   public:
-    DiagramCommands(MomentDiagram& diagram, FileOpener& files, MainView& window, Printer& printer,
-                    DiagramView& view)
-        : diagram_(diagram), files_(files), window_(window), printer_(printer), view_(view) {}
+    DiagramCommands(MomentDiagram& diagram, FileOpener& files, MessageBoxes& boxes, MainView& window,
+                    Printer& printer, DiagramView& view)
+        : diagram_(diagram), files_(files), boxes_(boxes), window_(window), printer_(printer), view_(view) {}
 
     /// The menu item "Moment". \throws RunTimeError; a window that was not shown is not shown then.
     void moment();
@@ -37,6 +38,7 @@ class DiagramCommands {
   private:
     MomentDiagram& diagram_;
     FileOpener& files_;
+    MessageBoxes& boxes_;
     MainView& window_;
     Printer& printer_;
     DiagramView& view_;

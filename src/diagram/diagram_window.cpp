@@ -21,9 +21,7 @@ constexpr std::array controls{
 
 } // namespace
 
-DiagramWindow::DiagramWindow(win32::WindowHost& host, HWND owner, std::function<void()> plot,
-                             std::function<void()> back)
-    : FormWindow(host), plot_(std::move(plot)), back_(std::move(back)), picture_(host) {
+DiagramWindow::DiagramWindow(win32::WindowHost& host, HWND owner) : FormWindow(host), picture_(host) {
     const HMENU bar = CreateMenu();
     AppendMenuW(bar, MF_STRING, idReturn, L"Återgå");
     create(L"VarnoMomkurva", "Momentdiagram", WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN,
@@ -54,10 +52,10 @@ void DiagramWindow::onCommand(int id, int notification) {
     switch (id) {
     case idPlot:
     case idOkButton:
-        plot_();
+        commands_->plot();
         return;
     case idReturn:
-        back_();
+        commands_->back();
         return;
     default:
         FormWindow::onCommand(id, notification);

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-
 #include "diagram/diagram_commands.h"
 #include "drawing/recording_canvas.h"
 #include "win32/form_window.h"
@@ -12,8 +10,9 @@ namespace varno {
 /// The window "Momentdiagram" (`Momkurva`), modeless.
 class DiagramWindow : public win32::FormWindow, public DiagramView {
   public:
-    DiagramWindow(win32::WindowHost& host, HWND owner, std::function<void()> plot,
-                  std::function<void()> back);
+    DiagramWindow(win32::WindowHost& host, HWND owner);
+
+    void listen(DiagramCommands& commands) { commands_ = &commands; }
 
     Canvas& picture() override { return drawing_; }
     void paint() override { picture_.redraw(); }
@@ -22,12 +21,11 @@ class DiagramWindow : public win32::FormWindow, public DiagramView {
 
   protected:
     void onCommand(int id, int notification) override;
-    void onCloseBox() override { back_(); }
+    void onCloseBox() override { commands_->back(); }
     void layOut() override;
 
   private:
-    std::function<void()> plot_;
-    std::function<void()> back_;
+    DiagramCommands* commands_ = nullptr;
     RecordingCanvas drawing_;
     win32::PictureWindow picture_;
     bool placed_ = false;

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
+#include "base/message_boxes.h"
 #include "drawing/canvas.h"
 
 namespace varno {
@@ -12,6 +14,11 @@ namespace varno {
 class Printer {
   public:
     virtual ~Printer() = default;
+
+    /// There is a printer to print on.
+    virtual bool available() const = 0;
+    /// The font faces that it offers, in its order.
+    virtual std::vector<std::string> fonts() const = 0;
 
     /// The font face of the text that follows; it stays until the next one.
     virtual void setFontName(const std::string& face) = 0;
@@ -28,5 +35,8 @@ class Printer {
     /// there is none.
     virtual Canvas& canvas() = 0;
 };
+
+/// Without a printer it says so.
+bool printerThere(const Printer& printer, MessageBoxes& boxes);
 
 } // namespace varno

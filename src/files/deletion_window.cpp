@@ -3,7 +3,7 @@
 #include <array>
 
 #include "controls/control_ids.h"
-#include "win32/strings.h"
+#include "win32/list_rows.h"
 
 namespace varno {
 
@@ -11,15 +11,8 @@ namespace {
 
 constexpr int width = raster(560);
 constexpr int height = raster(372);
+constexpr int listTop = raster(16);
 constexpr std::array controls{
-    ControlSpec{0, ControlKind::label, "Filer:", raster(16), raster(16), raster(230), raster(16)},
-    ControlSpec{idFileList, ControlKind::multiListBox, "", raster(16), raster(36), raster(230), raster(286)},
-    ControlSpec{0, ControlKind::label, "Mapp:", raster(258), raster(16), raster(180), raster(16)},
-    ControlSpec{idPathLabel, ControlKind::readOnlyEdit, "", raster(258), raster(36), raster(188), raster(18)},
-    ControlSpec{idDirectoryList, ControlKind::folderList, "", raster(258), raster(66), raster(188),
-                raster(204)},
-    ControlSpec{0, ControlKind::label, "Enhet:", raster(258), raster(280), raster(180), raster(16)},
-    ControlSpec{idDriveList, ControlKind::dropDown, "", raster(258), raster(298), raster(188), raster(24)},
     ControlSpec{idDelete, ControlKind::button, "Ta bort", raster(458), raster(36), raster(86), raster(26)},
     ControlSpec{idCancelButton, ControlKind::button, "Avsluta", raster(458), raster(69), raster(86),
                 raster(26)},
@@ -42,10 +35,10 @@ class ConfirmationWindow : public win32::FormWindow {
             ControlSpec{idFileName, ControlKind::label, name.c_str(), raster(20), raster(42), raster(300),
                         raster(18)},
             ControlSpec{idPosition, ControlKind::label, position.c_str(), 0, 0, raster(40), raster(18)},
-            ControlSpec{idYesButton, ControlKind::defaultButton, "Ja", raster(72), raster(76), raster(90),
+            ControlSpec{idYesButton, ControlKind::button, "Ja", raster(72), raster(76), raster(90),
                         raster(28)},
-            ControlSpec{idCancelButton, ControlKind::button, "Ångra", raster(178), raster(76), raster(90),
-                        raster(28)},
+            ControlSpec{idCancelButton, ControlKind::defaultButton, "Ångra", raster(178), raster(76),
+                        raster(90), raster(28)},
         };
         addControls(parts);
         ShowWindow(item(idPosition), SW_HIDE);
@@ -53,14 +46,17 @@ class ConfirmationWindow : public win32::FormWindow {
         sizeAndCentre(raster(340), raster(120), owner);
     }
     bool ask() {
+        SetFocus(item(idCancelButton));
         runModal();
         return yes_;
     }
 
   protected:
     void onCommand(int id, int notification) override {
-        if (id == idYesButton || id == idOkButton) {
-            yes_ = true;
+        // Enter comes as "OK" where no button that is the default one has the focus.
+        const bool yes = id == idYesButton || (id == idOkButton && GetFocus() == item(idYesButton));
+        if (yes || id == idOkButton) {
+            yes_ = yes;
             closeForm();
             return;
         }
@@ -98,18 +94,20 @@ class HelpWindow : public win32::FormWindow {
 
 } // namespace
 
-DeletionWindow::DeletionWindow(win32::WindowHost& host, HWND owner) : FormWindow(host) {
+DeletionWindow::DeletionWindow(win32::WindowHost& host, HWND owner) : FileChooserWindow(host) {
     create(L"VarnoDelFile", deletionCaption, WS_POPUP | WS_CAPTION | WS_SYSMENU, WS_EX_DLGMODALFRAME, owner,
            nullptr, {});
+    addLists(ControlKind::multiListBox, listTop);
     addControls(controls);
-    lists_.attach({item(idDriveList), item(idDirectoryList), item(idFileList), item(idPathLabel)});
 }
 
-void DeletionWindow::ask(FileDeletion& deletion, const std::string& pattern,
-                         const std::string& dialogDirectory) {
+void DeletionWindow::listen(FileDeletion& deletion) {
     deletion_ = &deletion;
+    FileChooserWindow::listen(deletion);
+}
+
+void DeletionWindow::run() {
     sizeAndCentre(width, height, GetWindow(handle(), GW_OWNER));
-    deletion.opened(*this, pattern, dialogDirectory);
     SetFocus(item(idFileList));
     runModal();
 }
@@ -126,8 +124,8 @@ bool DeletionWindow::isSelected(int position) const {
     return SendMessageW(item(idFileList), LB_GETSEL, static_cast<WPARAM>(position), 0) > 0;
 }
 
-void DeletionWindow::clearSelection(int position) {
-    SendMessageW(item(idFileList), LB_SETSEL, FALSE, position);
+void DeletionWindow::select(int position, bool selected) {
+    SendMessageW(item(idFileList), LB_SETSEL, selected ? TRUE : FALSE, position);
 }
 
 bool DeletionWindow::confirming() const {
@@ -136,10 +134,6 @@ bool DeletionWindow::confirming() const {
 
 void DeletionWindow::setConfirming(bool confirming) {
     CheckDlgButton(handle(), idConfirm, confirming ? BST_CHECKED : BST_UNCHECKED);
-}
-
-void DeletionWindow::refreshLists() {
-    lists_.show(deletion_->lists());
 }
 
 bool DeletionWindow::confirmed(const std::string& name, const std::string& position) {
@@ -152,44 +146,23 @@ void DeletionWindow::showHelp(const std::string& first, const std::string& secon
     window.runModal();
 }
 
-void DeletionWindow::layOut() {
-    FormWindow::layOut();
-    lists_.setDpi(dpi());
-}
-
 void DeletionWindow::onCommand(int id, int notification) {
-    if (deletion_ == nullptr) return;
     switch (id) {
     case idDelete:
-        deletion_->deletePressed(*this);
+        deletion_->deletePressed();
         return;
     case idCancelButton:
-        deletion_->closePressed(*this);
+        deletion_->closePressed();
         return;
     case idDeletionHelp:
-        deletion_->helpPressed(*this);
+        deletion_->helpPressed();
         return;
-    case idDirectoryList:
     case idOkButton:
-        // Enter opens the selected folder, as a double click does.
-        if (id == idOkButton ? GetFocus() == item(idDirectoryList) : notification == LBN_DBLCLK) {
-            if (const auto folder = lists_.chosenFolder()) deletion_->folderChosen(*this, *folder);
-        }
-        return;
-    case idDriveList:
-        if (notification == CBN_SELCHANGE) deletion_->driveChosen(*this, lists_.chosenDrive());
+        enterFolder();
         return;
     default:
-        return;
+        FileChooserWindow::onCommand(id, notification);
     }
-}
-
-LRESULT DeletionWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_DRAWITEM && wParam == idDirectoryList) {
-        lists_.drawFolder(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam), dpi());
-        return TRUE;
-    }
-    return FormWindow::onMessage(message, wParam, lParam);
 }
 
 } // namespace varno

@@ -1,68 +1,92 @@
 #include "files/file_deletion.h"
 
+#include <algorithm>
+#include <optional>
+
+#include "base/run_time_error.h"
 #include "base/text.h"
 
 namespace varno {
 
-void FileDeletion::opened(DeletionView& view, const std::string& pattern,
-                          const std::string& dialogDirectory) {
-    lists_.setPattern(pattern);
-    view.setConfirming(true);
+namespace {
+
+// Why a file stays, and what helps.
+struct Hindrance {
+    int number;
+    const char* reason;
+    const char* help;
+};
+constexpr std::array hindrances{
+    Hindrance{errFileNotFound, "den finns inte längre", "Listan visar nu de filer som finns."},
+    Hindrance{errPathNotFound, "mappen finns inte längre", "Välj en annan mapp."},
+    Hindrance{errPermissionDenied, "den används av ett annat program, eller disken är skrivskyddad",
+              "Stäng filen där och försök igen."},
+    Hindrance{errPathFileAccess, "den är skrivskyddad, eller Du har inte rätt att ta bort den",
+              "Ta bort skrivskyddet i Windows och försök igen."},
+};
+constexpr Hindrance otherHindrance{0, "Windows kunde inte utföra det", "Försök igen."};
+
+std::string keptMessage(const std::string& path, const RunTimeError& error) {
+    const auto found = std::find_if(hindrances.begin(), hindrances.end(),
+                                    [&](const Hindrance& row) { return row.number == error.number(); });
+    const Hindrance& hindrance = found == hindrances.end() ? otherHindrance : *found;
+    return "Filen " + path + " kunde inte tas bort: " + hindrance.reason + ". " + hindrance.help +
+           "\n\nDe filer som är markerade i listan är inte borttagna.\n\n" + error.message();
+}
+
+} // namespace
+
+void FileDeletion::open(const std::string& pattern, const std::string& dialogDirectory) {
+    lists().setPattern(pattern);
+    view_.setConfirming(true);
     if (!dialogDirectory.empty()) {
         std::string directory = dialogDirectory;
         if (directory.ends_with('\\')) directory.pop_back();
         // "C:" alone would be wherever that drive stands, not its root.
         if (directory.ends_with(':')) directory += '\\';
-        lists_.changeDirectory(directory);
+        lists().changeDirectory(directory);
     }
-    view.refreshLists();
+    view_.refreshLists();
+    view_.run();
 }
 
-void FileDeletion::deletePressed(DeletionView& view) {
-    const auto makeReady = [&] {
-        view.refreshLists();
-        view.setConfirming(true);
-    };
+std::vector<std::string> FileDeletion::selectedNames() const {
+    std::vector<std::string> names;
+    for (int position = 0; position < view_.entryCount(); ++position) {
+        if (view_.isSelected(position)) names.push_back(view_.entry(position));
+    }
+    return names;
+}
+
+void FileDeletion::deletePressed() {
+    if (selectedNames().empty()) boxes_.tell("Markera först de filer som Du vill ta bort !");
+    std::optional<RunTimeError> error;
     try {
-        deleteSelected(view);
-    } catch (...) {
-        makeReady();
-        throw;
+        deleteSelected();
+    } catch (const RunTimeError& thrown) {
+        error = thrown;
     }
-    makeReady();
+    const auto kept = selectedNames();
+    view_.refreshLists();
+    view_.setConfirming(true);
+    for (int position = 0; position < view_.entryCount(); ++position)
+        view_.select(position, std::find(kept.begin(), kept.end(), view_.entry(position)) != kept.end());
+    if (error) boxes_.show(keptMessage(lists().pathOf(kept.front()), *error), msgError, "Varno");
 }
 
-void FileDeletion::deleteSelected(DeletionView& view) {
-    for (int position = 0; position < view.entryCount(); ++position) {
-        if (!view.isSelected(position)) continue;
-        const std::string name = view.entry(position);
-        if (!view.confirming() || view.confirmed(upperCase(name), std::to_string(position))) {
-            calls_.remove(lists_.pathOf(name));
-        } else {
-            view.clearSelection(position);
-        }
+// A file that is dealt with is not selected any longer, so what is still selected after an error was not deleted.
+void FileDeletion::deleteSelected() {
+    for (int position = 0; position < view_.entryCount(); ++position) {
+        if (!view_.isSelected(position)) continue;
+        const std::string name = view_.entry(position);
+        if (!view_.confirming() || view_.confirmed(upperCase(name), std::to_string(position)))
+            calls_.remove(lists().pathOf(name));
+        view_.select(position, false);
     }
 }
 
-void FileDeletion::helpPressed(DeletionView& view) {
-    view.showHelp("Clicka med musen på de Filer Du vill ta bort", "Clicka sedan på 'Ta bort'");
-}
-
-void FileDeletion::driveChosen(DeletionView& view, const std::string& drive) {
-    // The lists are shown again also when the drive is not there, so that the drive list stands where the
-    // others do.
-    try {
-        lists_.changeDrive(drive);
-    } catch (...) {
-        view.refreshLists();
-        throw;
-    }
-    view.refreshLists();
-}
-
-void FileDeletion::folderChosen(DeletionView& view, const std::string& path) {
-    lists_.changeDirectory(path);
-    view.refreshLists();
+void FileDeletion::helpPressed() {
+    view_.showHelp("Clicka med musen på de Filer Du vill ta bort", "Clicka sedan på 'Ta bort'");
 }
 
 } // namespace varno

@@ -2,9 +2,11 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 #include "base/file_calls.h"
-#include "files/file_lists.h"
+#include "base/message_boxes.h"
+#include "files/file_chooser.h"
 
 namespace varno {
 
@@ -24,52 +26,46 @@ inline constexpr const char* confirmationCaption = "Bekräfta";
 inline constexpr const char* confirmationQuestion = "Är Du säker på att Du vill ta bort:";
 
 /// The deletion window (`DelFile`) as its rules see it. Entries of the file list count from 0.
-class DeletionView {
+class DeletionView : public FileChooserView {
   public:
-    virtual ~DeletionView() = default;
     virtual int entryCount() const = 0;
     virtual std::string entry(int position) const = 0;
     virtual bool isSelected(int position) const = 0;
-    virtual void clearSelection(int position) = 0;
+    virtual void select(int position, bool selected) = 0;
 
     /// The check box `bekr`.
     virtual bool confirming() const = 0;
     virtual void setConfirming(bool confirming) = 0;
 
-    /// Shows the lists and the path label again; nothing is selected then.
-    virtual void refreshLists() = 0;
     /// The confirmation window (`Veri`), modally, with the name in its label and the position in its hidden
     /// one. True for "Ja", false for "Ångra" and for its close box.
     virtual bool confirmed(const std::string& name, const std::string& position) = 0;
     /// The help window with its two labels, modally.
     virtual void showHelp(const std::string& first, const std::string& second) = 0;
-    virtual void close() = 0;
 };
 
 /// The rules of the deletion window.
-class FileDeletion {
+class FileDeletion : public FileChooser {
   public:
-    FileDeletion(Folders& folders, FileCalls& calls) : calls_(calls), lists_(folders) {}
+    FileDeletion(Folders& folders, FileCalls& calls, MessageBoxes& boxes, DeletionView& view)
+        : FileChooser(folders, view), calls_(calls), boxes_(boxes), view_(view) {}
 
-    FileLists& lists() { return lists_; }
-
-    /// The window loads: with the files of a pattern, in the directory that the file-name dialog was left in
-    /// (empty when it was not used). \throws RunTimeError 76 when that is gone.
-    void opened(DeletionView& view, const std::string& pattern, const std::string& dialogDirectory);
-    /// "Ta bort": the selected files, from the first to the last. \throws RunTimeError at a file that cannot
-    /// be deleted; the files behind it stay, and the window is ready for the next try.
-    void deletePressed(DeletionView& view);
-    void helpPressed(DeletionView& view);
-    void closePressed(DeletionView& view) { view.close(); }
-    /// \throws RunTimeError 68 or 76; the lists then stay where they are.
-    void driveChosen(DeletionView& view, const std::string& drive);
-    void folderChosen(DeletionView& view, const std::string& path);
+    /// The window, modally: with the files of a pattern, in the directory that the file-name dialog was left
+    /// in (empty when it was not used). \throws RunTimeError 76 when that is gone.
+    void open(const std::string& pattern, const std::string& dialogDirectory);
+    /// "Ta bort": the selected files, from the first to the last. A file that cannot be deleted is told and
+    /// ends it; that file and the selected ones behind it stay selected.
+    void deletePressed();
+    void helpPressed();
+    void closePressed() { view_.close(); }
 
   private:
-    void deleteSelected(DeletionView& view);
+    std::vector<std::string> selectedNames() const;
+    void deleteSelected();
 
     FileCalls& calls_;
-    FileLists lists_;
+    MessageBoxes& boxes_;
+    DeletionView& view_;
 };
 
 } // namespace varno

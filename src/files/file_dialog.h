@@ -4,54 +4,62 @@
 #include <string>
 
 #include "base/message_boxes.h"
-#include "files/file_lists.h"
+#include "files/file_chooser.h"
 
 namespace varno {
 
+/// What the file-name dialog is used for.
+struct FileDialogUse {
+    const char* caption;
+    const char* pattern;
+    std::int16_t dialogForSaving; ///< 1 for saving, 0 for choosing an existing file
+};
+inline constexpr FileDialogUse choosingCase{"Välj Indatafil", "*.IND", 0};
+inline constexpr FileDialogUse savingCase{"Spara som..", "*.IND", 1};
+inline constexpr FileDialogUse choosingResult{"Välj Resultatfil", "*.RES", 0};
+
 /// The file-name dialog's window (`FileInfo`) as its rules see it.
-class FileDialogView {
+class FileDialogView : public FileChooserView {
   public:
-    virtual ~FileDialogView() = default;
+    virtual void setCaption(const std::string& caption) = 0;
     virtual std::string name() const = 0;
     virtual void setName(const std::string& name) = 0;
     /// Selects the whole text of the text box and gives it the focus.
     virtual void selectName() = 0;
+    /// The note below the lists; empty for none.
     virtual void setNote(const std::string& note) = 0;
-    /// Shows the lists and the path label again.
-    virtual void refreshLists() = 0;
-    virtual void close() = 0;
 };
 
 /// The file-name dialog that Open, Save as and the printing of a result share. One for the whole run: it
 /// stays in the directory it was left in, and Save writes there.
-class FileDialog {
+class FileDialog : public FileChooser {
   public:
-    FileDialog(Folders& folders, MessageBoxes& boxes) : lists_(folders), boxes_(boxes) {}
+    FileDialog(Folders& folders, MessageBoxes& boxes, FileDialogView& view)
+        : FileChooser(folders, view), boxes_(boxes), view_(view) {}
 
-    // The caller's side: set up, show modally, then read.
-    std::int16_t dialogForSaving = 0; ///< 1 for saving, 0 for choosing an existing file
-    std::string caption;
-    std::int16_t dialogAnswer = 1; ///< the button that closed it: 0 "OK", 1 "Avbryt"
-    std::string typedName;         ///< the name accepted with "OK"
-    FileLists& lists() { return lists_; }
+    // The caller's side.
+    /// Shows the dialog, modally; true for "OK": `typedName` is then the name.
+    bool ask(const FileDialogUse& use);
+    /// The same with the name that was typed last, to be changed.
+    bool askAgain(const FileDialogUse& use);
+    std::string typedName; ///< the name accepted with "OK"
     /// The dialog's current directory & "\" & `name`.
-    std::string path(const std::string& name) { return lists_.directory() + "\\" + name; }
+    std::string path(const std::string& name) { return lists().directory() + "\\" + name; }
 
     // The window's side.
-    void activated(FileDialogView& view);
-    void fileClicked(FileDialogView& view, const std::string& name) { view.setName(name); }
-    void driveChosen(FileDialogView& view, const std::string& drive);
-    void folderChosen(FileDialogView& view, const std::string& path);
+    void fileClicked(const std::string& name) { view_.setName(name); }
     /// "OK": a text with ":", "\", "*" or "?" moves the lists and leaves the dialog open; any other is the
     /// name. \throws RunTimeError 68 or 76 for a drive or folder that is not there.
-    void accepted(FileDialogView& view);
-    void cancelled(FileDialogView& view);
+    void accepted();
+    void cancelled();
 
   private:
-    bool moveLists(const std::string& text);
+    bool ask(const FileDialogUse& use, const std::string& name);
+    void moveLists(const std::string& text);
 
-    FileLists lists_;
     MessageBoxes& boxes_;
+    FileDialogView& view_;
+    std::int16_t dialogAnswer_ = 1; ///< the button that closed it: 0 "OK", 1 "Avbryt"
 };
 
 } // namespace varno

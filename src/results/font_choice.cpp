@@ -2,10 +2,12 @@
 
 namespace varno {
 
-void FontChoice::opened(const std::vector<std::string>& printerFonts) {
+void FontChoice::edit() {
     stored_ = resultFontName_;
     view_.showStored(stored_);
-    view_.showInstalled(printerFonts);
+    view_.showCurrent("");
+    view_.showInstalled(printer_.fonts());
+    view_.run();
 }
 
 void FontChoice::clicked(const std::string& face) {
@@ -14,8 +16,8 @@ void FontChoice::clicked(const std::string& face) {
     viewer_.setFont(face);
 }
 
-void FontChoice::accepted(const std::string& directory) {
-    File file = files_.openFile(directory + "\\" + fontFileName, FileMode::output);
+void FontChoice::accepted() {
+    File file = files_.openFile(dialog_.path(fontFileName), FileMode::output);
     file.printLine(encodeWindows1252(resultFontName_));
     file.close();
     view_.close();

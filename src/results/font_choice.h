@@ -4,6 +4,8 @@
 #include <vector>
 
 #include "base/open_file.h"
+#include "drawing/printer.h"
+#include "files/file_dialog.h"
 #include "results/result_viewer.h"
 
 namespace varno {
@@ -20,28 +22,35 @@ class FontChooserView {
     virtual void showInstalled(const std::vector<std::string>& faces) = 0;
     /// The one entry of "Lagrat fontval", drawn in its own font.
     virtual void showStored(const std::string& face) = 0;
-    /// The one entry of "Visas just nu".
+    /// The one entry of "Visas just nu"; no entry for an empty face.
     virtual void showCurrent(const std::string& face) = 0;
+    /// Shows the window, modally, until `close`.
+    virtual void run() = 0;
     virtual void close() = 0;
 };
 
 /// The rules of the font chooser. `resultFontName` is the program's setting and changes with every click.
 class FontChoice {
   public:
-    FontChoice(std::string& resultFontName, FileOpener& files, ResultViewer& viewer, FontChooserView& view)
-        : resultFontName_(resultFontName), files_(files), viewer_(viewer), view_(view) {}
+    FontChoice(std::string& resultFontName, FileOpener& files, const Printer& printer, FileDialog& dialog,
+               ResultViewer& viewer, FontChooserView& view)
+        : resultFontName_(resultFontName), files_(files), printer_(printer), dialog_(dialog), viewer_(viewer),
+          view_(view) {}
 
-    void opened(const std::vector<std::string>& printerFonts);
+    /// "Redigera": the chooser, modally.
+    void edit();
     void clicked(const std::string& face);
-    /// Stores the choice in `directory` and closes. \throws RunTimeError 52 when the file could not be
-    /// opened; the chooser then stays.
-    void accepted(const std::string& directory);
+    /// Stores the choice and closes. \throws RunTimeError 52 when the file could not be opened; the chooser
+    /// then stays.
+    void accepted();
     /// Back to the stored choice.
     void cancelled();
 
   private:
     std::string& resultFontName_;
     FileOpener& files_;
+    const Printer& printer_;
+    FileDialog& dialog_;
     ResultViewer& viewer_;
     FontChooserView& view_;
     std::string stored_;

@@ -3,8 +3,7 @@
 #include <array>
 
 #include "controls/control_ids.h"
-#include "files/file_list_controls.h"
-#include "win32/strings.h"
+#include "win32/list_rows.h"
 
 namespace varno {
 
@@ -34,16 +33,10 @@ FontChooserWindow::FontChooserWindow(win32::WindowHost& host, HWND owner) : Form
     addControls(controls);
 }
 
-void FontChooserWindow::ask(FontChoice& choice, const std::vector<std::string>& fonts,
-                            std::function<std::string()> directory) {
-    choice_ = &choice;
-    directory_ = std::move(directory);
-    SendMessageW(item(idCurrentFont), LB_RESETCONTENT, 0, 0);
+void FontChooserWindow::run() {
     sizeAndCentre(width, height, GetWindow(handle(), GW_OWNER));
-    choice.opened(fonts);
     SetFocus(item(idInstalledFonts));
     runModal();
-    choice_ = nullptr;
 }
 
 void FontChooserWindow::showInstalled(const std::vector<std::string>& faces) {
@@ -56,6 +49,7 @@ void FontChooserWindow::showInstalled(const std::vector<std::string>& faces) {
 
 void FontChooserWindow::showOnly(int list, const std::string& face, win32::UniqueFont& font) {
     SendMessageW(item(list), LB_RESETCONTENT, 0, 0);
+    if (face.empty()) return;
     SendMessageW(item(list), LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(win32::wide(face).c_str()));
     dressList(list, font);
 }
@@ -89,18 +83,16 @@ void FontChooserWindow::showCurrent(const std::string& face) {
 }
 
 void FontChooserWindow::onCommand(int id, int notification) {
-    if (choice_ == nullptr) return;
     switch (id) {
     case idOkButton:
-        choice_->accepted(directory_());
+        choice_->accepted();
         return;
     case idCancelButton:
         choice_->cancelled();
         return;
     case idInstalledFonts:
         if (notification == LBN_SELCHANGE) {
-            const HWND list = item(idInstalledFonts);
-            const std::string face = win32::rowText(list, SendMessageW(list, LB_GETCURSEL, 0, 0));
+            const std::string face = win32::selectedRowText(item(idInstalledFonts));
             if (!face.empty()) choice_->clicked(face);
         }
         return;
@@ -110,7 +102,7 @@ void FontChooserWindow::onCommand(int id, int notification) {
 }
 
 void FontChooserWindow::onCloseBox() {
-    if (choice_ != nullptr) choice_->cancelled();
+    choice_->cancelled();
 }
 
 } // namespace varno

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-
 #include "results/font_choice.h"
 #include "win32/form_window.h"
 
@@ -12,13 +10,12 @@ class FontChooserWindow : public win32::FormWindow, public FontChooserView {
   public:
     FontChooserWindow(win32::WindowHost& host, HWND owner);
 
-    /// Modally. `directory` gives the folder that the choice is stored in.
-    void ask(FontChoice& choice, const std::vector<std::string>& fonts,
-             std::function<std::string()> directory);
+    void listen(FontChoice& choice) { choice_ = &choice; }
 
     void showInstalled(const std::vector<std::string>& faces) override;
     void showStored(const std::string& face) override;
     void showCurrent(const std::string& face) override;
+    void run() override;
     void close() override { closeForm(); }
 
   protected:
@@ -31,7 +28,6 @@ class FontChooserWindow : public win32::FormWindow, public FontChooserView {
     void dressList(int list, win32::UniqueFont& font);
 
     FontChoice* choice_ = nullptr;
-    std::function<std::string()> directory_;
     win32::UniqueFont storedFont_;
     win32::UniqueFont currentFont_;
 };

@@ -28,19 +28,15 @@ void ResultPrinting::print(const std::string& path, const std::string* fontName)
 }
 
 void ResultPrinting::printCurrent(const DocumentState& document, const std::string& resultFontName) {
+    if (!printerThere(printer_, boxes_)) return;
     showingMissingResult(boxes_, document.currentFileName,
                          [&] { print(document.currentFileName + ".res", &resultFontName); });
 }
 
-void ResultPrinting::printChosen(const DocumentState& document, FileDialog& dialog,
-                                 const std::function<void(FileDialog&)>& showModally) {
-    dialog.dialogForSaving = 0;
-    dialog.lists().setPattern("*.RES");
-    dialog.caption = "Välj Resultatfil";
-    showModally(dialog);
-    if (dialog.dialogAnswer != 0) return;
+void ResultPrinting::printChosen(const DocumentState& document) {
+    if (!printerThere(printer_, boxes_) || !dialog_.ask(choosingResult)) return;
     showingMissingResult(boxes_, document.currentFileName,
-                         [&] { print(dialog.path(dialog.typedName), nullptr); });
+                         [&] { print(dialog_.path(dialog_.typedName), nullptr); });
 }
 
 } // namespace varno

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <string>
 
 #include "base/message_boxes.h"
@@ -19,14 +18,14 @@ namespace varno {
 /// A document that the moment diagram was plotted into is gone on with, and ended here.
 class ResultPrinting {
   public:
-    ResultPrinting(FileOpener& files, MessageBoxes& boxes, MainView& window, Printer& printer)
-        : files_(files), boxes_(boxes), window_(window), printer_(printer) {}
+    ResultPrinting(FileOpener& files, MessageBoxes& boxes, MainView& window, Printer& printer,
+                   FileDialog& dialog)
+        : files_(files), boxes_(boxes), window_(window), printer_(printer), dialog_(dialog) {}
 
     /// "Resultat på skrivare": the result of the current case, in the result font.
     void printCurrent(const DocumentState& document, const std::string& resultFontName);
     /// "Skriv ut...": a result file that the user chooses. It is printed in whatever font the printer has.
-    void printChosen(const DocumentState& document, FileDialog& dialog,
-                     const std::function<void(FileDialog&)>& showModally);
+    void printChosen(const DocumentState& document);
 
   private:
     void print(const std::string& path, const std::string* fontName);
@@ -35,6 +34,7 @@ class ResultPrinting {
     MessageBoxes& boxes_;
     MainView& window_;
     Printer& printer_;
+    FileDialog& dialog_;
 };
 
 } // namespace varno

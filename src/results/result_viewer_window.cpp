@@ -32,9 +32,7 @@ HMENU viewerMenu() {
 
 } // namespace
 
-ResultViewerWindow::ResultViewerWindow(win32::WindowHost& host, HWND owner, std::function<void()> editFont,
-                                       std::function<void()> returned)
-    : FormWindow(host), editFont_(std::move(editFont)), returned_(std::move(returned)) {
+ResultViewerWindow::ResultViewerWindow(win32::WindowHost& host, HWND owner) : FormWindow(host) {
     create(L"VarnoForm6", "Utdata", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, 0, owner, viewerMenu(), {});
     addControls(controls);
     makeFont();
@@ -87,20 +85,15 @@ void ResultViewerWindow::layOut() {
 void ResultViewerWindow::onCommand(int id, int notification) {
     switch (id) {
     case idEditFont:
-        editFont_();
+        fonts_->edit();
         return;
     case idReturn:
     case idOkButton:
-        onCloseBox();
+        closeForm();
         return;
     default:
         FormWindow::onCommand(id, notification);
     }
-}
-
-void ResultViewerWindow::onCloseBox() {
-    closeForm();
-    returned_();
 }
 
 LRESULT ResultViewerWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {

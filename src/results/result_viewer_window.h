@@ -1,7 +1,6 @@
 #pragma once
 
-#include <functional>
-
+#include "results/font_choice.h"
 #include "results/result_viewer.h"
 #include "win32/form_window.h"
 
@@ -10,9 +9,9 @@ namespace varno {
 /// The result viewer (`Form6`, "Utdata"): one scrollable text box, modeless.
 class ResultViewerWindow : public win32::FormWindow, public ResultViewer {
   public:
-    /// `editFont` opens the font chooser; `returned` shows the input form again.
-    ResultViewerWindow(win32::WindowHost& host, HWND owner, std::function<void()> editFont,
-                       std::function<void()> returned);
+    ResultViewerWindow(win32::WindowHost& host, HWND owner);
+
+    void listen(FontChoice& fonts) { fonts_ = &fonts; }
 
     void setText(const std::string& text) override;
     void setFont(const std::string& face) override;
@@ -21,15 +20,13 @@ class ResultViewerWindow : public win32::FormWindow, public ResultViewer {
   protected:
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void onCommand(int id, int notification) override;
-    void onCloseBox() override;
     void layOut() override;
     void fontsChanged() override { makeFont(); }
 
   private:
     void makeFont();
 
-    std::function<void()> editFont_;
-    std::function<void()> returned_;
+    FontChoice* fonts_ = nullptr;
     std::string face_ = "Courier New";
     win32::UniqueFont textFont_;
     bool placed_ = false;

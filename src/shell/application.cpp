@@ -4,6 +4,7 @@
 
 #include "base/run_time_error.h"
 #include "controls/control_ids.h"
+#include "files/file_deletion.h"
 #include "shell/application_parts.h"
 #include "shell/help_contexts.h"
 #include "shell/save_prompt_window.h"
@@ -24,20 +25,20 @@ InputContext Application::inputContext() {
 }
 
 Application::Application()
-    : locale_(win32::userNumberLocale()), files_(systemFileCalls(), boxes_), fileDialog_(folders_, boxes_),
-      main_(*this, picture_), form_(*this),
+    : locale_(win32::userNumberLocale()), files_(systemFileCalls(), boxes_), fileInfo_(*this),
+      fileDialog_(folders_, boxes_, fileInfo_), main_(*this, picture_), form_(*this),
       sketch_(case_, picture_.loadPicture, picture_.slabStrip, picture_, [this] { main_.sketchChanged(); }),
       filler_(case_, form_, main_, locale_), input_(inputContext()),
       document_(case_, state_, filler_, form_, main_, files_, fileDialog_, boxes_, *this),
-      printing_(files_, boxes_, main_, printer_), deletion_(folders_, systemFileCalls()),
-      diagram_(case_, sketch_) {
+      printing_(files_, boxes_, main_, printer_, fileDialog_), diagram_(case_, sketch_) {
     main_.listen(*this);
     form_.create(main_.mdiClient());
     setHelpContexts(main_.handle(), form_.handle());
     helpSystem_.setOwner(main_.handle());
-    fileInfo_ = std::make_unique<FileInfoWindow>(host(), main_.handle());
-    viewer_ = std::make_unique<ResultViewerWindow>(
-        host(), main_.handle(), [this] { chooseFont(); }, [this] { showForm(); });
+    fileInfo_.create(main_.handle());
+    fileInfo_.listen(fileDialog_);
+    results_ = std::make_unique<Results>(host(), main_.handle(), settings_.resultFontName, files_, printer_,
+                                         fileDialog_);
 }
 
 Application::~Application() {
@@ -116,7 +117,7 @@ void Application::command(int id) {
     case idSaveAs:
         return document_.saveAs();
     case idPrint:
-        return printChosen();
+        return printing_.printChosen(state_);
     case idPrinterSetup:
         return setUpPrinter();
     case idExit:
@@ -130,7 +131,7 @@ void Application::command(int id) {
     case idShowResult:
         return showResult();
     case idPrintResult:
-        return printCurrent();
+        return printing_.printCurrent(state_, settings_.resultFontName);
     case idDeleteResults:
     case idDeleteInputs:
     case idDeleteBoth:
@@ -213,10 +214,6 @@ SaveAnswer Application::askToSave(const std::string& caption, const std::string&
     return prompt.ask(caption, text, cancelOffered);
 }
 
-void Application::showFileDialog(FileDialog& dialog) {
-    fileInfo_->ask(dialog);
-}
-
 void Application::endProgram() {
     ended_ = true;
     PostQuitMessage(0);
@@ -248,7 +245,7 @@ std::string Application::printerFontName() {
     return win32::printerFontName();
 }
 void Application::setResultFont(const std::string& face) {
-    viewer_->setFont(face);
+    results_->viewer.setFont(face);
 }
 
 } // namespace varno

@@ -2,9 +2,7 @@
 
 #include <memory>
 
-#include "diagram/diagram_window.h"
 #include "diagram/moment_diagram.h"
-#include "files/file_deletion.h"
 #include "files/file_info_window.h"
 #include "help/help_viewer.h"
 #include "input/input_form.h"
@@ -13,9 +11,7 @@
 #include "input/sketch_picture.h"
 #include "lineloads/line_load_window.h"
 #include "results/calculation_run.h"
-#include "results/font_chooser_window.h"
 #include "results/result_printing.h"
-#include "results/result_viewer_window.h"
 #include "shell/document.h"
 #include "shell/main_window.h"
 #include "shell/notice_window.h"
@@ -61,7 +57,6 @@ class Application : private win32::WindowHost,
 
     // DocumentView
     SaveAnswer askToSave(const std::string& caption, const std::string& text, bool cancelOffered) override;
-    void showFileDialog(FileDialog& dialog) override;
     void endProgram() override;
     void caseOpened() override;
 
@@ -78,15 +73,13 @@ class Application : private win32::WindowHost,
     bool translateHelpKey(const MSG& message);
     void calculate();
     void showResult();
-    void chooseFont();
     void showImportant();
-    void printCurrent();
-    void printChosen();
     void setUpPrinter();
     void deleteFiles(const char* pattern);
     void showMoments();
-    void plotMoments();
-    bool printerThere();
+    /// The windows that need their rules as those need them.
+    struct Results;
+    struct Moments;
     /// A line load editor with its window, made on first use.
     struct LineLoads;
     void openLineLoads(std::unique_ptr<LineLoads>& editor, const LineLoadSet& set);
@@ -106,6 +99,7 @@ class Application : private win32::WindowHost,
     FileOpener files_;
     win32::WindowsHelp helpSystem_;
     HelpViewer help_{helpSystem_, boxes_};
+    FileInfoWindow fileInfo_;
     FileDialog fileDialog_;
 
     MainWindow main_;
@@ -116,12 +110,10 @@ class Application : private win32::WindowHost,
     Document document_;
     win32::GdiPrinter printer_;
     ResultPrinting printing_;
-    FileDeletion deletion_;
     MomentDiagram diagram_;
-    std::unique_ptr<FileInfoWindow> fileInfo_;
-    std::unique_ptr<ResultViewerWindow> viewer_;
+    std::unique_ptr<Results> results_;
     std::unique_ptr<DisclaimerWindow> important_;
-    std::unique_ptr<DiagramWindow> diagramWindow_;
+    std::unique_ptr<Moments> moments_;
     std::unique_ptr<LineLoads> lineLoads_;
     std::unique_ptr<LineLoads> freeLoads_;
 };

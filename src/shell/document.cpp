@@ -77,11 +77,7 @@ void Document::newCase(const std::string& workFolder) {
 
 void Document::open() {
     if (!settled("Öppna")) return;
-    dialog_.dialogForSaving = 0;
-    dialog_.lists().setPattern("*.IND");
-    dialog_.caption = "Välj Indatafil";
-    view_.showFileDialog(dialog_);
-    if (dialog_.dialogAnswer != 0) return;
+    if (!dialog_.ask(choosingCase)) return;
 
     const BusyPointer busy(window_);
     read(dialog_.path(dialog_.typedName), true);
@@ -105,21 +101,21 @@ void Document::save() {
     }
 }
 
-void Document::saveAs() {
-    dialog_.dialogForSaving = 1;
-    dialog_.lists().setPattern("*.IND");
-    dialog_.caption = "Spara som..";
-    view_.showFileDialog(dialog_);
-    if (dialog_.dialogAnswer != 0) return;
+// A file of another case is replaced only when the user says so.
+bool Document::mayReplace(const std::string& savedFileName) {
+    const bool own = state_.caseSaved && savedFileName == caption();
+    if (own || !files_.calls().exists(dialog_.path(savedFileName))) return true;
+    return boxes_.show(savedFileName + " finns redan. Vill Du ersätta filen ?", msgYesNoDefaultNo,
+                       savingCase.caption) == MessageAnswer::yes;
+}
 
+void Document::saveAs() {
+    if (!dialog_.ask(savingCase)) return;
+    while (!mayReplace(caseFileName(dialog_.typedName).savedFileName)) {
+        if (!dialog_.askAgain(savingCase)) return;
+    }
     const CaseFileName name = caseFileName(dialog_.typedName);
     const std::string path = dialog_.path(name.savedFileName);
-    const bool own = state_.caseSaved && name.savedFileName == caption();
-    if (!own && files_.calls().exists(path)) {
-        const auto answer = boxes_.show(name.savedFileName + " finns redan. Vill Du ersätta filen ?",
-                                        msgYesNo, "Spara som..");
-        if (answer != MessageAnswer::yes) return;
-    }
     // The name goes into the first line of the file, so it changes before the case is written; when writing
     // fails the document is what it was.
     const DocumentState oldState = state_;

@@ -18,7 +18,6 @@ class DocumentView {
     virtual ~DocumentView() = default;
     /// The save-changes prompt, modally: "Ja", "Nej", and "Avbryt" when it is offered.
     virtual SaveAnswer askToSave(const std::string& caption, const std::string& text, bool cancelOffered) = 0;
-    virtual void showFileDialog(FileDialog& dialog) = 0;
     virtual void endProgram() = 0;
     /// The record is another case and the form shows it: what shows it beside the form follows, the sketch
     /// last. \throws RunTimeError for a case that cannot be drawn.
@@ -55,6 +54,7 @@ class Document {
     bool settled(const std::string& caption);
     void read(const std::string& path, bool asSaved);
     void write(const std::string& path);
+    bool mayReplace(const std::string& savedFileName);
     void selectTitle();
 
     DesignCase& case_;

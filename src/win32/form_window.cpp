@@ -57,7 +57,7 @@ KindStyle styleOf(ControlKind kind) {
                 WS_EX_CLIENTEDGE};
     case ControlKind::multiListBox:
         return {L"LISTBOX",
-                stop | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_EXTENDEDSEL | WS_VSCROLL | WS_GROUP,
+                stop | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_MULTIPLESEL | WS_VSCROLL | WS_GROUP,
                 WS_EX_CLIENTEDGE};
     case ControlKind::folderList:
         return {L"LISTBOX",

@@ -7,6 +7,7 @@
 
 #include "drawing/printer.h"
 #include "win32/gdi_canvas.h"
+#include "win32/printer_fonts.h"
 #include "win32/unique.h"
 
 namespace varno::win32 {
@@ -20,8 +21,8 @@ class GdiPrinter : public Printer {
     GdiPrinter(const GdiPrinter&) = delete;
     GdiPrinter& operator=(const GdiPrinter&) = delete;
 
-    /// There is a printer to print on.
-    bool available() const;
+    bool available() const override;
+    std::vector<std::string> fonts() const override { return printerFonts(); }
     /// The platform's set-up dialog: printer, orientation and copies. What is chosen applies to the next document.
     void setUp(HWND owner);
 

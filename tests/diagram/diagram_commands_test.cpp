@@ -34,7 +34,7 @@ class Diagram : public ::testing::Test {
     FakeMainWindow window;
     FakePrinter printer;
     FakeDiagramWindow view;
-    DiagramCommands commands{rig.diagram, opener, window, printer, view};
+    DiagramCommands commands{rig.diagram, opener, boxes, window, printer, view};
 };
 
 TEST_F(Diagram, OpensTheFileForEachPassAndShowsTheWindow) {
@@ -100,6 +100,17 @@ TEST_F(Diagram, ThePlotUsesTheScaleOfTheLastOpening) {
     EXPECT_EQ(rig.diagram.momentMax(), 10.0f);
     const auto ramp = std::get<LineDrawn>(printer.open[0].drawing.drawn()[0]);
     EXPECT_EQ(ramp.to, (Point{940, 2950}));
+}
+
+TEST_F(Diagram, WithoutAPrinterThePlotSaysSo) {
+    write(10);
+    commands.moment();
+    printer.there = false;
+    commands.plot();
+    ASSERT_EQ(boxes.shown.size(), 1u);
+    EXPECT_TRUE(boxes.shown[0].text.starts_with("Det finns ingen skrivare"));
+    EXPECT_TRUE(printer.open.empty());
+    EXPECT_EQ(view.painted, 1);
 }
 
 TEST_F(Diagram, ReturnClosesTheWindowAndKeepsTheScale) {

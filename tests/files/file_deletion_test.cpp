@@ -34,7 +34,7 @@ class FakeDeletionWindow : public DeletionView {
     int entryCount() const override { return static_cast<int>(entries.size()); }
     std::string entry(int position) const override { return entries.at(static_cast<std::size_t>(position)); }
     bool isSelected(int position) const override { return selected.at(static_cast<std::size_t>(position)); }
-    void clearSelection(int position) override { select(position, false); }
+    void select(int position, bool on) override { selected.at(static_cast<std::size_t>(position)) = on; }
     bool confirming() const override { return bekr; }
     void setConfirming(bool confirming) override { bekr = confirming; }
     void refreshLists() override {
@@ -49,9 +49,8 @@ class FakeDeletionWindow : public DeletionView {
     void showHelp(const std::string& first, const std::string& second) override {
         help = first + "|" + second;
     }
+    void run() override { ++timesShown; }
     void close() override { closed = true; }
-
-    void select(int position, bool on = true) { selected.at(static_cast<std::size_t>(position)) = on; }
 
     FileLists* lists = nullptr;
     std::vector<std::string> entries;
@@ -61,6 +60,7 @@ class FakeDeletionWindow : public DeletionView {
     std::function<bool(const std::string&)> answer = [](const std::string&) { return true; };
     int refreshed = 0;
     std::string help;
+    int timesShown = 0;
     bool closed = false;
 };
 
@@ -72,15 +72,16 @@ class FileDeletionTest : public ::testing::Test {
         view.lists = &deletion.lists();
     }
     void open(const std::string& pattern = "*.RES", const std::string& directory = "") {
-        deletion.opened(view, pattern, directory);
+        deletion.open(pattern, directory);
     }
     void selectAll() { view.selected.assign(view.entries.size(), true); }
     bool there(const std::string& name) { return files.content.contains("C:\\arbete\\" + name); }
 
     MemoryFiles files;
     MemoryFolders folders{files};
-    FileDeletion deletion{folders, files};
+    FakeMessageBoxes boxes;
     FakeDeletionWindow view;
+    FileDeletion deletion{folders, files, boxes, view};
 };
 
 using Names = std::vector<std::string>;
@@ -102,7 +103,7 @@ TEST_F(FileDeletionTest, WithoutConfirmationTheSelectedFilesGoAtOnce) {
     selectAll();
     view.select(1, false);
     view.bekr = false;
-    deletion.deletePressed(view);
+    deletion.deletePressed();
     EXPECT_TRUE(view.asked.empty());
     EXPECT_FALSE(there("B.RES"));
     EXPECT_TRUE(there("a.res"));
@@ -117,7 +118,7 @@ TEST_F(FileDeletionTest, AsksForEachSelectedFileByItsCapitals) {
     open();
     selectAll();
     view.select(0, false);
-    deletion.deletePressed(view);
+    deletion.deletePressed();
     EXPECT_EQ(view.asked, (Names{"A.RES 1", "D.RES 2", "Å.RES 3"}));
     EXPECT_EQ(view.entries, Names{"B.RES"});
 }
@@ -127,10 +128,10 @@ TEST_F(FileDeletionTest, UndoLeavesTheFileAndGoesOnWithTheNext) {
     selectAll();
     std::vector<bool> selectedAtTheNext;
     view.answer = [&](const std::string& name) {
-        selectedAtTheNext = view.selected;
+        if (name == "D.RES") selectedAtTheNext = view.selected;
         return name != "A.RES";
     };
-    deletion.deletePressed(view);
+    deletion.deletePressed();
     EXPECT_EQ(view.asked.size(), 4u);
     EXPECT_FALSE(selectedAtTheNext[1]);
     EXPECT_TRUE(selectedAtTheNext[2]);
@@ -138,37 +139,71 @@ TEST_F(FileDeletionTest, UndoLeavesTheFileAndGoesOnWithTheNext) {
     EXPECT_TRUE(view.bekr);
 }
 
-TEST_F(FileDeletionTest, NothingSelectedDeletesNothing) {
+TEST_F(FileDeletionTest, NothingSelectedDeletesNothingAndIsTold) {
     open();
     view.bekr = false;
-    deletion.deletePressed(view);
+    deletion.deletePressed();
+    EXPECT_EQ(boxes.shown, (std::vector<FakeMessageBoxes::Shown>{
+                               {"Markera först de filer som Du vill ta bort !", msgOk, ""}}));
     EXPECT_TRUE(files.calls.empty());
     EXPECT_TRUE(view.bekr);
     EXPECT_EQ(view.refreshed, 2);
 }
 
-TEST_F(FileDeletionTest, AFileThatCannotBeDeletedRaisesItsErrorAndTheWindowIsReady) {
+TEST_F(FileDeletionTest, AFileThatCannotBeDeletedIsToldAndWhatIsLeftStaysSelected) {
     open();
     selectAll();
+    view.select(2, false);
     view.bekr = false;
     files.fault = [](const std::string&, const std::string& path) {
         return path.ends_with("a.res") ? errPermissionDenied : 0;
     };
-    EXPECT_EQ(errorOf([&] { deletion.deletePressed(view); }), errPermissionDenied);
+    Names shownThen;
+    boxes.whileShown = [&] { shownThen = view.entries; };
+    deletion.deletePressed();
+    EXPECT_EQ(boxes.shown,
+              (std::vector<FakeMessageBoxes::Shown>{
+                  {"Filen C:\\arbete\\a.res kunde inte tas bort: den används av ett annat program, "
+                   "eller disken är skrivskyddad. Stäng filen där och försök igen.\n\n"
+                   "De filer som är markerade i listan är inte borttagna.\n\n"
+                   "Run-time error '70': Permission denied",
+                   msgError, "Varno"}}));
+    EXPECT_EQ(shownThen, view.entries) << "the message is about the list below it";
     EXPECT_EQ(view.entries, (Names{"a.res", "d.res", "å.res"})) << "the first one is gone, and not shown";
+    EXPECT_EQ(view.selected, (std::vector<bool>{true, false, true}));
     EXPECT_TRUE(view.bekr);
+
     files.fault = nullptr;
-    selectAll();
-    deletion.deletePressed(view);
-    EXPECT_EQ(view.entries, Names{});
+    deletion.deletePressed();
+    EXPECT_EQ(view.entries, Names{"d.res"});
+    EXPECT_EQ(boxes.shown.size(), 1u);
 }
 
-TEST_F(FileDeletionTest, AFileThatWentMeanwhileIsError53) {
+TEST_F(FileDeletionTest, EveryErrorNamesItsFileAndEndsWithItsNumber) {
     open();
-    view.select(0);
+    for (const int error :
+         {errFileNotFound, errPathNotFound, errPermissionDenied, errPathFileAccess, errDeviceIo}) {
+        boxes.shown.clear();
+        view.select(0, true);
+        files.fault = [error](const std::string&, const std::string&) { return error; };
+        deletion.deletePressed();
+        ASSERT_EQ(boxes.shown.size(), 1u) << error;
+        const std::string& text = boxes.shown[0].text;
+        EXPECT_TRUE(text.starts_with("Filen C:\\arbete\\B.RES kunde inte tas bort: ")) << text;
+        EXPECT_TRUE(text.ends_with("\n" + RunTimeError(error).message())) << text;
+        EXPECT_EQ(view.selected, (std::vector<bool>{true, false, false, false}));
+    }
+}
+
+TEST_F(FileDeletionTest, AFileThatWentMeanwhileIsToldAndNotShown) {
+    open();
+    view.select(0, true);
     files.content.erase("C:\\arbete\\B.RES");
-    EXPECT_EQ(errorOf([&] { deletion.deletePressed(view); }), errFileNotFound);
+    deletion.deletePressed();
+    ASSERT_EQ(boxes.shown.size(), 1u);
+    EXPECT_NE(boxes.shown[0].text.find("den finns inte längre"), std::string::npos) << boxes.shown[0].text;
     EXPECT_EQ(view.entries.size(), 3u);
+    EXPECT_EQ(view.selected, (std::vector<bool>{false, false, false}));
 }
 
 TEST_F(FileDeletionTest, StartsWhereTheFileNameDialogWasLeft) {
@@ -185,30 +220,30 @@ TEST_F(FileDeletionTest, DeletesInTheFolderThatIsShown) {
     files.content["A:\\b.res"] = "x";
     files.content["C:\\arbete\\gammalt\\g.res"] = "x";
     open();
-    deletion.folderChosen(view, "C:\\arbete\\gammalt");
+    deletion.folderChosen("C:\\arbete\\gammalt");
     EXPECT_EQ(view.entries, Names{"g.res"});
     selectAll();
-    deletion.deletePressed(view);
+    deletion.deletePressed();
     EXPECT_FALSE(there("gammalt\\g.res"));
-    deletion.driveChosen(view, "A:");
+    deletion.driveChosen("A:");
     EXPECT_EQ(view.entries, Names{"b.res"});
     selectAll();
-    deletion.deletePressed(view);
+    deletion.deletePressed();
     EXPECT_FALSE(files.content.contains("A:\\b.res"));
 }
 
 TEST_F(FileDeletionTest, ADriveThatIsNotThereLeavesTheListsWhereTheyAre) {
     open();
-    EXPECT_EQ(errorOf([&] { deletion.driveChosen(view, "Q:"); }), errDeviceUnavailable);
-    EXPECT_EQ(errorOf([&] { deletion.folderChosen(view, "C:\\borta"); }), errPathNotFound);
+    EXPECT_EQ(errorOf([&] { deletion.driveChosen("Q:"); }), errDeviceUnavailable);
+    EXPECT_EQ(errorOf([&] { deletion.folderChosen("C:\\borta"); }), errPathNotFound);
     EXPECT_EQ(deletion.lists().directory(), "C:\\arbete");
-    EXPECT_EQ(view.refreshed, 2) << "the drive list stands where the others do";
+    EXPECT_EQ(view.refreshed, 3) << "the drive list stands where the others do";
 }
 
 TEST_F(FileDeletionTest, HelpAndClose) {
-    deletion.helpPressed(view);
+    deletion.helpPressed();
     EXPECT_EQ(view.help, "Clicka med musen på de Filer Du vill ta bort|Clicka sedan på 'Ta bort'");
-    deletion.closePressed(view);
+    deletion.closePressed();
     EXPECT_TRUE(view.closed);
 }
 

@@ -2,66 +2,69 @@
 
 #include <gtest/gtest.h>
 
+#include "support/fake_file_dialog.h"
 #include "support/fake_folders.h"
 #include "support/memory_files.h"
 
 namespace varno::testing {
 namespace {
 
-class FakeDialogView : public FileDialogView {
-  public:
-    std::string name() const override { return text; }
-    void setName(const std::string& name) override { text = name; }
-    void selectName() override { ++selected; }
-    void setNote(const std::string& shown) override { note = shown; }
-    void refreshLists() override { ++refreshed; }
-    void close() override { closed = true; }
-
-    std::string text;
-    std::string note;
-    int selected = 0;
-    int refreshed = 0;
-    bool closed = false;
-};
-
 class FileDialogTest : public ::testing::Test {
   protected:
     void ok(const std::string& text) {
         view.text = text;
-        dialog.accepted(view);
+        dialog.accepted();
     }
     FakeFolders folders;
     FakeMessageBoxes boxes;
-    FileDialog dialog{folders, boxes};
-    FakeDialogView view;
+    FakeFileDialog view;
+    FileDialog dialog{folders, boxes, view};
 };
 
 TEST_F(FileDialogTest, ForSavingItProposesATestNameAndShowsTheRule) {
-    dialog.dialogForSaving = 1;
-    dialog.activated(view);
+    EXPECT_FALSE(dialog.ask(savingCase));
+    EXPECT_EQ(view.caption, "Spara som..");
+    EXPECT_EQ(dialog.lists().pattern(), "*.IND");
     EXPECT_EQ(view.text, "test");
     EXPECT_EQ(view.selected, 1);
     EXPECT_EQ(view.note,
               "OBS! Filnamnet får innehålla max åtta tecken och inga mellanslag, komma, punkt eller å, ä, ö");
 }
 
-TEST_F(FileDialogTest, ForChoosingThereIsNoRule) {
-    dialog.activated(view);
+TEST_F(FileDialogTest, ForChoosingThereIsNoNameAndNoRule) {
+    dialog.ask(savingCase);
+    dialog.ask(choosingResult);
+    EXPECT_EQ(view.caption, "Välj Resultatfil");
+    EXPECT_EQ(dialog.lists().pattern(), "*.RES");
     EXPECT_EQ(view.text, "");
     EXPECT_EQ(view.note, "");
-    EXPECT_EQ(view.refreshed, 1);
+    EXPECT_EQ(view.refreshed, 2) << "the files are fresh each time";
+    dialog.ask(choosingCase);
+    EXPECT_EQ(view.caption, "Välj Indatafil");
+    EXPECT_EQ(dialog.lists().pattern(), "*.IND");
 }
 
 TEST_F(FileDialogTest, ANameIsAcceptedAsItStands) {
-    ok(" kalk ");
+    view.whileShown = [&] { ok(" kalk "); };
+    EXPECT_TRUE(dialog.ask(savingCase));
     EXPECT_EQ(dialog.typedName, " kalk ");
-    EXPECT_EQ(dialog.dialogAnswer, 0);
     EXPECT_TRUE(view.closed);
     EXPECT_EQ(dialog.path("KALK.IND"), "C:\\arbete\\KALK.IND");
 }
 
+TEST_F(FileDialogTest, AskedAgainItBeginsWithTheTypedNameInTheSameFolder) {
+    dialog.folderChosen("C:\\arbete\\gammalt");
+    view.whileShown = [&] { ok(" kalk "); };
+    dialog.ask(savingCase);
+    view.whileShown = [&] { dialog.cancelled(); };
+    EXPECT_FALSE(dialog.askAgain(savingCase));
+    EXPECT_EQ(view.text, " kalk ");
+    EXPECT_EQ(view.selected, 2) << "selected, to be typed over";
+    EXPECT_EQ(dialog.lists().directory(), "C:\\arbete\\gammalt");
+}
+
 TEST_F(FileDialogTest, AClickedFileIsPutIntoTheTextBox) {
-    dialog.fileClicked(view, "HUS2.IND");
+    dialog.fileClicked("HUS2.IND");
     EXPECT_EQ(view.text, "HUS2.IND");
     EXPECT_FALSE(view.closed);
 }
@@ -99,7 +102,7 @@ TEST_F(FileDialogTest, APatternIsTakenForTheFileList) {
 TEST_F(FileDialogTest, ADriveOrFolderThatIsNotThereIsAnErrorAndNothingMoves) {
     EXPECT_EQ(errorOf([&] { ok("q:"); }), errDeviceUnavailable);
     EXPECT_EQ(errorOf([&] { ok("C:\\finns inte"); }), errPathNotFound);
-    EXPECT_EQ(errorOf([&] { dialog.driveChosen(view, "Q:"); }), errDeviceUnavailable);
+    EXPECT_EQ(errorOf([&] { dialog.driveChosen("Q:"); }), errDeviceUnavailable);
     EXPECT_EQ(dialog.lists().directory(), "C:\\arbete");
     EXPECT_FALSE(view.closed);
     EXPECT_EQ(view.selected, 2) << "the text is there to be mended";
@@ -111,18 +114,19 @@ TEST_F(FileDialogTest, BlanksAreNoName) {
     EXPECT_EQ(boxes.shown.size(), 1u);
 }
 
-TEST_F(FileDialogTest, CancelAnswersOne) {
-    dialog.dialogAnswer = 0;
-    dialog.cancelled(view);
-    EXPECT_EQ(dialog.dialogAnswer, 1);
+TEST_F(FileDialogTest, CancelIsNoAnswerWhateverTheLastOneWas) {
+    view.whileShown = [&] { ok("hus1"); };
+    EXPECT_TRUE(dialog.ask(choosingCase));
+    view.whileShown = [&] { dialog.cancelled(); };
+    EXPECT_FALSE(dialog.ask(choosingCase));
     EXPECT_TRUE(view.closed);
 }
 
 TEST_F(FileDialogTest, TheListsStayWhereTheyWereLeft) {
-    dialog.folderChosen(view, "C:\\arbete\\gammalt");
-    dialog.activated(view);
+    dialog.folderChosen("C:\\arbete\\gammalt");
+    dialog.ask(choosingCase);
     EXPECT_EQ(dialog.lists().directory(), "C:\\arbete\\gammalt");
-    dialog.driveChosen(view, "A:");
+    dialog.driveChosen("A:");
     EXPECT_EQ(dialog.path("X"), "A:\\\\X");
 }
 

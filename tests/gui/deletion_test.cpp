@@ -37,6 +37,20 @@ class Deletions : public ::testing::Test {
         for (const int row : rows)
             list(window).send(LB_SETSEL, TRUE, row);
     }
+    static std::set<int> selection(const Control& window) {
+        std::set<int> rows;
+        for (int row = 0; row < static_cast<int>(list(window).send(LB_GETCOUNT)); ++row) {
+            if (selected(window, row)) rows.insert(row);
+        }
+        return rows;
+    }
+    static void clickRow(const Control& window, int row) {
+        const int height = static_cast<int>(list(window).send(LB_GETITEMHEIGHT));
+        list(window).clickAt(10, height * row + height / 2);
+    }
+    void expectSelected(const Control& window, const std::set<int>& rows) const {
+        expectSoon(program, rows, [&] { return selection(window); });
+    }
     void untick(const Control& window) const {
         window.item(idConfirm).click();
         expectSoon(program, false, [&] { return window.item(idConfirm).checked(); });
@@ -119,7 +133,7 @@ TEST_F(Deletions, EveryFileIsAskedFor) {
     EXPECT_FALSE(question.item(idPosition).visible());
     EXPECT_FALSE(window.enabled());
     answer("A.RES", 0, idYesButton);
-    EXPECT_FALSE(has("A.res"));
+    expectSoon(program, false, [&] { return has("A.res"); });
     answer("C.RES", 2, idYesButton);
     expectLeft(window, {"B.RES"});
     EXPECT_TRUE(has("B.RES"));
@@ -142,10 +156,58 @@ TEST_F(Deletions, ARefusedFileStaysUnselectedAndTheNextIsAskedFor) {
     expectLeft(window, {"A.res", "C.res"});
 }
 
-TEST_F(Deletions, NothingSelectedNothingAsked) {
+TEST_F(Deletions, AClickSelectsOrUnselectsAFileAndLeavesTheOthers) {
+    const Control window = opened();
+    clickRow(window, 0);
+    clickRow(window, 2);
+    expectSelected(window, {0, 2});
+    clickRow(window, 0);
+    expectSelected(window, {2});
+    clickRow(window, 1);
+    expectSelected(window, {1, 2});
+    untick(window);
+    window.item(idDelete).click();
+    expectLeft(window, {"A.res"});
+}
+
+TEST_F(Deletions, TheArrowsMoveAndTheBlankSelects) {
+    const Control window = opened();
+    expectSoon(program, list(window), [&] { return program.focused(); });
+    list(window).key(VK_SPACE);
+    list(window).key(VK_DOWN);
+    list(window).key(VK_DOWN);
+    expectSelected(window, {0});
+    list(window).key(VK_SPACE);
+    expectSelected(window, {0, 2});
+    list(window).key(VK_SPACE);
+    expectSelected(window, {0});
+}
+
+TEST_F(Deletions, EnterKeepsTheFileUnlessYesHasTheFocus) {
+    const Control window = opened();
+    select(window, {0, 1});
+    window.item(idDelete).click();
+    Control question = program.window(confirmationClass);
+    expectSoon(program, question.item(idCancelButton), [&] { return program.focused(); });
+    question.item(idCancelButton).key(VK_RETURN);
+    program.waitGone(question);
+    EXPECT_TRUE(has("A.res"));
+
+    question = program.window(confirmationClass);
+    EXPECT_EQ(question.item(idFileName).text(), "B.RES");
+    expectSoon(program, question.item(idCancelButton), [&] { return program.focused(); });
+    question.item(idCancelButton).key(VK_TAB);
+    expectSoon(program, question.item(idYesButton), [&] { return program.focused(); });
+    question.item(idYesButton).key(VK_RETURN);
+    program.waitGone(question);
+    expectLeft(window, {"A.res", "C.res"});
+}
+
+TEST_F(Deletions, NothingSelectedIsTold) {
     const Control window = opened();
     untick(window);
     window.item(idDelete).click();
+    EXPECT_EQ(program.answer(), (Message{"", "Markera först de filer som Du vill ta bort !"}));
     expectLeft(window, results);
     EXPECT_FALSE(program.shows(confirmationClass));
 }
@@ -167,8 +229,13 @@ TEST_F(Deletions, HelpTellsWhatToDo) {
 class FailedDeletions : public Deletions {
   protected:
     ~FailedDeletions() override { setReadOnly("A.res", false); }
-    void expectError(const Control& window, const std::string& text) const {
-        EXPECT_EQ(program.answer(), (Message{"Varno", text}));
+    void expectError(const Control& window, const std::string& name, const std::string& reason,
+                     const std::string& lastLine) const {
+        const Message said = program.answer();
+        EXPECT_EQ(said.title, "Varno");
+        EXPECT_TRUE(said.text.starts_with("Filen " + scene.path(name) + " kunde inte tas bort: " + reason))
+            << said.text;
+        EXPECT_TRUE(said.text.ends_with("\n" + lastLine)) << said.text;
         EXPECT_TRUE(window.visible());
         expectSoon(program, true, [&] { return window.enabled(); });
         EXPECT_FALSE(program.main().enabled()) << "the window is still modal";
@@ -181,18 +248,16 @@ TEST_F(FailedDeletions, ReadOnlyFileStopsTheLoopAndTheWindowStaysUsable) {
     select(window, {0, 1});
     untick(window);
     window.item(idDelete).click();
-    expectError(window, "Run-time error '75': Path/File access error");
+    expectError(window, "A.res", "den är skrivskyddad", "Run-time error '75': Path/File access error");
     expectLeft(window, results);
+    EXPECT_EQ(selection(window), (std::set<int>{0, 1})) << "what was not deleted";
 
-    select(window, {1});
+    // The next try comes to the same question; the file is given up and the other one goes.
     window.item(idDelete).click();
+    answer("A.RES", 0, idCancelButton);
     answer("B.RES", 1, idYesButton);
     expectLeft(window, {"A.res", "C.res"});
-    select(window, {0});
-    window.item(idDelete).click();
-    answer("A.RES", 0, idYesButton);
-    expectError(window, "Run-time error '75': Path/File access error");
-    expectLeft(window, {"A.res", "C.res"});
+    EXPECT_EQ(selection(window), std::set<int>{});
     close(window);
     EXPECT_TRUE(program.main().enabled());
 }
@@ -205,8 +270,10 @@ TEST_F(FailedDeletions, FileInUseIsReported) {
     select(window, {1});
     window.item(idDelete).click();
     answer("B.RES", 1, idYesButton);
-    expectError(window, "Run-time error '70': Permission denied");
+    expectError(window, "B.RES", "den används av ett annat program",
+                "Run-time error '70': Permission denied");
     expectLeft(window, results);
+    EXPECT_EQ(selection(window), std::set<int>{1});
 }
 
 TEST_F(FailedDeletions, FileGoneMeanwhileIsReported) {
@@ -216,7 +283,7 @@ TEST_F(FailedDeletions, FileGoneMeanwhileIsReported) {
     program.window(confirmationClass);
     scene.remove("C.res");
     answer("C.RES", 2, idYesButton);
-    expectError(window, "Run-time error '53': File not found");
+    expectError(window, "C.res", "den finns inte längre", "Run-time error '53': File not found");
     expectLeft(window, {"A.res", "B.RES"});
 }
 

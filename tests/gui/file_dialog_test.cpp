@@ -154,14 +154,34 @@ TEST_F(FileDialogs, ReplacingAFileIsAskedFirst) {
     program.command(idSaveAs);
     program.chooseFile("bostad");
     EXPECT_EQ(program.answer(IDNO), question);
+    const Control dialog = program.window(fileDialogClass);
+    EXPECT_EQ(dialog.item(idFileName).text(), "bostad");
+    expectSoon(program, std::pair(0, 6), [&] { return dialog.item(idFileName).selection(); });
     EXPECT_EQ(scene.read("BOSTAD.IND"), before);
     EXPECT_EQ(program.caption(), "NAMNLÖS.IND");
 
-    program.command(idSaveAs);
-    program.chooseFile("bostad");
+    dialog.item(idOkButton).click();
     EXPECT_EQ(program.answer(IDYES), question);
     expectCaption(program, "BOSTAD.IND");
     EXPECT_EQ(scene.read("BOSTAD.IND"), withLine(scene.read("varno.def"), 1, "BOSTAD"));
+}
+
+TEST_F(FileDialogs, EnterReplacesNothingAndTheDialogIsBackInItsFolder) {
+    const Bytes before = scene.read("Bygge å\\HUS9.IND");
+    const Control dialog = opened(idSaveAs);
+    move(dialog, "Bygge å\\");
+    program.chooseFile("hus9");
+    const Control question = program.window(messageBoxClass);
+    expectSoon(program, question.item(IDNO), [&] { return program.focused(); });
+    question.item(IDNO).key(VK_RETURN);
+    program.waitGone(question);
+    expectSoon(program, true, [&] { return program.shows(fileDialogClass); });
+    EXPECT_EQ(path(dialog), scene.path("Bygge å"));
+    EXPECT_EQ(dialog.item(idFileName).text(), "hus9");
+    EXPECT_EQ(scene.read("Bygge å\\HUS9.IND"), before);
+    program.chooseFile("hus10");
+    expectCaption(program, "HUS10.IND");
+    EXPECT_TRUE(scene.has("Bygge å\\HUS10.IND"));
 }
 
 TEST_F(FileDialogs, EmptyNameIsRefused) {

@@ -100,9 +100,10 @@ void expectExplained(std::string_view text) {
 }
 
 bool isExplained(std::string_view message) {
-    static const std::regex fileName(R"(\S*[^\s.]\.[A-Za-z]\S*)");
+    // The number and the text of a run-time error stand in a table of the help, beside each other.
+    static const std::regex between(R"(\S*[^\s.]\.[A-Za-z]\S*|\n|Run-time error '|': )");
     const std::string text(message);
-    const std::sregex_token_iterator parts(text.begin(), text.end(), fileName, -1);
+    const std::sregex_token_iterator parts(text.begin(), text.end(), between, -1);
     return std::all_of(parts, std::sregex_token_iterator(), [](const std::string& part) {
         return readText().find(trimBlanks(joined(part))) != std::string::npos;
     });

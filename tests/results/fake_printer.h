@@ -19,7 +19,9 @@ class FakePrinter : public Printer {
     };
     using Document = std::vector<Page>;
 
-    void setFontName(const std::string& face) override { fonts.push_back(face); }
+    bool available() const override { return there; }
+    std::vector<std::string> fonts() const override { return offered; }
+    void setFontName(const std::string& face) override { fontsSet.push_back(face); }
     void printLine(const std::string& text) override {
         if (error != 0) throw RunTimeError(error);
         current().lines.push_back(text);
@@ -37,9 +39,11 @@ class FakePrinter : public Printer {
     }
     Canvas& canvas() override { return current().drawing; }
 
-    int error = 0;                  ///< raised by printing
-    std::vector<std::string> fonts; ///< as they were set
-    Document open;                  ///< the current document
+    bool there = true;
+    std::vector<std::string> offered;
+    int error = 0;                     ///< raised by printing
+    std::vector<std::string> fontsSet; ///< one after the other
+    Document open;                     ///< the current document
     std::vector<Document> printed;
     int timesEnded = 0;
 

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "results/fake_printer.h"
+#include "support/fake_file_dialog.h"
+#include "support/fake_folders.h"
 #include "support/fake_viewer.h"
 #include "support/memory_files.h"
 
@@ -13,11 +16,13 @@ class FakeChooser : public FontChooserView {
     void showInstalled(const std::vector<std::string>& faces) override { installed = faces; }
     void showStored(const std::string& face) override { stored = face; }
     void showCurrent(const std::string& face) override { current = face; }
+    void run() override { ++timesShown; }
     void close() override { closed = true; }
 
     std::vector<std::string> installed;
     std::string stored;
-    std::string current;
+    std::string current = "of the last time";
+    int timesShown = 0;
     bool closed = false;
 };
 
@@ -29,18 +34,28 @@ class FontChoiceTest : public ::testing::Test {
     FileOpener opener{files, boxes};
     FakeViewer viewer;
     FakeChooser chooser;
-    FontChoice choice{resultFontName, opener, viewer, chooser};
+    FakePrinter printer;
+    FakeFolders folders;
+    FakeFileDialog dialogView;
+    FileDialog dialog{folders, boxes, dialogView};
+    FontChoice choice{resultFontName, opener, printer, dialog, viewer, chooser};
+
+    void edit(const std::vector<std::string>& fonts) {
+        printer.offered = fonts;
+        choice.edit();
+    }
 };
 
 TEST_F(FontChoiceTest, OpensWithThePrintersFontsInItsOrderAndTheStoredChoice) {
-    choice.opened({"Times", "Arial", "Courier"});
+    edit({"Times", "Arial", "Courier"});
     EXPECT_EQ(chooser.installed, (std::vector<std::string>{"Times", "Arial", "Courier"}));
     EXPECT_EQ(chooser.stored, "Courier New");
     EXPECT_EQ(chooser.current, "");
+    EXPECT_EQ(chooser.timesShown, 1);
 }
 
 TEST_F(FontChoiceTest, AClickTakesTheFontAtOnce) {
-    choice.opened({"Arial"});
+    edit({"Arial"});
     choice.clicked("Arial");
     EXPECT_EQ(resultFontName, "Arial");
     EXPECT_EQ(chooser.current, "Arial");
@@ -49,21 +64,22 @@ TEST_F(FontChoiceTest, AClickTakesTheFontAtOnce) {
 }
 
 TEST_F(FontChoiceTest, OkWritesOneLineIntoTheDialogsDirectory) {
-    choice.opened({"Arial"});
+    edit({"Arial"});
     choice.clicked("Arial");
-    choice.accepted("D:\\fall");
-    EXPECT_EQ(files.content.at("D:\\fall\\Varnfnt.ini"), "Arial\r\n");
+    dialog.folderChosen("C:\\arbete\\gammalt");
+    choice.accepted();
+    EXPECT_EQ(files.content.at("C:\\arbete\\gammalt\\Varnfnt.ini"), "Arial\r\n");
     EXPECT_TRUE(chooser.closed);
 }
 
 TEST_F(FontChoiceTest, OkWithoutAClickWritesTheFontInUse) {
-    choice.opened({"Arial"});
-    choice.accepted("C:");
-    EXPECT_EQ(files.content.at("C:\\Varnfnt.ini"), "Courier New\r\n");
+    edit({"Arial"});
+    choice.accepted();
+    EXPECT_EQ(files.content.at("C:\\arbete\\Varnfnt.ini"), "Courier New\r\n");
 }
 
 TEST_F(FontChoiceTest, CancelGoesBackToTheStoredFont) {
-    choice.opened({"Arial", "Times"});
+    edit({"Arial", "Times"});
     choice.clicked("Arial");
     choice.clicked("Times");
     choice.cancelled();
@@ -78,8 +94,8 @@ TEST_F(FontChoiceTest, AFileThatCannotBeWrittenIsReportedAndTheChooserStays) {
         return call == "create" ? errDiskFull : 0;
     };
     boxes.answers = {MessageAnswer::cancel};
-    choice.opened({});
-    EXPECT_EQ(errorOf([&] { choice.accepted("A:"); }), errBadFileNameOrNumber);
+    edit({});
+    EXPECT_EQ(errorOf([&] { choice.accepted(); }), errBadFileNameOrNumber);
     ASSERT_EQ(boxes.shown.size(), 1u);
     EXPECT_EQ(boxes.shown[0].text, "Disk Full");
     EXPECT_EQ(boxes.shown[0].title, "Disk Error");

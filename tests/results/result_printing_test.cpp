@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "results/fake_printer.h"
+#include "support/fake_file_dialog.h"
 #include "support/fake_folders.h"
 #include "support/fake_form.h"
 #include "support/memory_files.h"
@@ -26,6 +27,10 @@ class ResultPrintingTest : public ::testing::Test {
         files.content["HUS1.res"] = content;
         printing.printCurrent(document, "Courier New");
     }
+    void type(const std::string& name) {
+        dialogView.text = name;
+        dialog.accepted();
+    }
     void expectMessage() {
         ASSERT_EQ(boxes.shown.size(), 1u);
         EXPECT_EQ(boxes.shown[0], (FakeMessageBoxes::Shown{"Resultatfil till HUS1.IND saknas !", msgOk, ""}));
@@ -38,9 +43,10 @@ class ResultPrintingTest : public ::testing::Test {
     FakeMainWindow window;
     FakePrinter printer;
     FakeFolders folders;
-    FileDialog dialog{folders, boxes};
+    FakeFileDialog dialogView;
+    FileDialog dialog{folders, boxes, dialogView};
     DocumentState document;
-    ResultPrinting printing{opener, boxes, window, printer};
+    ResultPrinting printing{opener, boxes, window, printer, dialog};
 };
 
 TEST_F(ResultPrintingTest, EveryPageStandsUnderItsNumber) {
@@ -54,7 +60,7 @@ TEST_F(ResultPrintingTest, EveryPageStandsUnderItsNumber) {
     EXPECT_TRUE(printed[0].lines[1].ends_with("\r\n69\r\n70"));
     EXPECT_EQ(printed[1].lines[0], blanks + "sid 2");
     EXPECT_TRUE(printed[1].lines[1].starts_with("\r\n71\r\n72\r\n"));
-    EXPECT_EQ(printer.fonts, std::vector<std::string>{"Courier New"});
+    EXPECT_EQ(printer.fontsSet, std::vector<std::string>{"Courier New"});
     EXPECT_TRUE(printer.open.empty());
     EXPECT_TRUE(window.wasBusy);
     EXPECT_FALSE(window.busy);
@@ -72,7 +78,7 @@ TEST_F(ResultPrintingTest, AMissingFileIsToldAndNothingIsPrinted) {
     printing.printCurrent(document, "Courier New");
     expectMessage();
     EXPECT_TRUE(printer.printed.empty());
-    EXPECT_TRUE(printer.fonts.empty());
+    EXPECT_TRUE(printer.fontsSet.empty());
     EXPECT_EQ(printer.timesEnded, 0);
 }
 
@@ -81,7 +87,7 @@ TEST_F(ResultPrintingTest, ASeventhPageIsToldAndNothingIsPrinted) {
     expectMessage();
     EXPECT_TRUE(printer.open.empty());
     EXPECT_TRUE(printer.printed.empty());
-    EXPECT_TRUE(printer.fonts.empty());
+    EXPECT_TRUE(printer.fontsSet.empty());
 }
 
 TEST_F(ResultPrintingTest, SixPagesArePrinted) {
@@ -124,35 +130,41 @@ TEST_F(ResultPrintingTest, GoesOnInTheDocumentOfAPlotAndEndsIt) {
 
 TEST_F(ResultPrintingTest, AChosenFileIsPrintedInThePrintersOwnFont) {
     files.content["C:\\arbete\\GAMMAL.RES"] = "text";
-    int asked = 0;
-    dialog.dialogForSaving = 1;
-    printing.printChosen(document, dialog, [&](FileDialog& shown) {
-        ++asked;
-        EXPECT_EQ(shown.caption, "Välj Resultatfil");
-        EXPECT_EQ(shown.dialogForSaving, 0);
-        EXPECT_EQ(shown.lists().pattern(), "*.RES");
+    dialogView.whileShown = [&] {
+        EXPECT_EQ(dialogView.caption, "Välj Resultatfil");
+        EXPECT_EQ(dialog.lists().pattern(), "*.RES");
         EXPECT_FALSE(window.busy);
-        shown.typedName = "GAMMAL.RES";
-        shown.dialogAnswer = 0;
-    });
-    EXPECT_EQ(asked, 1);
+        type("GAMMAL.RES");
+    };
+    printing.printChosen(document);
+    EXPECT_EQ(dialogView.timesShown, 1);
     ASSERT_EQ(printer.printed.size(), 1u);
     EXPECT_EQ(printer.printed[0][0].lines, (std::vector<std::string>{blanks + "sid 1", "\r\ntext"}));
-    EXPECT_TRUE(printer.fonts.empty());
+    EXPECT_TRUE(printer.fontsSet.empty());
 }
 
 TEST_F(ResultPrintingTest, ADialogThatIsCancelledPrintsNothing) {
-    printing.printChosen(document, dialog, [](FileDialog& shown) { shown.dialogAnswer = 1; });
+    dialogView.whileShown = [&] { dialog.cancelled(); };
+    printing.printChosen(document);
     EXPECT_TRUE(files.calls.empty());
     EXPECT_EQ(printer.timesEnded, 0);
     EXPECT_TRUE(boxes.shown.empty());
 }
 
+TEST_F(ResultPrintingTest, WithoutAPrinterItSaysSoAndAsksForNoFile) {
+    printer.there = false;
+    printCurrent("text");
+    printing.printChosen(document);
+    ASSERT_EQ(boxes.shown.size(), 2u);
+    EXPECT_TRUE(boxes.shown[0].text.starts_with("Det finns ingen skrivare"));
+    EXPECT_EQ(boxes.shown[1], boxes.shown[0]);
+    EXPECT_EQ(dialogView.timesShown, 0);
+    EXPECT_TRUE(printer.printed.empty());
+}
+
 TEST_F(ResultPrintingTest, AChosenFileThatIsMissingIsToldByTheNameOfTheCase) {
-    printing.printChosen(document, dialog, [](FileDialog& shown) {
-        shown.typedName = "SAKNAS.RES";
-        shown.dialogAnswer = 0;
-    });
+    dialogView.whileShown = [&] { type("SAKNAS.RES"); };
+    printing.printChosen(document);
     expectMessage();
 }
 

@@ -66,7 +66,7 @@ TEST_F(DocumentTest, NewWithChangesAndYesFirstAsksForANameOfAnUnnamedCase) {
     saveAnswer = SaveAnswer::yes;
     typed = "hus1";
     document.newCase(workFolder);
-    EXPECT_EQ(dialogs, std::vector<std::string>{"Spara som..|*.IND|1"});
+    EXPECT_EQ(dialogs, std::vector<std::string>{"Spara som..|*.IND|test"});
     EXPECT_EQ(onDisk("HUS1.IND"), caseFile("HUS1", "Nytt", 9));
     EXPECT_EQ(state.currentFileName, "NAMNLÖS");
     EXPECT_FALSE(state.caseSaved);
@@ -96,7 +96,7 @@ TEST_F(DocumentTest, OpenReadsTheChosenFile) {
     files.content["C:\\arbete\\hus7.ind"] = caseFile("hus7", "Sju", 7);
     typed = "hus7.ind";
     document.open();
-    EXPECT_EQ(dialogs, std::vector<std::string>{"Välj Indatafil|*.IND|0"});
+    EXPECT_EQ(dialogs, std::vector<std::string>{"Välj Indatafil|*.IND|"});
     EXPECT_EQ(window.caption, "HUS7.IND");
     EXPECT_EQ(state.currentFileName, "HUS7");
     EXPECT_EQ(designCase.spv(1), 7);
@@ -234,9 +234,11 @@ TEST_F(DocumentTest, SaveWritesToTheCaptionInTheDialogsDirectory) {
 TEST_F(DocumentTest, SaveAsAsksBeforeItReplacesAnotherFile) {
     files.content["C:\\arbete\\HUS2.IND"] = "another case";
     boxes.answers = {MessageAnswer::no};
+    boxes.whileShown = [&] { typed.clear(); };
     saveAsName("hus2");
-    ASSERT_EQ(boxes.shown.size(), 1u);
-    EXPECT_EQ(boxes.shown[0].text, "HUS2.IND finns redan. Vill Du ersätta filen ?");
+    EXPECT_EQ(boxes.shown,
+              (std::vector<FakeMessageBoxes::Shown>{
+                  {"HUS2.IND finns redan. Vill Du ersätta filen ?", msgYesNoDefaultNo, "Spara som.."}}));
     EXPECT_EQ(onDisk("HUS2.IND"), "another case");
     EXPECT_EQ(window.caption, "NAMNLÖS.IND");
     EXPECT_FALSE(state.caseSaved);
@@ -247,6 +249,19 @@ TEST_F(DocumentTest, SaveAsAsksBeforeItReplacesAnotherFile) {
     boxes.shown.clear();
     saveAsName("hus2");
     EXPECT_TRUE(boxes.shown.empty()) << "its own file is no other file";
+}
+
+TEST_F(DocumentTest, AfterNoTheDialogIsThereAgainWithTheNameAndTheFolder) {
+    files.content["C:\\arbete\\gammalt\\HUS2.IND"] = "another case";
+    boxes.answers = {MessageAnswer::no};
+    boxes.whileShown = [&] { typed = "hus3"; };
+    dialog.lists().changeDirectory("C:\\arbete\\gammalt");
+    saveAsName(" hus2.ind");
+    EXPECT_EQ(dialogs, (std::vector<std::string>{"Spara som..|*.IND|test", "Spara som..|*.IND| hus2.ind"}));
+    EXPECT_EQ(files.content.at("C:\\arbete\\gammalt\\HUS2.IND"), "another case");
+    EXPECT_EQ(files.content.at("C:\\arbete\\gammalt\\HUS3.IND"), caseFile("HUS3", "Nytt", 5.5f));
+    EXPECT_EQ(window.caption, "HUS3.IND");
+    EXPECT_EQ(boxes.shown.size(), 1u);
 }
 
 TEST_F(DocumentTest, ASaveThatFailsKeepsTheOldFileTheNameAndTheChanges) {

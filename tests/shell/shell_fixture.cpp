@@ -7,6 +7,15 @@ namespace varno::testing {
 
 ShellFixture::ShellFixture() {
     files.content["C:\\varnow\\run\\varno.def"] = caseFile("namnl\xD6s", "Nytt", 5.5f);
+    dialogView.whileShown = [this] {
+        dialogs.push_back(dialogView.caption + "|" + dialog.lists().pattern() + "|" + dialogView.text);
+        dialogView.text = typed;
+        if (typed.empty()) {
+            dialog.cancelled();
+        } else {
+            dialog.accepted();
+        }
+    };
     // Every change of a text or a row marks the case, as the real form's events do.
     form.onChange = [this](Control) { state.dataChanged = true; };
 }

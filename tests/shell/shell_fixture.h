@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "shell/document.h"
+#include "support/fake_file_dialog.h"
 #include "support/fake_folders.h"
 #include "support/fake_form.h"
 #include "support/memory_files.h"
@@ -19,12 +20,6 @@ struct ShellFixture : DocumentView {
     SaveAnswer askToSave(const std::string& caption, const std::string& text, bool cancelOffered) override {
         prompts.push_back(caption + "|" + text + (cancelOffered ? "|Avbryt" : ""));
         return saveAnswer;
-    }
-    void showFileDialog(FileDialog& shown) override {
-        dialogs.push_back(shown.caption + "|" + shown.lists().pattern() + "|" +
-                          std::to_string(shown.dialogForSaving));
-        shown.dialogAnswer = typed.empty() ? 1 : 0;
-        if (!typed.empty()) shown.typedName = typed;
     }
     void endProgram() override { ended = true; }
     void caseOpened() override {
@@ -52,14 +47,15 @@ struct ShellFixture : DocumentView {
     FakeFolders folders;
     int refreshes = 0;
     FileOpener opener{files, boxes};
-    FileDialog dialog{folders, boxes};
+    FakeFileDialog dialogView;
+    FileDialog dialog{folders, boxes, dialogView};
     CaseFormFiller filler{designCase, form, window, NumberLocale{}};
     Document document{designCase, state, filler, form, window, opener, dialog, boxes, *this};
 
     SaveAnswer saveAnswer = SaveAnswer::no;
     std::string typed; ///< the name typed in the file-name dialog; empty cancels it
     std::vector<std::string> prompts;
-    std::vector<std::string> dialogs;
+    std::vector<std::string> dialogs; ///< "caption|pattern|name that it began with"
     bool ended = false;
     int drawingError = 0; ///< what drawing a case ends in
     std::string opened;   ///< what is shown when a case is drawn: caption, title, first span
