@@ -39,6 +39,9 @@ class FileCalls {
     virtual void replace(const std::string& from, const std::string& to) = 0;
     virtual void remove(const std::string& path) = 0;
     virtual bool exists(const std::string& path) = 0;
+    /// Both paths lead to one and the same file, however they are written: other letters, a relative or a
+    /// short name, another drive letter for the same folder. False when one of them leads nowhere.
+    virtual bool same(const std::string& a, const std::string& b) = 0;
 };
 
 /// The calls of the system that the program is built for.

@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <filesystem>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -107,6 +108,11 @@ class PosixFileCalls : public FileCalls {
     void remove(const std::string& path) override {
         if (::unlink(path.c_str()) != 0) fail(path, errno);
     }
+    bool same(const std::string& a, const std::string& b) override {
+        std::error_code ignored;
+        return std::filesystem::equivalent(a, b, ignored);
+    }
+
     bool exists(const std::string& path) override {
         struct stat info {};
         return ::stat(path.c_str(), &info) == 0;

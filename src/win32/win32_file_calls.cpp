@@ -27,6 +27,19 @@ UniqueHandle openHandle(const std::string& path, DWORD access, DWORD share, DWOR
     return UniqueHandle(handle);
 }
 
+// Where a file really lies: whole, with its long names, whatever drive letter or letter case led to it. Empty when
+// there is none.
+std::wstring truePath(const std::string& path) {
+    constexpr DWORD share = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const HANDLE handle = CreateFileW(wide(path).c_str(), 0, share, nullptr, OPEN_EXISTING,
+                                      FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (handle == INVALID_HANDLE_VALUE) return {};
+    const UniqueHandle file(handle);
+    std::wstring text(32768, L'\0');
+    text.resize(GetFinalPathNameByHandleW(file.get(), text.data(), static_cast<DWORD>(text.size()), 0));
+    return text;
+}
+
 class WindowsOutput : public FileCalls::Output {
   public:
     explicit WindowsOutput(const std::string& path)
@@ -109,6 +122,13 @@ class WindowsFileCalls : public FileCalls {
 
     void remove(const std::string& path) override {
         if (!DeleteFileW(wide(path).c_str())) fail();
+    }
+
+    bool same(const std::string& a, const std::string& b) override {
+        const std::wstring first = truePath(a);
+        const std::wstring second = truePath(b);
+        return !first.empty() && !second.empty() &&
+               CompareStringOrdinal(first.c_str(), -1, second.c_str(), -1, TRUE) == CSTR_EQUAL;
     }
 
     bool exists(const std::string& path) override {

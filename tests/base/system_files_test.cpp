@@ -78,6 +78,21 @@ TEST_F(SystemFiles, AreReadByteForByte) {
     EXPECT_EQ(calls.readAll(folder.path("empty.dat")), "");
 }
 
+TEST_F(SystemFiles, AreTheSameHoweverThePathIsWritten) {
+    folder.write("HÖG.IND", "x");
+    folder.write("LÅG.IND", "x");
+    const std::string path = folder.path("HÖG.IND");
+    EXPECT_TRUE(calls.same(path, path));
+    EXPECT_TRUE(calls.same(path, folder.path("./HÖG.IND")));
+    EXPECT_FALSE(calls.same(path, folder.path("LÅG.IND"))) << "the same content in another file";
+    EXPECT_FALSE(calls.same(path, folder.path("saknas.IND")));
+    EXPECT_FALSE(calls.same(folder.path("saknas.IND"), folder.path("saknas.IND")));
+    EXPECT_FALSE(calls.same(path, ""));
+#ifdef _WIN32
+    EXPECT_TRUE(calls.same(path, folder.path("hög.ind")));
+#endif
+}
+
 TEST_F(SystemFiles, AreReplacedByteForByte) {
     folder.write("HÖG.IND", "old content that is longer than the new one");
     File file(calls, folder.path("HÖG.IND"), FileMode::output, 0, 1);

@@ -8,6 +8,7 @@
 #include "base/file_calls.h"
 #include "base/message_boxes.h"
 #include "base/run_time_error.h"
+#include "base/text.h"
 
 namespace varno::testing {
 
@@ -21,6 +22,9 @@ class MemoryFiles : public FileCalls {
     void replace(const std::string& from, const std::string& to) override;
     void remove(const std::string& path) override;
     bool exists(const std::string& path) override { return content.contains(path); }
+    bool same(const std::string& a, const std::string& b) override {
+        return content.contains(a) && content.contains(b) && equalIgnoringCase(a, b);
+    }
 
     /// "readAll", "checkWritable", "create", "write", "flush", "close", "replace", "remove".
     std::function<int(const std::string& call, const std::string& path)> fault;
