@@ -41,6 +41,8 @@ class File {
     Bytes readLine();
     /// Writes a line and its CR LF.
     void printLine(std::string_view line);
+    /// What was written so far, as it goes to the disk.
+    const Bytes& written() const { return bytes_; }
 
     /// The bytes of a record (mode 4: record number, from 1) or of a place (mode 5: byte number, from 1).
     /// What lies past the end reads as zeros.

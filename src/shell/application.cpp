@@ -52,10 +52,21 @@ int Application::run() {
         boxes_.show(error.message(), MB_OK | MB_ICONERROR, errorTitle);
         return 1;
     }
+    offerRescued();
     MSG message;
     while (GetMessageW(&message, nullptr, 0, 0) > 0)
         win32::dispatch(*this, message);
     return ended_ ? 0 : static_cast<int>(message.wParam);
+}
+
+void Application::offerRescued() {
+    rescue_.start(rescueFolder(), rescueInstance());
+    rescueWindow_ = std::make_unique<RescueWindow>(host(), rescue_);
+    try {
+        rescue_.offer();
+    } catch (const RunTimeError& error) {
+        report(error);
+    }
 }
 
 // What the windows ask of the program
@@ -107,6 +118,12 @@ bool Application::translateFlagKey(const MSG& message) {
 void Application::command(int id) {
     // However a file command was given: what is being typed belongs to the case it works on.
     if (id >= idNew && id <= idExit) endTyping();
+    runCommand(id);
+    // A case that was saved or given up is not kept a moment longer.
+    rescue_.look();
+}
+
+void Application::runCommand(int id) {
     switch (id) {
     case idNew:
         return document_.newCase(settings_.workFolder);
@@ -215,6 +232,7 @@ SaveAnswer Application::askToSave(const std::string& caption, const std::string&
 }
 
 void Application::endProgram() {
+    rescue_.giveUp();
     ended_ = true;
     PostQuitMessage(0);
 }

@@ -15,7 +15,9 @@
 #include "shell/document.h"
 #include "shell/main_window.h"
 #include "shell/notice_window.h"
+#include "shell/rescue_window.h"
 #include "shell/start_up.h"
+#include "win32/crash_guard.h"
 #include "win32/gdi_printer.h"
 #include "win32/help.h"
 #include "win32/message_box.h"
@@ -69,6 +71,7 @@ class Application : private win32::WindowHost,
     void setResultFont(const std::string& face) override;
 
     win32::WindowHost& host() { return *this; }
+    void runCommand(int id);
     bool translateFlagKey(const MSG& message);
     bool translateHelpKey(const MSG& message);
     void calculate();
@@ -84,6 +87,7 @@ class Application : private win32::WindowHost,
     struct LineLoads;
     void openLineLoads(std::unique_ptr<LineLoads>& editor, const LineLoadSet& set);
     void showForm();
+    void offerRescued();
     InputContext inputContext();
 
     NumberLocale locale_;
@@ -108,6 +112,11 @@ class Application : private win32::WindowHost,
     CaseFormFiller filler_;
     InputForm input_;
     Document document_;
+    WindowsRescueLocks rescueLocks_;
+    WindowsRescueClock rescueClock_;
+    Rescue rescue_{document_, systemFileCalls(), folders_, rescueLocks_, boxes_, rescueClock_};
+    std::unique_ptr<RescueWindow> rescueWindow_;
+    win32::CrashGuard crashGuard_{[this] { rescue_.atOnce(); }};
     win32::GdiPrinter printer_;
     ResultPrinting printing_;
     MomentDiagram diagram_;

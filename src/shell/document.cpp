@@ -5,6 +5,7 @@
 #include "model/design_input_file.h"
 #include "model/reference_tables.h"
 #include "results/calculation_run.h"
+#include "shell/case_messages.h"
 
 namespace varno {
 
@@ -40,8 +41,14 @@ void Document::read(const std::string& path, bool asSaved) {
     File file = files_.openFile(path, FileMode::input);
     const CaseFile opened = VARNO1::readDesignCase(file, presets);
     file.close();
+    commit(opened, asSaved);
+    readFrom_ = asSaved ? path : std::string();
+    savedTo_.clear();
+}
 
+void Document::commit(const CaseFile& opened, bool asSaved) {
     case_ = opened.designCase;
+    settledCase_ = case_;
     state_.currentFileName = opened.name;
     state_.caseSaved = asSaved;
     window_.setCaption(caption());
@@ -79,43 +86,74 @@ void Document::open() {
     if (!settled("Öppna")) return;
     if (!dialog_.ask(choosingCase)) return;
 
-    const BusyPointer busy(window_);
-    read(dialog_.path(dialog_.typedName), true);
+    const std::string path = dialog_.path(dialog_.typedName);
+    try {
+        const BusyPointer busy(window_);
+        read(path, true);
+    } catch (const RunTimeError&) {
+        tellFaults(path);
+        throw;
+    }
+    tellFaults(path);
+}
+
+// The reader makes a case of nearly anything; what the file looks like is told beside it.
+void Document::tellFaults(const std::string& path) {
+    std::string text;
+    try {
+        text = fileFaultsText(path, checkFile(files_.calls().readAll(path)));
+    } catch (const RunTimeError&) {
+        // A file that cannot be read at all is the business of the error that the reader raised.
+        return;
+    }
+    if (!text.empty()) boxes_.tell(text);
 }
 
 void Document::write(const std::string& path) {
     const BusyPointer busy(window_);
+    const CaseFile caseFile{case_, state_.currentFileName, title()};
     File file = files_.openFile(path, FileMode::output);
-    VARNO1::writeDesignCase(file, {case_, state_.currentFileName, form_.text({Field::rubrik})});
+    VARNO1::writeDesignCase(file, caseFile);
     file.close();
     state_.dataChanged = false;
     state_.caseSaved = true;
+    settledCase_ = case_;
+    savedTo_ = path;
+    lost_ = savedCheckText(checkSaved(caseFile, file.written()));
+}
+
+void Document::tellLost() {
+    if (!lost_.empty()) boxes_.tell(lost_);
+}
+
+// A file of another case is replaced only when the user says so.
+bool Document::mayReplace(const std::string& path, const std::string& title) {
+    FileCalls& calls = files_.calls();
+    if (calls.same(path, readFrom_) || calls.same(path, savedTo_) || !calls.exists(path)) return true;
+    return boxes_.show(path + " finns redan. Vill Du ersätta filen ?", msgYesNoDefaultNo, title) ==
+           MessageAnswer::yes;
 }
 
 void Document::save() {
     // The caption is the file name, not the name the case was opened by: HUS1.IND and hus1.ind are one file.
-    if (state_.caseSaved) {
-        write(dialog_.path(caption()));
-    } else {
+    if (!state_.caseSaved) {
         saveAs();
+        return;
     }
-}
-
-// A file of another case is replaced only when the user says so.
-bool Document::mayReplace(const std::string& savedFileName) {
-    const bool own = state_.caseSaved && savedFileName == caption();
-    if (own || !files_.calls().exists(dialog_.path(savedFileName))) return true;
-    return boxes_.show(savedFileName + " finns redan. Vill Du ersätta filen ?", msgYesNoDefaultNo,
-                       savingCase.caption) == MessageAnswer::yes;
+    const std::string path = dialog_.path(caption());
+    if (!mayReplace(path, "Spara")) return;
+    write(path);
+    tellLost();
 }
 
 void Document::saveAs() {
+    const auto typedPath = [this] { return dialog_.path(caseFileName(dialog_.typedName).savedFileName); };
     if (!dialog_.ask(savingCase)) return;
-    while (!mayReplace(caseFileName(dialog_.typedName).savedFileName)) {
+    while (!mayReplace(typedPath(), savingCase.caption)) {
         if (!dialog_.askAgain(savingCase)) return;
     }
     const CaseFileName name = caseFileName(dialog_.typedName);
-    const std::string path = dialog_.path(name.savedFileName);
+    const std::string path = typedPath();
     // The name goes into the first line of the file, so it changes before the case is written; when writing
     // fails the document is what it was.
     const DocumentState oldState = state_;
@@ -128,6 +166,7 @@ void Document::saveAs() {
         throw;
     }
     window_.setCaption(caption());
+    tellLost();
 }
 
 void Document::exit() {
@@ -152,6 +191,39 @@ void Document::exit() {
     }
     // Only the clean exit deletes the temporary file.
     view_.endProgram();
+}
+
+// Rescue
+
+std::string Document::title() const {
+    return form_.text({Field::rubrik});
+}
+
+RescuedCase Document::toKeep() {
+    RescuedCase kept;
+    kept.designCase = case_;
+    kept.currentFileName = state_.currentFileName;
+    kept.savedFileName = state_.savedFileName;
+    kept.caseSaved = state_.caseSaved;
+    kept.readFrom = readFrom_;
+    kept.savedTo = savedTo_;
+    kept.directory = dialog_.lists().directory();
+    return kept;
+}
+
+void Document::restore(const RescuedCase& rescued) {
+    bool folderThere = true;
+    try {
+        dialog_.lists().changeDirectory(rescued.directory);
+    } catch (const RunTimeError&) {
+        // Save must not write under the case's name into some other folder.
+        folderThere = false;
+    }
+    commit({rescued.designCase, rescued.currentFileName, rescued.title}, rescued.caseSaved && folderThere);
+    state_.savedFileName = rescued.savedFileName;
+    readFrom_ = rescued.readFrom;
+    savedTo_ = rescued.savedTo;
+    state_.dataChanged = true;
 }
 
 } // namespace varno

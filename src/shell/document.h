@@ -6,6 +6,8 @@
 #include "files/file_dialog.h"
 #include "input/form_filling.h"
 #include "model/design_case.h"
+#include "model/design_input_file.h"
+#include "shell/rescue.h"
 
 namespace varno {
 
@@ -30,7 +32,11 @@ class DocumentView {
 ///
 /// A file that cannot be read changes nothing. One that can is open before anything of it is drawn, so that a
 /// case whose sketch ends in an error can be put right.
-class Document {
+///
+/// Save writes where the file-name dialog stands, under the name of the caption. That need not be the file that
+/// the case came from, so Save asks before it replaces one that is neither that file nor the one that the case
+/// was last saved to.
+class Document : public RescueSource {
   public:
     Document(DesignCase& designCase, DocumentState& state, CaseFormFiller& filler, FormView& form,
              MainView& window, FileOpener& files, FileDialog& dialog, MessageBoxes& boxes,
@@ -45,6 +51,13 @@ class Document {
     /// Opens the default case of the work folder, as start-up and New do.
     void readDefaultCase(const std::string& workFolder);
 
+    // RescueSource. The editors of line loads change the record without marking the case, as they are meant to;
+    // what they changed is kept all the same.
+    bool changed() const override { return state_.dataChanged || case_ != settledCase_; }
+    std::string title() const override;
+    RescuedCase toKeep() override;
+    void restore(const RescuedCase& rescued) override;
+
     /// The upper-cased case name and ".IND": the main window's caption, and the name that Save writes to.
     std::string caption() const;
     /// The question of the save-changes prompts.
@@ -53,8 +66,11 @@ class Document {
   private:
     bool settled(const std::string& caption);
     void read(const std::string& path, bool asSaved);
+    void commit(const CaseFile& opened, bool asSaved);
+    void tellFaults(const std::string& path);
     void write(const std::string& path);
-    bool mayReplace(const std::string& savedFileName);
+    void tellLost();
+    bool mayReplace(const std::string& path, const std::string& title);
     void selectTitle();
 
     DesignCase& case_;
@@ -66,6 +82,10 @@ class Document {
     FileDialog& dialog_;
     MessageBoxes& boxes_;
     DocumentView& view_;
+    std::string readFrom_;   ///< the file that the case was read from; empty for the default case
+    std::string savedTo_;    ///< the file that it was last saved to; empty until it is
+    DesignCase settledCase_; ///< as it was read or last saved
+    std::string lost_;       ///< what the last save could not keep, for the user
 };
 
 /// `savedFileName` and `currentFileName` of a name typed in Save as: upper case, no blanks at the ends,

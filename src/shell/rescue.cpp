@@ -79,7 +79,7 @@ void Rescue::offer() {
     for (Found& found : leftBehind()) {
         switch (boxes_.show(question(found.rescued), msgQuestionYesNoCancel, "Räddat fall")) {
         case MessageAnswer::yes:
-            source_.open(found.rescued);
+            source_.restore(found.rescued);
             path_ = found.path;
             lock_ = std::move(found.lock);
             kept_ = true;

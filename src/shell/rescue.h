@@ -23,7 +23,7 @@ class RescueSource {
     /// Everything else of the case; asks no window.
     virtual RescuedCase toKeep() = 0;
     /// Opens a rescued case as a changed one. \throws RunTimeError
-    virtual void open(const RescuedCase& rescued) = 0;
+    virtual void restore(const RescuedCase& rescued) = 0;
 };
 
 /// Tells the rescue file of a running program from one that was left behind: whoever writes or offers a file

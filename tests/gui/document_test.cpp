@@ -32,6 +32,13 @@ class Documents : public ::testing::Test {
 
     std::string title() const { return program.field(Field::rubrik).text(); }
 
+    // What is wrong with the file is told first, then the error that it ended in.
+    void expectFileFaults(std::source_location place = std::source_location::current()) {
+        const std::string text = program.answer().text;
+        EXPECT_NE(text.find("är inte som en indatafil ska vara."), std::string::npos)
+            << "line " << place.line() << ": " << text;
+    }
+
     // Nothing is unsaved: the program ends without a question.
     void expectCleanExit() {
         program.command(idExit);
@@ -166,6 +173,7 @@ TEST_F(Documents, DamagedFileIsReportedAndTheCaseStays) {
     const std::string before = title();
     program.command(idOpen);
     program.chooseFile("skadad.ind");
+    expectFileFaults();
     EXPECT_EQ(program.answer().text, "Run-time error '62': Input past end of file");
     expectCaption(program, "KONTOR.IND");
     EXPECT_EQ(title(), before);
@@ -206,6 +214,7 @@ TEST_F(Documents, CaseThatCannotBeDrawnOpensWithItsMessage) {
     scene.write("SKADAD.IND", damaged);
     program.command(idOpen);
     program.chooseFile("skadad.ind");
+    expectFileFaults();
     EXPECT_EQ(program.answer().text, "Run-time error '62': Input past end of file");
     expectCaption(program, "UND.IND");
     EXPECT_EQ(title(), "Undantag");
@@ -229,6 +238,7 @@ TEST_F(Documents, FileOutOfTheArraysIsReportedAndTheCaseStays) {
     for (const auto& [name, error] : files) {
         program.command(idOpen);
         program.chooseFile(name);
+        expectFileFaults();
         EXPECT_EQ(program.answer().text, error) << name;
         expectCaption(program, "BOSTAD.IND");
         EXPECT_EQ(title(), "Bostäder i Ängsgården hus Å väster om ån");

@@ -150,7 +150,7 @@ TEST_F(FileDialogs, DriveListSwitchesTheDrive) {
 
 TEST_F(FileDialogs, ReplacingAFileIsAskedFirst) {
     const Bytes before = scene.read("BOSTAD.IND");
-    const Message question{"Spara som..", "BOSTAD.IND finns redan. Vill Du ersätta filen ?"};
+    const Message question{"Spara som..", scene.path("BOSTAD.IND") + " finns redan. Vill Du ersätta filen ?"};
     program.command(idSaveAs);
     program.chooseFile("bostad");
     EXPECT_EQ(program.answer(IDNO), question);

@@ -236,9 +236,9 @@ TEST_F(DocumentTest, SaveAsAsksBeforeItReplacesAnotherFile) {
     boxes.answers = {MessageAnswer::no};
     boxes.whileShown = [&] { typed.clear(); };
     saveAsName("hus2");
-    EXPECT_EQ(boxes.shown,
-              (std::vector<FakeMessageBoxes::Shown>{
-                  {"HUS2.IND finns redan. Vill Du ersätta filen ?", msgYesNoDefaultNo, "Spara som.."}}));
+    EXPECT_EQ(boxes.shown, (std::vector<FakeMessageBoxes::Shown>{
+                               {"C:\\arbete\\HUS2.IND finns redan. Vill Du ersätta filen ?", msgYesNoDefaultNo,
+                                "Spara som.."}}));
     EXPECT_EQ(onDisk("HUS2.IND"), "another case");
     EXPECT_EQ(window.caption, "NAMNLÖS.IND");
     EXPECT_FALSE(state.caseSaved);

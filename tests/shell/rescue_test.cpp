@@ -47,7 +47,7 @@ struct Running : RescueSource, RescueLocks {
     bool changed() const override { return dataChanged; }
     std::string title() const override { return shownTitle; }
     RescuedCase toKeep() override { return rescued; }
-    void open(const RescuedCase& other) override {
+    void restore(const RescuedCase& other) override {
         opened.push_back(other);
         if (openError != 0) throw RunTimeError(openError);
         rescued = other;

@@ -1,5 +1,7 @@
 #include "driver/program.h"
 
+#include <filesystem>
+
 #include "driver/remote.h"
 #include "driver/wait.h"
 #include "help/help_topics.h"
@@ -32,25 +34,50 @@ BOOL CALLBACK matches(HWND window, LPARAM data) {
 }
 
 // The program takes its environment from this process.
-class ToldDpi {
+class Told {
   public:
-    explicit ToldDpi(int dpi) {
-        const std::wstring text = std::to_wstring(dpi);
-        SetEnvironmentVariableW(L"VARNO_DPI", dpi != 0 ? text.c_str() : nullptr);
+    Told(const wchar_t* name, const std::wstring& value) : name_(name) {
+        wchar_t before[MAX_PATH] = L"";
+        if (GetEnvironmentVariableW(name, before, MAX_PATH) != 0) before_ = before;
+        SetEnvironmentVariableW(name, value.empty() ? nullptr : value.c_str());
     }
-    ~ToldDpi() { SetEnvironmentVariableW(L"VARNO_DPI", nullptr); }
-    ToldDpi(const ToldDpi&) = delete;
-    ToldDpi& operator=(const ToldDpi&) = delete;
+    ~Told() { SetEnvironmentVariableW(name_, before_ ? before_->c_str() : nullptr); }
+    Told(const Told&) = delete;
+    Told& operator=(const Told&) = delete;
+
+  private:
+    const wchar_t* name_;
+    std::optional<std::wstring> before_;
 };
+
+StartOptions inScene(const Scene& scene, StartOptions options) {
+    if (options.currentFolder.empty()) options.currentFolder = scene.folder();
+    return options;
+}
 
 } // namespace
 
-Program::Program(const Scene& scene, const StartOptions& options)
-    : Program(StartOptions{options.currentFolder.empty() ? scene.folder() : options.currentFolder,
-                           options.program, options.dpi}) {}
+OwnFolder::OwnFolder() {
+    static int count = 0;
+    wchar_t temporary[MAX_PATH] = L"";
+    GetTempPathW(MAX_PATH, temporary);
+    const std::wstring path = std::wstring(temporary) + L"varno-lokalt-" +
+                              std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++count);
+    std::filesystem::remove_all(path);
+    std::filesystem::create_directories(path);
+    path_ = narrow(path);
+}
+
+OwnFolder::~OwnFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(wide(path_), ignored);
+}
+
+Program::Program(const Scene& scene, const StartOptions& options) : Program(inScene(scene, options)) {}
 
 Program::Program(const StartOptions& options) {
-    const ToldDpi dpi(options.dpi);
+    const Told dpi(L"VARNO_DPI", options.dpi != 0 ? std::to_wstring(options.dpi) : std::wstring());
+    const Told local(L"LOCALAPPDATA", wide(options.localData.empty() ? local_.path() : options.localData));
     const std::wstring program =
         wide(options.program.empty() ? programsFolder() + "\\varno.exe" : options.program);
     std::wstring line = L"\"" + program + L"\"";

@@ -31,6 +31,7 @@ struct StartOptions {
     std::string currentFolder; ///< the scene's own when empty
     std::string program;       ///< its path; the one that was built when empty
     int dpi = 0;               ///< the resolution that the program is told; 0: the screen's
+    std::string localData;     ///< the user's local application data; empty: a fresh folder, gone afterwards
 };
 
 /// A menu line read back from a window, with its depth below the menu bar.
@@ -52,6 +53,19 @@ struct Message {
     std::string title;
     std::string text;
     bool operator==(const Message&) const = default;
+};
+
+/// A folder of its own, made in the system's folder for temporary files.
+class OwnFolder {
+  public:
+    OwnFolder();
+    ~OwnFolder();
+    OwnFolder(const OwnFolder&) = delete;
+    OwnFolder& operator=(const OwnFolder&) = delete;
+    const std::string& path() const { return path_; }
+
+  private:
+    std::string path_;
 };
 
 /// The running `varno.exe`. Its end ends the process too, whatever state it is in.
@@ -118,6 +132,7 @@ class Program {
     void readMenu(DWORD menu, int depth, std::vector<MenuLine>& lines) const;
     DWORD user(const char* function, const std::vector<DWORD>& arguments) const;
 
+    OwnFolder local_;
     win32::UniqueHandle process_;
     DWORD id_ = 0;
     DWORD thread_ = 0;
