@@ -2,9 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 #include "base/text.h"
-#include "input/accessible_names.h"
+#include "controls/rule_sets.h"
 #include "input/field_table.h"
 #include "lineloads/line_load_set.h"
 
@@ -16,31 +17,24 @@ namespace {
 constexpr std::size_t mostShown = 12;
 constexpr const char* lineEnd = "\r\n";
 
-template <typename Integer>
-struct NamedInteger {
-    Integer DesignCase::*field;
-    const char* name;
-};
-// Those that no caption stands beside.
-constexpr std::array integersWithoutCaption{
-    NamedInteger{&DesignCase::loadCode, "Regelverk"},
-    NamedInteger{&DesignCase::nfack, "Antal Fack"},
-    NamedInteger{&DesignCase::lastkomb, "Lastkombination"},
-    NamedInteger{&DesignCase::brukskomb, "Deformation"},
-    NamedInteger{&DesignCase::brandb, "Beräkningsmetod - Brand"},
-    NamedInteger{&DesignCase::kutak, "Undertak"},
-    NamedInteger{&DesignCase::reservedValue, "Reserverat värde"},
-    NamedInteger{&DesignCase::nllast, "Antal linjelaster"},
-};
-
-std::string captionOf(Control control, std::string_view caption) {
-    return caption.empty() ? accessibleName(control) : trimBlanks(caption);
+// A caption that stands before its box ends in a colon.
+std::string withoutColon(std::string_view caption) {
+    return std::string(caption.ends_with(':') ? caption.substr(0, caption.size() - 1) : caption);
 }
 
+std::string choiceName(const ChoiceField& field) {
+    // Two lists bear the caption "fyk": what a screen reader says tells which one.
+    const std::string spoken = accessibleName({field.field});
+    return spoken.empty() ? std::string(field.caption) : spoken;
+}
+
+// The name of a number of the record; `index` is the span or support of a box of the grid, none for the whole row.
 template <typename Place>
-std::string textFieldName(Place place) {
+std::string numberName(Place place, std::optional<int> index = {}) {
     for (const TextField& field : textFields) {
-        if (field.place == NumberPlace(place)) return captionOf({field.field}, field.caption);
+        if (field.place != NumberPlace(place)) continue;
+        return field.isPerSpan() && !index ? std::string(field.caption)
+                                           : accessibleName({field.field, index.value_or(0)});
     }
     return {};
 }
@@ -51,25 +45,20 @@ class Namer {
 
     std::string operator()(CaseNameLine) const { return "Filnamn"; }
     std::string operator()(TitleLine) const { return accessibleName({Field::rubrik}); }
-    std::string operator()(SafetyClassLine) const { return "Säkerhetsklass"; }
+    std::string operator()(SafetyClassLine) const { return std::string(ruleSets.front().frame); }
     std::string operator()(IntegerLine line) const {
-        for (const auto& integer : integersWithoutCaption) {
-            if (integer.field == line.field) return integer.name;
-        }
+        if (line.field == &DesignCase::loadCode) return "Regelverk";
+        if (line.field == &DesignCase::reservedValue) return "Reserverat värde";
+        if (line.field == &DesignCase::nfack) return accessibleName({Field::nfack});
+        if (line.field == &DesignCase::nllast) return withoutColon(lineLoadCount);
         for (const ChoiceField& field : choiceFields) {
-            // Two lists bear the caption "fyk": only the name tells which one.
-            if (field.place == line.field) {
-                const std::string name = accessibleName({field.field});
-                return name.empty() ? std::string(field.caption) : name;
-            }
+            if (field.place == line.field) return choiceName(field);
         }
-        return textFieldName(line.field);
+        return numberName(line.field);
     }
-    std::string operator()(RealLine line) const { return textFieldName(line.field); }
+    std::string operator()(RealLine line) const { return numberName(line.field); }
     std::string operator()(const SpanCellsLine& line) const {
-        const std::string name = textFieldName(line.field);
-        if (cell_ == 0) return name;
-        return name + (line.first == 0 ? ", stöd " : ", fack ") + std::to_string(cell_ - 1 + line.first);
+        return cell_ == 0 ? numberName(line.field) : numberName(line.field, cell_ - 1 + line.first);
     }
     std::string operator()(const FactorCellsLine&) const {
         constexpr std::array factors{Field::lambdaG, Field::ksi,  Field::lambdaQ,
