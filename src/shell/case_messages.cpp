@@ -162,6 +162,14 @@ std::string savedCheckText(const SavedCheck& check) {
 }
 
 std::string fileFaultText(const FileFault& fault) {
+    if (fault.kind == FileFault::Kind::empty || fault.kind == FileFault::Kind::tooManyLines) {
+        return whatIsWrong(fault);
+    }
+    if (fault.kind == FileFault::Kind::tooFewLines) {
+        const int missing = fault.number + 1;
+        return whatIsWrong(fault) + " Rad " + std::to_string(missing) + " (" + fieldName({missing, 0}) +
+               ") saknas.";
+    }
     const std::string name = fieldName(fault.place);
     return "Rad " + std::to_string(fault.place.line) + (name.empty() ? "" : " (" + name + ")") + ": " +
            whatIsWrong(fault);

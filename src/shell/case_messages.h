@@ -18,7 +18,7 @@ std::string lostValueText(const LostValue& lost);
 /// One message about all that was lost; empty when nothing was.
 std::string savedCheckText(const SavedCheck& check);
 
-/// "Rad 2 (Rubrik): ..."
+/// "Rad 2 (Rubrik): ...", or about the whole file.
 std::string fileFaultText(const FileFault& fault);
 /// One message about all that is wrong with the file; empty when nothing is.
 std::string fileFaultsText(const std::string& path, const std::vector<FileFault>& faults);

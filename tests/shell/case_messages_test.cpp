@@ -70,7 +70,7 @@ TEST(CaseMessages, FaultsOfAFileNameTheirLine) {
     EXPECT_EQ(fileFaultText(checkFile(sampleFileWith(5, "17")).front()),
               "Rad 5 (Antal Fack): \"17\" står där ett heltal från 1 till 10 väntas.");
     EXPECT_EQ(fileFaultText(checkFile(sampleFile() + "x").front()),
-              "Rad 38: Filen har 38 rader. En indatafil har 37.");
+              "Filen har 38 rader. En indatafil har 37.");
 }
 
 TEST(CaseMessages, FileOfAnotherKindIsNamedAsSuchAndItsListEnds) {
