@@ -23,8 +23,8 @@ struct FieldRow {
     std::string_view caption; ///< beside the field, or on its frame; a symbol is written "f_yk"
     /// What a screen reader says instead of the caption, or, from a comma on, behind it. Of a row of boxes it
     /// says the span or support too.
-    std::string_view spoken = {};
-    std::string_view unit = {}; ///< behind the box, where the caption does not hold it
+    std::string_view spoken = "";
+    std::string_view unit = ""; ///< behind the box, where the caption does not hold it
 };
 
 /// Where the number of a text field lives. The factors have one cell per rule set, or per rule set and load
@@ -43,7 +43,7 @@ struct TextField : FieldRow {
     NumberPlace place;
     OnLeaving onLeaving;
     Redraws redraws;
-    std::string_view designText = {}; ///< until a case is read
+    std::string_view designText = ""; ///< until a case is read
 
     bool isPerSpan() const { return std::holds_alternative<SpanArray DesignCase::*>(place); }
     bool isFactor() const {

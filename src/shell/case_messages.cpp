@@ -33,8 +33,7 @@ template <typename Place>
 std::string numberName(Place place, std::optional<int> index = {}) {
     for (const TextField& field : textFields) {
         if (field.place != NumberPlace(place)) continue;
-        return field.isPerSpan() && !index ? std::string(field.caption)
-                                           : accessibleName({field.field, index.value_or(0)});
+        return index ? accessibleName({field.field, *index}) : trimBlanks(field.caption);
     }
     return {};
 }
