@@ -12,14 +12,18 @@ namespace {
 
 constexpr const char* extension = ".raddning";
 
+std::string quoted(const std::string& text) {
+    return text.empty() ? text : "\"" + text + "\"";
+}
+
 std::string question(const RescuedCase& rescued) {
     const auto line = [](const std::string& name, const std::string& value) {
         return value.empty() ? std::string() : name + ": " + value + "\r\n";
     };
     const std::string& path = rescued.savedTo.empty() ? rescued.readFrom : rescued.savedTo;
     return "Programmet slutade utan att ändringarna i " + rescued.currentFileName +
-           ".IND sparades. De finns kvar.\r\n\r\n" + line("Rubrik", rescued.title) + line("Fil", path) +
-           line("Senast ändrat", rescued.changed) +
+           ".IND sparades. De finns kvar.\r\n\r\n" + line("Rubrik", quoted(rescued.title)) +
+           line("Fil", path) + line("Senast ändrat", rescued.changed) +
            "\r\nVill Du öppna det räddade fallet ?\r\n\r\n"
            "\"Ja\" öppnar det som ett ändrat fall, som Du kan spara. \"Nej\" kastar det. \"Avbryt\" frågar "
            "igen "

@@ -92,7 +92,7 @@ TEST_F(Rescues, KilledProgramOffersTheCaseAtTheNextStart) {
     const Message message = answerOffer(IDYES);
     EXPECT_EQ(message.title, "Räddat fall");
     EXPECT_TRUE(holds(message.text, "NAMNLÖS.IND")) << message.text;
-    EXPECT_TRUE(holds(message.text, "Rubrik: Hus, 4 plan")) << message.text;
+    EXPECT_TRUE(holds(message.text, "Rubrik: \"Hus, 4 plan\"")) << message.text;
     expectSoon(*program, std::string("Hus, 4 plan"), [&] { return program->field(Field::rubrik).text(); });
     expectCaption(*program, "NAMNLÖS.IND");
     EXPECT_EQ(program->field(Field::spv, 1).text(), "5,50");

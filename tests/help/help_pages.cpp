@@ -100,10 +100,12 @@ void expectExplained(std::string_view text) {
 }
 
 bool isExplained(std::string_view message) {
-    // The number and the text of a run-time error stand in a table of the help, beside each other.
-    static const std::regex between(R"(\S*[^\s.]\.[A-Za-z]\S*|\n|Run-time error '|': )");
+    // What is different each time, the end of a line, and the words around a run-time error's number, which stand in a
+    // table of the help: the number and field of a file's line, a quoted value, the name of a file, a number.
+    static const std::regex varying(
+        R"re(Rad \d+ \(.*\):?|"[^"]*"|\S*[^\s.]\.[A-Za-z]\S*|Run-time error '|': |[-+]?\d[\d.,:]*|[\r\n]+)re");
     const std::string text(message);
-    const std::sregex_token_iterator parts(text.begin(), text.end(), between, -1);
+    const std::sregex_token_iterator parts(text.begin(), text.end(), varying, -1);
     return std::all_of(parts, std::sregex_token_iterator(), [](const std::string& part) {
         return readText().find(trimBlanks(joined(part))) != std::string::npos;
     });

@@ -27,7 +27,7 @@ std::vector<std::string> between(std::string_view text, std::string_view before,
 std::size_t occurrences(std::string_view text, std::string_view part);
 /// That the help says it word for word.
 void expectExplained(std::string_view text);
-/// The same of every line of a message box, file names in it apart.
+/// The same of a message box, line by line, apart from file names, numbers and quoted values in it.
 bool isExplained(std::string_view message);
 /// The text with one blank for every run of white space.
 std::string joined(std::string_view text);

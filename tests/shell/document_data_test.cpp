@@ -95,6 +95,7 @@ TEST_F(DocumentData, SaveAsAsksUnlessItIsTheCasesOwnFile) {
     // The same name in another folder is another file.
     dialog.lists().changeDirectory("C:\\arbete\\gammalt");
     boxes.answers = {MessageAnswer::no};
+    boxes.whileShown = [&] { typed.clear(); };
     document.saveAs();
     ASSERT_EQ(boxes.shown.size(), 1u);
     EXPECT_EQ(boxes.shown[0].text, question(std::string(elsewhere) + "HUS1.IND"));
@@ -105,6 +106,7 @@ TEST_F(DocumentData, DefaultCaseOwnsNoFile) {
     document.newCase(workFolder);
     typed = "hus1";
     boxes.answers = {MessageAnswer::no};
+    boxes.whileShown = [&] { typed.clear(); };
     document.saveAs();
     ASSERT_EQ(boxes.shown.size(), 1u) << "what was open before belongs to no new case";
 }

@@ -233,7 +233,7 @@ TEST(Rescue, KilledProgramIsOfferedAtTheNextStart) {
     const auto& box = next.boxes.shown.front();
     EXPECT_EQ(box.style, msgQuestionYesNoCancel);
     for (const char* part :
-         {"HUS1.IND", "Rubrik: Hus 1", "Fil: C:\\arbete\\HUS1.IND", "Senast ändrat: 2026-11-21"})
+         {"HUS1.IND", "Rubrik: \"Hus 1\"", "Fil: C:\\arbete\\HUS1.IND", "Senast ändrat: 2026-11-21"})
         EXPECT_NE(box.text.find(part), std::string::npos) << part << "\n" << box.text;
     ASSERT_EQ(next.opened.size(), 1u);
     EXPECT_EQ(next.opened.front().designCase.spv(1), 6);
