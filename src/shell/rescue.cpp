@@ -5,12 +5,17 @@
 
 #include "base/file.h"
 #include "base/run_time_error.h"
+#include "model/design_input_file.h"
 
 namespace varno {
 
 namespace {
 
 constexpr const char* extension = ".raddning";
+
+const std::string& ownPath(const RescuedCase& rescued) {
+    return rescued.savedTo.empty() ? rescued.readFrom : rescued.savedTo;
+}
 
 std::string quoted(const std::string& text) {
     return text.empty() ? text : "\"" + text + "\"";
@@ -20,14 +25,12 @@ std::string question(const RescuedCase& rescued) {
     const auto line = [](const std::string& name, const std::string& value) {
         return value.empty() ? std::string() : name + ": " + value + "\r\n";
     };
-    const std::string& path = rescued.savedTo.empty() ? rescued.readFrom : rescued.savedTo;
     return "Programmet slutade utan att ändringarna i " + rescued.currentFileName +
            ".IND sparades. De finns kvar.\r\n\r\n" + line("Rubrik", quoted(rescued.title)) +
-           line("Fil", path) + line("Senast ändrat", rescued.changed) +
+           line("Fil", ownPath(rescued)) + line("Senast ändrat", rescued.changed) +
            "\r\nVill Du öppna det räddade fallet ?\r\n\r\n"
-           "\"Ja\" öppnar det som ett ändrat fall, som Du kan spara. \"Nej\" kastar det. \"Avbryt\" frågar "
-           "igen "
-           "vid nästa start.";
+           "\"Ja\" öppnar det som ett ändrat fall, som Du kan spara. \"Nej\" kastar det. "
+           "\"Avbryt\" frågar igen vid nästa start.";
 }
 
 } // namespace
@@ -74,8 +77,18 @@ std::vector<Rescue::Found> Rescue::leftBehind() {
     return found;
 }
 
-bool Rescue::worthless(const RescuedCase&) {
-    return false;
+// What a save would write stands in the case's file already: the program fell after the save, or the changes were
+// taken back. Free line loads stand in no file, so a case with some is always worth a question.
+bool Rescue::worthless(const RescuedCase& rescued) {
+    const std::string& path = ownPath(rescued);
+    if (path.empty() || rescued.designCase.nllastf != 0) return false;
+    try {
+        File file(calls_, path, FileMode::input, 0, 1);
+        const CaseFile onDisk = VARNO1::readDesignCase(file, rescued.designCase);
+        return onDisk == CaseFile{rescued.designCase, rescued.currentFileName, rescued.title};
+    } catch (const RunTimeError&) {
+        return false;
+    }
 }
 
 void Rescue::offer() {

@@ -5,6 +5,7 @@
 #include <random>
 #include <set>
 
+#include "support/case_files.h"
 #include "support/fake_folders.h"
 #include "support/memory_files.h"
 
@@ -348,6 +349,29 @@ TEST(Rescue, FileIsOfferedByOneOfTwoThatStartTogether) {
     first.rescue.offer();
     EXPECT_EQ(first.opened.size(), 1u);
     EXPECT_TRUE(second.boxes.shown.empty());
+}
+
+TEST(Rescue, CaseThatStandsInItsFileIsNotOffered) {
+    const CaseFile saved = testing::sampleCase();
+    for (const bool freeLoads : {false, true}) {
+        Machine machine;
+        machine.disk.content["C:\\arbete\\HUS1.IND"] = testing::writtenCase(saved);
+        {
+            Running program(machine, "a");
+            program.rescued.designCase = saved.designCase;
+            program.rescued.designCase.nllastf = freeLoads ? 1 : 0;
+            program.rescued.currentFileName = saved.name;
+            program.rescued.savedTo = "C:\\arbete\\HUS1.IND";
+            program.shownTitle = saved.title;
+            program.dataChanged = true;
+            program.wait(seconds(1));
+        }
+        Running next(machine, "b");
+        next.boxes.answers = {MessageAnswer::cancel};
+        next.rescue.offer();
+        EXPECT_EQ(next.boxes.shown.size(), freeLoads ? 1u : 0u);
+        EXPECT_EQ(machine.disk.content.size(), freeLoads ? 2u : 1u) << "worth nothing, so it is gone";
+    }
 }
 
 TEST(Rescue, DamagedFileIsNeitherOfferedNorRemoved) {
