@@ -164,6 +164,20 @@ bool isDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
+// In UTF-8 byte A0 also ends other characters, whose first byte ends the number: nothing behind it counts.
+constexpr std::string_view blanks[]{" ", "\t", "\u00A0", "\u202F", "\xA0"};
+
+std::string withoutBlanks(std::string_view text) {
+    std::string dense;
+    while (!text.empty()) {
+        const auto* const blank = std::find_if(std::begin(blanks), std::end(blanks),
+                                               [&](std::string_view b) { return text.starts_with(b); });
+        if (blank == std::end(blanks)) dense += text.front();
+        text.remove_prefix(blank == std::end(blanks) ? 1 : blank->size());
+    }
+    return dense;
+}
+
 // The longest prefix of `text` that is a number, in the form that std::from_chars takes: sign, digits with at
 // most one point, and an exponent only when digits follow its letter.
 std::string leadingNumber(std::string_view text) {
@@ -226,10 +240,7 @@ double outOfRange(const std::string& number) {
 } // namespace
 
 double plainNumber(std::string_view text) {
-    std::string dense;
-    std::copy_if(text.begin(), text.end(), std::back_inserter(dense),
-                 [](char c) { return c != ' ' && c != '\t'; });
-    const std::string number = leadingNumber(dense);
+    const std::string number = leadingNumber(withoutBlanks(text));
     if (number.empty()) return 0;
     double value = 0;
     const auto result = std::from_chars(number.data(), number.data() + number.size(), value);

@@ -42,9 +42,6 @@ const NumberText numberTexts[] = {
     {"inf", 0, 0},
     {"-infinity", 0, 0},
     {"\n5", 0, 0},
-    {"\xA0"
-     "5",
-     0, 0}, // a no-break space is not a blank
     {std::string("\0"
                  "5",
                  2),
@@ -79,6 +76,37 @@ const NumberText numberTexts[] = {
     {"- 5", -5, -5},
     {"1 . 5", 1.5, 1.5},
     {"2 e 3", 2000, 2000},
+    {"1\t234,5", 1234.5, 1234},
+    // No-break spaces, by which Windows groups thousands, are blanks: U+00A0 and U+202F in UTF-8, and the byte of the
+    // former in Windows-1252
+    {"\u00A05", 5, 5},
+    {"\u202F5", 5, 5},
+    {"\xA0"
+     "5",
+     5, 5},
+    {"1\u00A0234,05", 1234.05, 1234},
+    {"1\u202F234,05", 1234.05, 1234},
+    {"1\xA0"
+     "234,05",
+     1234.05, 1234},
+    {"-\u00A012\u202F345\u00A0678,5\u00A0", -12345678.5, -12345678},
+    {"1,5\u00A0E\u202F3", 1500, 1},
+    {"\u00A0", 0, 0},
+    {"\u00A0m5", 0, 0},
+    // Other spaces and the letters that share bytes with no-break spaces end the number
+    {"1\u2009234", 1, 1},
+    {"1\u200A234", 1, 1},
+    {"1\u00E0234", 1, 1},
+    {"1\u00C2234", 1, 1},
+    {"1\xC2"
+     "234",
+     1, 1},
+    {"1\xE2\x80"
+     "5",
+     1, 1},
+    {"1\xAF"
+     "5",
+     1, 1},
     // The number ends at the first character that cannot continue it
     {"12abc", 12, 12},
     {"12 mm", 12, 12},
