@@ -15,7 +15,7 @@ class GuiError : public std::runtime_error {
 };
 
 /// Milliseconds that anything is waited for. Generous: a busy machine is no failure.
-inline constexpr DWORD patience = 20'000;
+inline constexpr DWORD patience = 60'000;
 
 /// Asks `done` until it is true. False when the time is over, or when `process` has ended and it is still not
 /// true.
