@@ -4,6 +4,7 @@
 # A step is a line of this table: its name, and a command, which is started in the project's folder. It goes well when its
 # exit code is zero; what it measured it prints on lines that begin with "FIGURE: ", which are shown again at the end.
 long_steps=(
+    'killed-saves                scripts/long-kill-saves 200'
     'fresh-debian-12             scripts/fresh-machine bookworm --ccache build/fresh-machine/ccache'
     'fresh-debian-12-bwrap       scripts/fresh-machine bookworm --bwrap --ccache build/fresh-machine/ccache'
     'fresh-debian-12-wine        scripts/fresh-machine bookworm --wine complete --ccache build/fresh-machine/ccache'

@@ -1,6 +1,9 @@
 // The file calls of Windows.
 #include <windows.h>
 
+#include <array>
+#include <vector>
+
 #include "base/file_calls.h"
 #include "base/run_time_error.h"
 #include "win32/strings.h"
@@ -66,6 +69,21 @@ class WindowsOutput : public FileCalls::Output {
     UniqueHandle file_;
 };
 
+// What a user gave the old file beside its content. As far as it goes: a case that cannot keep a mark of its file is
+// saved without it. The rights come last, as they may forbid the rest.
+void carryOver(const std::wstring& from, const std::wstring& to) {
+    const DWORD attributes = GetFileAttributesW(from.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES) return;
+    constexpr DWORD kept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
+    SetFileAttributesW(to.c_str(), (attributes & kept) | FILE_ATTRIBUTE_ARCHIVE);
+
+    DWORD size = 0;
+    GetFileSecurityW(from.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+    std::vector<unsigned char> rights(size);
+    if (size != 0 && GetFileSecurityW(from.c_str(), DACL_SECURITY_INFORMATION, rights.data(), size, &size))
+        SetFileSecurityW(to.c_str(), DACL_SECURITY_INFORMATION, rights.data());
+}
+
 class WindowsFileCalls : public FileCalls {
   public:
     Bytes readAll(const std::string& path) override {
@@ -101,23 +119,22 @@ class WindowsFileCalls : public FileCalls {
         return std::make_unique<WindowsOutput>(path);
     }
 
+    // Not ReplaceFile, which moves the old file away and then the new one in: a program that is killed in between
+    // leaves nothing under the name.
     void replace(const std::string& from, const std::string& to) override {
-        // ReplaceFile keeps the attributes and rights of the old file. It needs a backup name: without one it
-        // can fail half-way (error 1176) and leave neither file under its name.
-        const std::wstring target = wide(to);
         const std::wstring draft = wide(from);
-        const std::wstring backup = target + L".~bak";
-        if (exists(to)) {
-            if (ReplaceFileW(target.c_str(), draft.c_str(), backup.c_str(), 0, nullptr, nullptr)) {
-                DeleteFileW(backup.c_str());
+        const std::wstring target = wide(to);
+        carryOver(target, draft);
+        // A virus scanner or an indexer holds a file for a moment when it has just been written.
+        for (const DWORD pause : std::array<DWORD, 5>{10, 20, 40, 80, 0}) {
+            if (MoveFileExW(draft.c_str(), target.c_str(),
+                            MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
                 return;
-            }
-            // Left half done the old file stands under the backup's name: put it back before going on.
-            if (!exists(to)) MoveFileExW(backup.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH);
+            const DWORD code = GetLastError();
+            if (pause == 0 || (code != ERROR_ACCESS_DENIED && code != ERROR_SHARING_VIOLATION))
+                failWith(code);
+            Sleep(pause);
         }
-        // File systems without ReplaceFile (and a target that is new) take this way.
-        if (!MoveFileExW(draft.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-            fail();
     }
 
     void remove(const std::string& path) override {
