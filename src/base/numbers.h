@@ -38,12 +38,9 @@ float toSingle(double value);
 
 namespace VARNO1 {
 
-/// The number that a text begins with, 0 when it begins with none: the first "," counts as ".", later ones
-/// end the number; blanks, tabs and no-break spaces are skipped wherever they stand; exponents are written with
-/// E or D. Never throws and never looks at a locale; a number beyond the range of a double is an infinity.
-///
-/// The text may be UTF-8 or the bytes of a file in Windows-1252. A no-break space (U+00A0, U+202F, byte A0) is
-/// what Windows groups thousands with in Sweden: taken for the end of the number, a thousand became one.
+/// The number that a text (UTF-8, or bytes of Windows-1252) begins with, 0 when it begins with none: the first "," counts
+/// as ".", later ones end the number; blanks, tabs and no-break spaces (Sweden's thousands sign) are skipped wherever they
+/// stand; exponents have E or D. Never throws, never looks at a locale; beyond the range of a double it is an infinity.
 double parseNumber(std::string_view text);
 
 /// The same without the comma rule: "6,5" is 6. Only the span and line-load counters read so.

@@ -143,6 +143,9 @@ void FormWindow::runModal() {
 
 void FormWindow::closeForm() {
     if (std::exchange(open_, false)) return;
+    // Back to the window that it belongs to, whichever others are open.
+    const HWND owner = GetWindow(handle(), GW_OWNER);
+    if (owner != nullptr && GetActiveWindow() == handle()) SetActiveWindow(owner);
     ShowWindow(handle(), SW_HIDE);
 }
 
