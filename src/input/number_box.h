@@ -57,8 +57,10 @@ class NumberBoxes {
     /// What the user typed goes to `store`. A box that was left alone is rewritten in `pattern`.
     template <typename Store>
     void leave(Box box, std::string_view pattern, Store store) {
-        const State& state = states_[box];
+        State& state = states_[box];
         if (state.typed) {
+            // Refused, it looks at once as it does when it is left, and is not written again under the selection.
+            state.pattern = pattern;
             attempt(box, [&] { store(VARNO1::parseNumber(view_.text(box))); });
         } else if (state.number) {
             put(box, state.number, pattern);

@@ -110,6 +110,11 @@ void EditWalk::typeSomewhere() {
     if (!box.enabled()) return;
     box.clickInto();
     answerErrors();
+    // A number that was refused has taken the focus back; nobody types into a box without it.
+    if (program().focused() != box) {
+        box.clickInto();
+        answerErrors();
+    }
     box.selectAll();
     const std::string text = dice_.text();
     if (text.empty()) box.key(VK_DELETE);
