@@ -4,6 +4,7 @@
 #include "driver/mouse.h"
 #include "driver/other_program.h"
 #include "driver/remote.h"
+#include "driver/wait.h"
 #include "line_load_rig.h"
 
 namespace varno::gui {
@@ -20,7 +21,13 @@ class Activation : public LineLoads {
     }
     // By its title bar, so that nothing in it is clicked.
     static void goTo(const Control& window) {
-        mouse::clickTitle(window);
+        // A click that comes while a window of another program still comes up goes to that one; a user clicks again.
+        constexpr DWORD shortWait = 3'000;
+        const auto active = [&] { return GetForegroundWindow() == window.handle(); };
+        int clicks = 0;
+        do
+            mouse::clickTitle(window);
+        while (!waitUntil(active, nullptr, shortWait) && ++clicks < 5);
         expectActive(window);
     }
     // Whatever lies over it: in a desktop of Wine a window drops behind the one that it belongs to.
