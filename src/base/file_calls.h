@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -8,6 +9,10 @@
 #include "base/text.h"
 
 namespace varno {
+
+/// A file larger than this is none of the program's: a case has kilobytes. Read whole, it would take the memory that
+/// the case on the screen needs.
+inline constexpr std::size_t largestFile = std::size_t{64} << 20;
 
 /// The system calls behind every file of the program. They come in through this table so that a test can let
 /// any one of them fail. Paths are UTF-8, with the separators of the system; relative ones are taken from the
@@ -27,7 +32,7 @@ class FileCalls {
         virtual void close() = 0;
     };
 
-    /// The whole content of an existing file.
+    /// The whole content of an existing file. \throws RunTimeError 7 when it is larger than `largestFile`.
     virtual Bytes readAll(const std::string& path) = 0;
     /// Reports, without changing anything, why an existing file could not be written; a missing one is fine
     /// when its folder is there.
@@ -42,6 +47,8 @@ class FileCalls {
     /// Both paths lead to one and the same file, however they are written: other letters, a relative or a
     /// short name, another drive letter for the same folder. False when one of them leads nowhere.
     virtual bool same(const std::string& a, const std::string& b) = 0;
+    /// When a file was last written, by a clock of the system's own: good for comparing two files of a folder.
+    virtual std::int64_t lastWritten(const std::string& path) = 0;
 };
 
 /// The calls of the system that the program is built for.

@@ -89,6 +89,8 @@ class PosixFileCalls : public FileCalls {
             if (done < 0 && errno == EINTR) continue;
             if (done < 0) fail(path, errno);
             if (done == 0) return bytes;
+            if (bytes.size() + static_cast<std::size_t>(done) > largestFile)
+                throw RunTimeError(errOutOfMemory);
             bytes.append(block, static_cast<std::size_t>(done));
         }
     }
@@ -106,7 +108,9 @@ class PosixFileCalls : public FileCalls {
         if (::rename(from.c_str(), to.c_str()) != 0) fail(to, errno);
     }
     void remove(const std::string& path) override {
-        if (::unlink(path.c_str()) != 0) fail(path, errno);
+        aboutFile(path, FileAction::deleting, [&] {
+            if (::unlink(path.c_str()) != 0) fail(path, errno);
+        });
     }
     bool same(const std::string& a, const std::string& b) override {
         std::error_code ignored;
@@ -116,6 +120,12 @@ class PosixFileCalls : public FileCalls {
     bool exists(const std::string& path) override {
         struct stat info {};
         return ::stat(path.c_str(), &info) == 0;
+    }
+    std::int64_t lastWritten(const std::string& path) override {
+        struct stat info {};
+        if (::stat(path.c_str(), &info) != 0) fail(path, errno);
+        constexpr std::int64_t nanoseconds = 1'000'000'000;
+        return info.st_mtim.tv_sec * nanoseconds + info.st_mtim.tv_nsec;
     }
 };
 

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 
 #ifndef _WIN32
@@ -169,6 +170,62 @@ TEST_F(SystemFiles, AReadOnlyFileIsError75AndStays) {
     makeWritable("låst.IND");
     EXPECT_EQ(folder.read("låst.IND"), "old");
     EXPECT_EQ(folder.count(), 1u);
+}
+
+TEST_F(SystemFiles, LargerThanAnyCaseAreError7) {
+    folder.write("100MB.IND", Bytes(100'000'000, '7'));
+    EXPECT_EQ(errorOfOpening("100MB.IND", FileMode::input), errOutOfMemory);
+    folder.write("stor.IND", Bytes(10'000'000, '7'));
+    EXPECT_EQ(errorOfOpening("stor.IND", FileMode::input), 0);
+}
+
+TEST_F(SystemFiles, ANameThatIsTooLongIsError52) {
+    const std::string name(300, 'x');
+    EXPECT_EQ(errorOfOpening(name, FileMode::input), errBadFileNameOrNumber);
+    EXPECT_EQ(errorOfOpening(name, FileMode::output), errBadFileNameOrNumber);
+    EXPECT_EQ(folder.count(), 0u);
+}
+
+TEST_F(SystemFiles, InFoldersBeyond260LettersAreSavedAndRead) {
+    std::filesystem::path deep = folder.folder();
+    while (deep.u8string().size() < 400)
+        deep /= std::string(40, 'm');
+#ifdef _WIN32
+    // Only the long form of a path leads there.
+    std::filesystem::create_directories(LR"(\\?\)" + deep.wstring());
+#else
+    std::filesystem::create_directories(deep);
+#endif
+    const std::u8string text = (deep / u8"Å.IND").make_preferred().u8string();
+    const std::string name(text.begin(), text.end());
+    for (const std::string content : {"first", "second"}) {
+        File file(calls, name, FileMode::output, 0, 1);
+        file.printLine(content);
+        file.close();
+        EXPECT_EQ(calls.readAll(name), content + "\r\n");
+    }
+    calls.remove(name);
+    EXPECT_FALSE(calls.exists(name));
+}
+
+TEST_F(SystemFiles, WithLettersOutsideTheCodePageAreSavedAndRead) {
+    for (const std::string name : {"ÅÄÖ åäö.IND", "плита.IND", "床版.IND", "a\u00A0b.IND"}) {
+        File file(calls, folder.path(name), FileMode::output, 0, 1);
+        file.printLine(name);
+        file.close();
+        EXPECT_EQ(folder.read(name), name + "\r\n");
+    }
+    EXPECT_EQ(folder.count(), 4u);
+}
+
+TEST_F(SystemFiles, KnowWhenTheyWereWritten) {
+    folder.write("A.IND", "1");
+    folder.write("B.IND", "1");
+    std::filesystem::last_write_time(folder.file("A.IND"),
+                                     std::filesystem::last_write_time(folder.file("B.IND")) -
+                                         std::chrono::seconds(2));
+    EXPECT_LT(calls.lastWritten(folder.path("A.IND")), calls.lastWritten(folder.path("B.IND")));
+    EXPECT_EQ(errorOf([&] { calls.lastWritten(folder.path("finns inte")); }), errFileNotFound);
 }
 
 TEST_F(SystemFiles, CheckWritableChangesNothing) {

@@ -57,6 +57,12 @@ void MemoryFiles::remove(const std::string& path) {
     if (content.erase(path) == 0) throw RunTimeError(errFileNotFound);
 }
 
+std::int64_t MemoryFiles::lastWritten(const std::string& path) {
+    enter("lastWritten", path);
+    if (!content.contains(path)) throw RunTimeError(errFileNotFound);
+    return written[path];
+}
+
 MessageAnswer FakeMessageBoxes::show(const std::string& text, int style, const std::string& title) {
     EXPECT_TRUE(isExplained(text) && isExplained(title)) << "not in the help: " << title << ": " << text;
     shown.push_back({text, style, title});

@@ -25,11 +25,14 @@ class MemoryFiles : public FileCalls {
     bool same(const std::string& a, const std::string& b) override {
         return content.contains(a) && content.contains(b) && equalIgnoringCase(a, b);
     }
+    std::int64_t lastWritten(const std::string& path) override;
 
-    /// "readAll", "checkWritable", "create", "write", "flush", "close", "replace", "remove".
+    /// "readAll", "checkWritable", "create", "write", "flush", "close", "replace", "remove",
+    /// "lastWritten".
     std::function<int(const std::string& call, const std::string& path)> fault;
     std::map<std::string, Bytes> content;
-    std::vector<std::string> calls; ///< "call path", in order
+    std::map<std::string, std::int64_t> written; ///< what lastWritten answers, 0 unless told
+    std::vector<std::string> calls;              ///< "call path", in order
 
   private:
     friend class MemoryOutput;

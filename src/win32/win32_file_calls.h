@@ -1,0 +1,61 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+#include "base/file_calls.h"
+
+namespace varno::win32 {
+
+/// The functions of Windows that WindowsFileCalls is made of, each failing with GetLastError as Windows does. They
+/// come in through this table so that a test can let any one of them fail with any error.
+class FileFunctions {
+  public:
+    virtual ~FileFunctions() = default;
+    /// INVALID_HANDLE_VALUE when it fails.
+    virtual HANDLE open(const std::wstring& path, DWORD access, DWORD share, DWORD disposition);
+    virtual bool isDisk(HANDLE file);
+    virtual bool read(HANDLE file, void* bytes, DWORD size, DWORD& done);
+    virtual bool write(HANDLE file, const void* bytes, DWORD size, DWORD& done);
+    virtual bool flush(HANDLE file);
+    virtual bool close(HANDLE file);
+    /// INVALID_FILE_ATTRIBUTES when it fails.
+    virtual DWORD attributes(const std::wstring& path);
+    /// Where a file really lies: whole, with its long names, whatever drive letter or letter case led to it. Empty
+    /// when there is none.
+    virtual std::wstring truePath(const std::wstring& path);
+    virtual bool lastWritten(const std::wstring& path, FILETIME& time);
+    virtual bool remove(const std::wstring& path);
+
+    /// Renames over a file that is there, in one step.
+    virtual bool moveOver(const std::wstring& from, const std::wstring& to);
+    /// Lets some time pass before a rename is tried again.
+    virtual void pause(DWORD milliseconds);
+
+    /// What a user gave a file beside its content, from one file to another.
+    virtual bool copyAttributes(const std::wstring& from, const std::wstring& to);
+    virtual bool copyRights(const std::wstring& from, const std::wstring& to);
+};
+
+/// The file calls of Windows.
+class WindowsFileCalls : public FileCalls {
+  public:
+    explicit WindowsFileCalls(FileFunctions& functions) : windows_(functions) {}
+
+    Bytes readAll(const std::string& path) override;
+    void checkWritable(const std::string& path) override;
+    std::unique_ptr<Output> create(const std::string& path) override;
+    void replace(const std::string& from, const std::string& to) override;
+    void remove(const std::string& path) override;
+    bool exists(const std::string& path) override;
+    bool same(const std::string& a, const std::string& b) override;
+    std::int64_t lastWritten(const std::string& path) override;
+
+  private:
+    void carryOver(const std::wstring& from, const std::wstring& to);
+
+    FileFunctions& windows_;
+};
+
+} // namespace varno::win32
