@@ -141,7 +141,12 @@ int runTool(const std::vector<std::string>& arguments, FileCalls& calls, std::os
 }
 
 int tellRunTimeError(const RunTimeError& error, std::ostream& err) {
-    err << "run-time error " << error.number() << ": " << error.text() << '\n';
+    const ErrorSubject& subject = error.subject();
+    err << "run-time error " << error.number() << ": " << error.text();
+    if (!subject.file.empty()) err << ": " << subject.file;
+    if (subject.cause != 0 && subject.cause != error.number())
+        err << " (" << runTimeErrorText(subject.cause) << ')';
+    err << '\n';
     return runTimeError;
 }
 

@@ -21,20 +21,30 @@ File::File(FileCalls& calls, std::string path, FileMode mode, int recordLength, 
     : calls_(&calls), path_(std::move(path)), mode_(mode),
       recordLength_(mode == FileMode::random && recordLength > 0 ? static_cast<std::size_t>(recordLength)
                                                                  : 1) {
-    if (mode == FileMode::input) {
-        text_ = SequentialText(calls.readAll(path_));
-    } else if (writes(mode)) {
-        calls.checkWritable(path_);
-        if (mode == FileMode::append && calls.exists(path_)) bytes_ = calls.readAll(path_);
+    about([this] { open(); });
+    number_ = number;
+}
+
+void File::open() {
+    if (mode_ == FileMode::input) {
+        text_ = SequentialText(calls_->readAll(path_));
+    } else if (writes(mode_)) {
+        calls_->checkWritable(path_);
+        if (mode_ == FileMode::append && calls_->exists(path_)) bytes_ = calls_->readAll(path_);
         makeDraft();
         written_ = true;
-    } else if (placed(mode)) {
-        if (!calls.exists(path_)) calls.create(path_)->close();
-        bytes_ = calls.readAll(path_);
+    } else if (placed(mode_)) {
+        if (!calls_->exists(path_)) calls_->create(path_)->close();
+        bytes_ = calls_->readAll(path_);
     } else {
         throw RunTimeError(errBadFileMode);
     }
-    number_ = number;
+}
+
+// A file by place is read when it is opened and written when it is closed.
+FileAction File::action() const {
+    const bool reads = mode_ == FileMode::input || (placed(mode_) && !written_);
+    return reads ? FileAction::reading : FileAction::writing;
 }
 
 File::File(File&& other) noexcept {
@@ -50,6 +60,7 @@ File& File::operator=(File&& other) noexcept {
     mode_ = other.mode_;
     recordLength_ = other.recordLength_;
     number_ = std::exchange(other.number_, std::int16_t{0});
+    cause_ = other.cause_;
     written_ = std::exchange(other.written_, false);
     text_ = std::move(other.text_);
     bytes_ = std::move(other.bytes_);
@@ -62,7 +73,7 @@ File::~File() {
 
 // No destructor runs for a File that failed to open, so what it made goes here.
 void File::makeDraft() {
-    const std::string draft = path_ + ".~tmp";
+    const std::string draft = path_ + draftEnding;
     try {
         const auto output = calls_->create(draft);
         draft_ = draft;
@@ -84,8 +95,9 @@ void File::removeDraft() noexcept {
 }
 
 void File::require(bool fits) const {
-    if (number_ == 0) throw RunTimeError(errBadFileNameOrNumber);
-    if (!fits) throw RunTimeError(errBadFileMode);
+    if (number_ == 0)
+        throw RunTimeError(errBadFileNameOrNumber, {.file = path_, .action = action(), .cause = cause_});
+    if (!fits) throw RunTimeError(errBadFileMode, {.file = path_, .action = action()});
 }
 
 bool File::atEnd() const {
@@ -95,12 +107,12 @@ bool File::atEnd() const {
 
 Bytes File::readField() {
     require(mode_ == FileMode::input);
-    return text_.readField();
+    return about([this] { return text_.readField(); });
 }
 
 Bytes File::readLine() {
     require(mode_ == FileMode::input);
-    return text_.readLine();
+    return about([this] { return text_.readLine(); });
 }
 
 void File::printLine(std::string_view line) {
@@ -133,9 +145,14 @@ void File::close() {
     if (number_ == 0) return;
     // From here on the file is closed, also when bringing it to the disk fails.
     number_ = 0;
-    if (!std::exchange(written_, false)) return;
+    if (!written_) return;
+    about([this] { bringToDisk(); });
+    written_ = false;
+}
+
+void File::bringToDisk() {
     try {
-        if (draft_.empty()) draft_ = path_ + ".~tmp";
+        if (draft_.empty()) draft_ = path_ + draftEnding;
         const auto output = calls_->create(draft_);
         output->write(bytes_);
         output->flush();

@@ -3,14 +3,19 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "base/file_calls.h"
+#include "base/run_time_error.h"
 #include "base/sequential_text.h"
 
 namespace varno {
 
 /// How a file is opened, by the program's mode codes.
 enum class FileMode : std::int16_t { output = 1, input = 2, append = 3, random = 4, binary = 5 };
+
+/// A file that is being written stands beside its target under the target's name and this.
+inline constexpr const char* draftEnding = ".~tmp";
 
 /// What openFile gives back: an open file that closes itself.
 ///
@@ -24,6 +29,8 @@ class File {
   public:
     /// A file that did not open.
     File() = default;
+    /// A file that did not open, for this reason: every use says so.
+    File(std::string path, FileMode mode, int cause) : path_(std::move(path)), mode_(mode), cause_(cause) {}
     /// Opens `path`. \throws RunTimeError with the number of what the system refused.
     File(FileCalls& calls, std::string path, FileMode mode, int recordLength, std::int16_t number);
     File(File&& other) noexcept;
@@ -34,6 +41,8 @@ class File {
 
     /// The file number, 0 when there is no file.
     std::int16_t number() const { return number_; }
+
+    const std::string& path() const { return path_; }
 
     bool atEnd() const;
     /// \throws RunTimeError 62 at the end of the file.
@@ -53,9 +62,17 @@ class File {
     void close();
 
   private:
+    void open();
     void require(bool fits) const;
+    /// Runs what reads or writes the file; an error that leaves it is about the file.
+    template <typename Action>
+    decltype(auto) about(Action&& run) const {
+        return aboutFile(path_, action(), run);
+    }
+    FileAction action() const;
     std::size_t offsetOf(int position) const;
     void makeDraft();
+    void bringToDisk();
     void removeDraft() noexcept;
 
     FileCalls* calls_ = nullptr;
@@ -64,6 +81,7 @@ class File {
     FileMode mode_ = FileMode::input;
     std::size_t recordLength_ = 1;
     std::int16_t number_ = 0;
+    int cause_ = 0; ///< why it did not open
     bool written_ = false;
     SequentialText text_;
     Bytes bytes_;

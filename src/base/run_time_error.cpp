@@ -2,6 +2,9 @@
 
 #include <array>
 #include <cerrno>
+#include <utility>
+
+#include "base/error_words.h"
 
 namespace varno {
 
@@ -14,6 +17,7 @@ struct ErrorText {
 
 constexpr std::array errorTexts{
     ErrorText{errOverflow, "Overflow"},
+    ErrorText{errOutOfMemory, "Out of memory"},
     ErrorText{errSubscriptOutOfRange, "Subscript out of range"},
     ErrorText{errDivisionByZero, "Division by zero"},
     ErrorText{errBadFileNameOrNumber, "Bad file name or number"},
@@ -44,6 +48,8 @@ constexpr std::array windowsCodes{
     WindowsCode{3, errPathNotFound},          // ERROR_PATH_NOT_FOUND
     WindowsCode{4, errTooManyFiles},          // ERROR_TOO_MANY_OPEN_FILES
     WindowsCode{5, errPathFileAccess},        // ERROR_ACCESS_DENIED
+    WindowsCode{8, errOutOfMemory},           // ERROR_NOT_ENOUGH_MEMORY
+    WindowsCode{14, errOutOfMemory},          // ERROR_OUTOFMEMORY
     WindowsCode{15, errDeviceUnavailable},    // ERROR_INVALID_DRIVE
     WindowsCode{19, errPermissionDenied},     // ERROR_WRITE_PROTECT
     WindowsCode{20, errDeviceUnavailable},    // ERROR_BAD_UNIT
@@ -69,10 +75,24 @@ constexpr std::array windowsCodes{
 
 } // namespace
 
-RunTimeError::RunTimeError(int number) : std::runtime_error(runTimeErrorText(number)), number_(number) {}
+RunTimeError::RunTimeError(int number, ErrorSubject subject)
+    : std::runtime_error(runTimeErrorText(number)), number_(number), subject_(std::move(subject)) {}
+
+RunTimeError RunTimeError::about(const std::string& file, FileAction action) const {
+    ErrorSubject subject = subject_;
+    if (subject.file.empty()) subject.file = file;
+    if (subject.action == FileAction::none) subject.action = action;
+    return RunTimeError(number_, std::move(subject));
+}
+
+RunTimeError RunTimeError::about(const std::string& field) const {
+    ErrorSubject subject = subject_;
+    if (subject.field.empty()) subject.field = field;
+    return RunTimeError(number_, std::move(subject));
+}
 
 std::string RunTimeError::message() const {
-    return "Run-time error '" + std::to_string(number_) + "': " + text();
+    return errorWords(number_, subject_) + "\n\nRun-time error '" + std::to_string(number_) + "': " + text();
 }
 
 std::string runTimeErrorText(int number) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <optional>
 
 #include "support/memory_files.h"
@@ -188,6 +189,51 @@ TEST(File, UsedAgainstItsModeRaisesError54) {
     EXPECT_EQ(errorOf([&] { binary.readLine(); }), errBadFileMode);
     EXPECT_EQ(errorOf([&] { opened(files, static_cast<FileMode>(0)); }), errBadFileMode);
     EXPECT_EQ(errorOf([&] { opened(files, static_cast<FileMode>(6)); }), errBadFileMode);
+}
+
+ErrorSubject subjectOf(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const RunTimeError& error) {
+        return error.subject();
+    }
+    ADD_FAILURE() << "no error";
+    return {};
+}
+
+TEST(File, NamesItselfInItsErrors) {
+    for (const char* failing : {"checkWritable", "create", "write", "flush", "close", "replace"}) {
+        MemoryFiles files;
+        files.fault = [failing](const std::string& call, const std::string&) {
+            return call == failing ? errDiskFull : 0;
+        };
+        const ErrorSubject subject = subjectOf([&] { writeTwoLines(files, FileMode::output); });
+        EXPECT_EQ(subject.file, path) << failing;
+        EXPECT_EQ(subject.action, FileAction::writing) << failing;
+    }
+    MemoryFiles files;
+    EXPECT_EQ(subjectOf([&] { opened(files, FileMode::input); }).file, path);
+    files.content[path] = "";
+    File empty = opened(files, FileMode::input);
+    for (const auto& read :
+         {std::function<void()>([&] { empty.readField(); }), {[&] { empty.readLine(); }}}) {
+        EXPECT_EQ(subjectOf(read).file, path);
+        EXPECT_EQ(subjectOf(read).action, FileAction::reading);
+    }
+}
+
+TEST(File, ThatDidNotOpenTellsWhy) {
+    File missing(path, FileMode::input, errFileNotFound);
+    EXPECT_EQ(missing.number(), 0);
+    const ErrorSubject subject = subjectOf([&] { missing.readField(); });
+    EXPECT_EQ(subject.file, path);
+    EXPECT_EQ(subject.cause, errFileNotFound);
+    EXPECT_EQ(subject.action, FileAction::reading);
+    File readOnly(path, FileMode::output, errPathFileAccess);
+    EXPECT_EQ(errorOf([&] { readOnly.printLine(""); }), errBadFileNameOrNumber);
+    EXPECT_EQ(subjectOf([&] { readOnly.printLine(""); }).action, FileAction::writing);
+    File moved = std::move(missing);
+    EXPECT_EQ(subjectOf([&] { moved.readField(); }).cause, errFileNotFound);
 }
 
 TEST(File, ReadsToItsEnd) {

@@ -2,11 +2,24 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
+#include <string>
 
 namespace varno {
 
 namespace {
+
+std::string lastLine(const std::string& text) {
+    return text.substr(text.rfind('\n') + 1);
+}
+
+std::size_t lineCount(const std::string& text) {
+    return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1;
+}
+
+constexpr std::array fileErrors{6, 7, 9, 52, 53, 54, 55, 57, 58, 61, 62, 67, 68, 70, 71, 75, 76};
 
 TEST(RunTimeError, CarriesItsNumberAndText) {
     const struct {
@@ -14,6 +27,7 @@ TEST(RunTimeError, CarriesItsNumberAndText) {
         const char* text;
     } rows[] = {
         {6, "Overflow"},
+        {7, "Out of memory"},
         {9, "Subscript out of range"},
         {11, "Division by zero"},
         {52, "Bad file name or number"},
@@ -36,8 +50,82 @@ TEST(RunTimeError, CarriesItsNumberAndText) {
         const RunTimeError error(row.number);
         EXPECT_EQ(error.number(), row.number);
         EXPECT_EQ(error.text(), row.text);
-        EXPECT_EQ(error.message(), "Run-time error '" + std::to_string(row.number) + "': " + row.text);
+        EXPECT_EQ(lastLine(error.message()),
+                  "Run-time error '" + std::to_string(row.number) + "': " + row.text);
     }
+}
+
+TEST(RunTimeError, SaysInSwedishWhatHappenedToWhichFileAndWhatToDo) {
+    EXPECT_EQ(RunTimeError(53, {.file = R"(C:\arb\HUS.IND)", .action = FileAction::reading}).message(),
+              "Filen C:\\arb\\HUS.IND finns inte.\n"
+              "Filen har inte lästs in; det som fanns i programmet är kvar.\n"
+              "Kontrollera namnet och mappen, eller välj filen i listan.\n"
+              "\n"
+              "Run-time error '53': File not found");
+    EXPECT_EQ(
+        RunTimeError(75, {.file = R"(C:\arb\HUS.IND)", .action = FileAction::writing}).message(),
+        "Åtkomst nekad till C:\\arb\\HUS.IND: det är en mapp, en skrivskyddad fil eller en fil som Du saknar "
+        "rättigheter till.\n"
+        "Filen har inte sparats. Fanns den förut är den oförändrad, och det som skulle sparas finns kvar i "
+        "programmet.\n"
+        "Ta bort skrivskyddet, eller välj ett annat namn eller en annan mapp.\n"
+        "\n"
+        "Run-time error '75': Path/File access error");
+}
+
+TEST(RunTimeError, TellsWhyAFileDidNotOpenUnderTheNumberOfItsUse) {
+    const RunTimeError error(52, {.file = "HUS.IND", .action = FileAction::reading, .cause = 53});
+    EXPECT_TRUE(error.message().starts_with("Filen HUS.IND finns inte.\n")) << error.message();
+    EXPECT_EQ(lastLine(error.message()), "Run-time error '52': Bad file name or number");
+}
+
+TEST(RunTimeError, NamesTheFileInEveryFileError) {
+    for (const int number : fileErrors) {
+        for (const FileAction action : {FileAction::reading, FileAction::writing, FileAction::deleting}) {
+            const std::string message = RunTimeError(number, {.file = "HUS.IND", .action = action}).message();
+            EXPECT_NE(message.find("HUS.IND"), std::string::npos) << number;
+            EXPECT_EQ(message.find('%'), std::string::npos) << number;
+            EXPECT_EQ(lineCount(message), 5u) << message;
+        }
+    }
+    // A number without words of its own, and a path with the table's own sign.
+    EXPECT_TRUE(RunTimeError(999, {.file = "100%.IND"}).message().starts_with("Disken eller")) << "999";
+    EXPECT_NE(RunTimeError(53, {.file = "100%.IND"}).message().find("Filen 100%.IND finns"),
+              std::string::npos);
+}
+
+TEST(RunTimeError, NamesTheFieldOrSpeaksWithout) {
+    EXPECT_EQ(RunTimeError(6, {.field = "Överhöjning (mm)"}).message(),
+              "Talet i fältet \"Överhöjning (mm)\" är för stort.\n"
+              "Fältet behåller sitt förra värde.\n"
+              "Ange ett mindre tal; heltal får vara mellan -32768 och 32767.\n"
+              "\n"
+              "Run-time error '6': Overflow");
+    for (const int number : {6, 7, 9, 11, 52, 53, 57, 61, 68, 70, 71, 75, 76, 482, 999}) {
+        EXPECT_EQ(lineCount(RunTimeError(number).message()), 5u) << number;
+        EXPECT_EQ(lineCount(RunTimeError(number, {.field = "Fält"}).message()), 5u) << number;
+    }
+    EXPECT_EQ(RunTimeError(11, {.said = "Plattan har ingen längd."}).message(),
+              "Plattan har ingen längd.\n\nRun-time error '11': Division by zero");
+}
+
+TEST(RunTimeError, KeepsWhatItKnewWhenItIsToldMore) {
+    const auto raise = [](const ErrorSubject& subject) { throw RunTimeError(75, subject); };
+    const auto subjectOf = [&](const ErrorSubject& subject) {
+        try {
+            aboutField("Fält", [&] { aboutFile("yttre", FileAction::writing, [&] { raise(subject); }); });
+        } catch (const RunTimeError& error) {
+            EXPECT_EQ(error.number(), 75);
+            return error.subject();
+        }
+        return ErrorSubject{};
+    };
+    EXPECT_EQ(subjectOf({}).file, "yttre");
+    EXPECT_EQ(subjectOf({}).action, FileAction::writing);
+    EXPECT_EQ(subjectOf({}).field, "Fält");
+    EXPECT_EQ(subjectOf({.file = "inre", .action = FileAction::deleting}).file, "inre");
+    EXPECT_EQ(subjectOf({.file = "inre", .action = FileAction::deleting}).action, FileAction::deleting);
+    EXPECT_EQ(aboutFile("f", FileAction::reading, [] { return 7; }), 7);
 }
 
 TEST(RunTimeError, IsFoundForAWindowsErrorCode) {
@@ -49,6 +137,8 @@ TEST(RunTimeError, IsFoundForAWindowsErrorCode) {
         {3, 76},   // no such folder
         {4, 67},   // too many open files
         {5, 75},   // access denied
+        {8, 7},    // out of memory
+        {14, 7},   // out of memory
         {15, 68},  // no such drive
         {19, 70},  // write-protected
         {21, 71},  // drive not ready
