@@ -142,11 +142,13 @@ int runTool(const std::vector<std::string>& arguments, FileCalls& calls, std::os
 
 int tellRunTimeError(const RunTimeError& error, std::ostream& err) {
     const ErrorSubject& subject = error.subject();
-    err << "run-time error " << error.number() << ": " << error.text();
-    if (!subject.file.empty()) err << ": " << subject.file;
-    if (subject.cause != 0 && subject.cause != error.number())
-        err << " (" << runTimeErrorText(subject.cause) << ')';
-    err << '\n';
+    err << "run-time error " << error.number() << ": " << error.text() << '\n';
+    if (!subject.file.empty()) {
+        err << "file: " << subject.file;
+        if (subject.line != 0) err << ", line " << subject.line;
+        if (subject.cause != 0) err << " (" << runTimeErrorText(subject.cause) << ')';
+        err << '\n';
+    }
     return runTimeError;
 }
 

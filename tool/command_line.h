@@ -14,7 +14,7 @@ namespace varno::tool {
 int runTool(const std::vector<std::string>& arguments, FileCalls& calls, std::ostream& out,
             std::ostream& err);
 
-/// Prints "run-time error N: text" and gives the exit code that goes with it.
+/// Prints "run-time error N: text", on the next line the file that it is about, and gives the exit code that goes with it.
 int tellRunTimeError(const RunTimeError& error, std::ostream& err);
 
 } // namespace varno::tool

@@ -8,7 +8,7 @@ namespace varno {
 
 namespace {
 
-// "%" stands for the file's path.
+// "%" stands for the file's path, "@" for the line in it.
 struct FileWords {
     int number;
     std::string_view happened;
@@ -16,12 +16,12 @@ struct FileWords {
 };
 
 constexpr std::array fileWords{
-    FileWords{errOverflow, "I filen % står ett tal som är för stort.",
+    FileWords{errOverflow, "I filen % står@ ett tal som är för stort.",
               "Rätta filen i ett textprogram, eller öppna en annan fil."},
     FileWords{errOutOfMemory, "Filen % är för stor för minnet.",
               "Välj en annan fil, eller stäng andra program och försök igen."},
     FileWords{errSubscriptOutOfRange,
-              "I filen % står ett nummer eller ett antal som inte finns, till exempel fler än 15 fack.",
+              "I filen % står@ ett nummer eller ett antal som inte finns, till exempel fler än 15 fack.",
               "Rätta filen i ett textprogram, eller öppna en annan fil."},
     FileWords{errBadFileNameOrNumber, "Filen % kan inte användas: så får ingen fil heta.",
               "Välj ett namn som inte är för långt, inte innehåller \\ / : * ? \" < > | och inte betyder en "
@@ -37,7 +37,8 @@ constexpr std::array fileWords{
               "Välj ett annat namn."},
     FileWords{errDiskFull, "Disken är full: det finns inte plats för filen %.",
               "Frigör plats och försök igen, eller välj en annan disk med \"Spara som...\"."},
-    FileWords{errInputPastEnd, "Filen % tar slut för tidigt: den är tom, avklippt eller av ett annat slag.",
+    FileWords{errInputPastEnd,
+              "Filen % tar slut@ innan allt är läst: den är tom, avklippt eller av ett annat slag.",
               "Öppna en annan fil, till exempel en säkerhetskopia."},
     FileWords{errTooManyFiles, "För många filer är öppna; det finns inte plats för %.",
               "Stäng andra program och försök igen."},
@@ -103,7 +104,7 @@ std::string_view notDoneTo(FileAction action) {
                "kvar i "
                "programmet.";
     case FileAction::deleting:
-        return "Filen har inte tagits bort.";
+        return "Filen har inte tagits bort; det som är markerat i listan finns kvar.";
     default:
         return broken;
     }
@@ -116,8 +117,11 @@ const Words* find(const auto& table, int number) {
     return found == table.end() ? nullptr : &*found;
 }
 
-std::string filled(std::string_view sentence, const std::string& name) {
+// The line goes in first: a path may hold any of the signs.
+std::string filled(std::string_view sentence, const std::string& name, int line = 0) {
     std::string out(sentence);
+    if (const auto place = out.find('@'); place != std::string::npos)
+        out.replace(place, 1, line == 0 ? "" : " på rad " + std::to_string(line));
     if (const auto place = out.find('%'); place != std::string::npos) out.replace(place, 1, name);
     return out;
 }
@@ -141,7 +145,8 @@ std::string errorWords(int number, const ErrorSubject& subject) {
     if (!subject.file.empty()) {
         const FileWords* row = find<FileWords>(fileWords, subject.cause != 0 ? subject.cause : number);
         if (row == nullptr) row = find<FileWords>(fileWords, errDeviceIo);
-        return joined(filled(row->happened, subject.file), notDoneTo(subject.action), row->advice);
+        return joined(filled(row->happened, subject.file, subject.line), notDoneTo(subject.action),
+                      row->advice);
     }
     if (!subject.field.empty()) {
         if (const FileWords* row = find<FileWords>(fieldWords, number))

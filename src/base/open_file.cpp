@@ -61,8 +61,7 @@ File FileOpener::openFile(const std::string& path, FileMode mode, int recordLeng
             lastNumber_ = number;
             return file;
         } catch (const RunTimeError& error) {
-            if (reportFileError(error.number()) != tryAgain)
-                return File(path, static_cast<FileMode>(mode), error.number());
+            if (reportFileError(error.number()) != tryAgain) return File(path, mode, error.number());
         }
     }
 }

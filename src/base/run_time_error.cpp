@@ -91,6 +91,12 @@ RunTimeError RunTimeError::about(const std::string& field) const {
     return RunTimeError(number_, std::move(subject));
 }
 
+RunTimeError RunTimeError::atLine(int line) const {
+    ErrorSubject subject = subject_;
+    if (subject.line == 0) subject.line = line;
+    return RunTimeError(number_, std::move(subject));
+}
+
 std::string RunTimeError::message() const {
     return errorWords(number_, subject_) + "\n\nRun-time error '" + std::to_string(number_) + "': " + text();
 }

@@ -37,6 +37,7 @@ struct ErrorSubject {
     FileAction action = FileAction::none; ///< to the file
     /// The error that kept the file from opening: using it raises 52, which says nothing about the reason.
     int cause = 0;
+    int line = 0;           ///< of the file
     std::string field = {}; ///< caption of the input field
     std::string said = {};  ///< what happened and what to do, where the number's own words would not say it
 };
@@ -54,6 +55,7 @@ class RunTimeError : public std::runtime_error {
     /// The same error about a file, or about a field; what it knew already stays.
     RunTimeError about(const std::string& file, FileAction action) const;
     RunTimeError about(const std::string& field) const;
+    RunTimeError atLine(int line) const;
     /// What is shown to the user, in Swedish: what happened and to what, what was not done, what to do. The last
     /// line is "Run-time error 'N': text".
     std::string message() const;

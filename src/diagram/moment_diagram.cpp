@@ -14,8 +14,12 @@ constexpr double slabEnd = slabStripStart + sketchLength;
 constexpr float shortestCantilever = 0.1f; // m; one this short is not drawn
 constexpr double intervals = 20; // of a span: the spacing of the neighbouring cantilever's ordinates
 
+constexpr const char* noMoments = "Alla moment i momk.dat är 0.\n"
+                                  "Det finns ingen kurva att rita.\n"
+                                  "Kontrollera lasterna och kör beräkningen igen.";
+
 double scaleFor(float momentMax) {
-    if (momentMax == 0) throw RunTimeError(errDivisionByZero);
+    if (momentMax == 0) throw RunTimeError(errDivisionByZero, {.said = noMoments});
     return highestCurve / momentMax;
 }
 

@@ -8,34 +8,6 @@
 
 namespace varno {
 
-namespace {
-
-// Why a file stays, and what helps.
-struct Hindrance {
-    int number;
-    const char* reason;
-    const char* help;
-};
-constexpr std::array hindrances{
-    Hindrance{errFileNotFound, "den finns inte längre", "Listan visar nu de filer som finns."},
-    Hindrance{errPathNotFound, "mappen finns inte längre", "Välj en annan mapp."},
-    Hindrance{errPermissionDenied, "den används av ett annat program, eller disken är skrivskyddad",
-              "Stäng filen där och försök igen."},
-    Hindrance{errPathFileAccess, "den är skrivskyddad, eller Du har inte rätt att ta bort den",
-              "Ta bort skrivskyddet i Windows och försök igen."},
-};
-constexpr Hindrance otherHindrance{0, "Windows kunde inte utföra det", "Försök igen."};
-
-std::string keptMessage(const std::string& path, const RunTimeError& error) {
-    const auto found = std::find_if(hindrances.begin(), hindrances.end(),
-                                    [&](const Hindrance& row) { return row.number == error.number(); });
-    const Hindrance& hindrance = found == hindrances.end() ? otherHindrance : *found;
-    return "Filen " + path + " kunde inte tas bort: " + hindrance.reason + ". " + hindrance.help +
-           "\n\nDe filer som är markerade i listan är inte borttagna.\n\n" + error.message();
-}
-
-} // namespace
-
 void FileDeletion::open(const std::string& pattern, const std::string& dialogDirectory) {
     lists().setPattern(pattern);
     view_.setConfirming(true);
@@ -71,7 +43,7 @@ void FileDeletion::deletePressed() {
     view_.setConfirming(true);
     for (int position = 0; position < view_.entryCount(); ++position)
         view_.select(position, std::find(kept.begin(), kept.end(), view_.entry(position)) != kept.end());
-    if (error) boxes_.show(keptMessage(lists().pathOf(kept.front()), *error), msgError, "Varno");
+    if (error) boxes_.show(error->message(), msgError, "Varno");
 }
 
 // A file that is dealt with is not selected any longer, so what is still selected after an error was not deleted.

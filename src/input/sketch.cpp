@@ -15,6 +15,14 @@ constexpr double arrowLength = 700;  // of the largest line load
 constexpr double arrowHead = 150;    // each half of it, across and along
 constexpr int highestSpan = 15;
 
+constexpr const char* noLength = "Plattan har ingen längd: spännvidder och konsoler är tillsammans 0 m.\n"
+                                 "Skissen kan inte ritas.\n"
+                                 "Ange en spännvidd som är större än 0.";
+constexpr const char* noSpanLength =
+    "Ett fack har ingen längd eller är mycket kort i förhållande till plattan.\n"
+    "Lasterna över det kan inte ritas.\n"
+    "Kontrollera spännvidderna.";
+
 double divided(double dividend, double divisor) {
     if (divisor == 0) throw RunTimeError(dividend == 0 ? errOverflow : errDivisionByZero);
     const double quotient = dividend / divisor;
@@ -75,6 +83,7 @@ void SlabSketch::computeGeometry() {
         totalLength_ = toSingle(static_cast<double>(case_.spv(span)) + totalLength_);
     }
     totalLength_ = toSingle(static_cast<double>(case_.konsv) + totalLength_ + case_.konsh);
+    if (totalLength_ == 0) throw RunTimeError(errDivisionByZero, {.said = noLength});
     sketchScale_ = toSingle(divided(sketchLength, totalLength_));
     const double scale = sketchScale_;
     supportX_(0) = toSingle(scale * case_.konsv);
@@ -169,6 +178,8 @@ void SlabSketch::drawSpanLoads() {
 // and dividing it is a division by zero; one of negative width has a negative number of parts and no line.
 void SlabSketch::hatch(const Block& block, double height) {
     const double parts = std::floor(block.width / hatchSpacing + 0.9);
+    if (parts == 0)
+        throw RunTimeError(block.width == 0 ? errOverflow : errDivisionByZero, {.said = noSpanLength});
     const double step = divided(block.width, parts);
     if (block.width < 0) return;
 

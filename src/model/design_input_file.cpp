@@ -141,8 +141,17 @@ namespace VARNO1 {
 varno::CaseFile readDesignCase(varno::File& file, const varno::DesignCase& presets) {
     varno::CaseFile read{presets, {}, {}};
     varno::LineReader reader(read);
-    for (const varno::CaseLine& line : varno::caseLines)
-        reader.read(line, file.readField());
+    varno::aboutFile(file.path(), varno::FileAction::reading, [&] {
+        int number = 0;
+        for (const varno::CaseLine& line : varno::caseLines) {
+            ++number;
+            try {
+                reader.read(line, file.readField());
+            } catch (const varno::RunTimeError& error) {
+                throw error.atLine(number);
+            }
+        }
+    });
     return read;
 }
 

@@ -72,7 +72,8 @@ void Application::offerRescued() {
 // What the windows ask of the program
 
 void Application::report(const RunTimeError& error) {
-    main_.postRunTimeError(error.number());
+    reported_.push_back(error);
+    main_.postRunTimeError();
 }
 
 bool Application::translate(MSG& message) {
@@ -220,8 +221,11 @@ void Application::helpRequested(const HELPINFO& request) {
     if (!topic.empty()) help_.show(topic, settings_.workFolder);
 }
 
-void Application::showRunTimeError(int number) {
-    boxes_.show(RunTimeError(number).message(), MB_OK | MB_ICONERROR, errorTitle);
+void Application::showRunTimeError() {
+    if (reported_.empty()) return;
+    const RunTimeError error = reported_.front();
+    reported_.pop_front();
+    boxes_.show(error.message(), MB_OK | MB_ICONERROR, errorTitle);
 }
 
 // Document

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <deque>
 #include <memory>
 
 #include "diagram/moment_diagram.h"
@@ -54,7 +55,7 @@ class Application : private win32::WindowHost,
     bool closing() override;
     void dpiChanged(int dpi) override;
     void clientResized(int width, int height) override;
-    void showRunTimeError(int number) override;
+    void showRunTimeError() override;
     void helpRequested(const HELPINFO& request) override;
 
     // DocumentView
@@ -96,6 +97,7 @@ class Application : private win32::WindowHost,
     Settings settings_;
     SketchPicture picture_;
     bool ended_ = false;
+    std::deque<RunTimeError> reported_; ///< not shown yet
 
     win32::WindowsMessageBoxes boxes_;
     win32::WindowsFolders folders_;

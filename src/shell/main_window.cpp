@@ -209,8 +209,8 @@ void MainWindow::sketchChanged() {
     placeSupportButtons();
 }
 
-void MainWindow::postRunTimeError(int number) {
-    PostMessageW(handle(), showErrorMessage, static_cast<WPARAM>(number), 0);
+void MainWindow::postRunTimeError() {
+    PostMessageW(handle(), showErrorMessage, 0, 0);
 }
 
 void MainWindow::setCaption(const std::string& caption) {
@@ -344,7 +344,7 @@ LRESULT MainWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         sendHelpKey();
         return 0;
     case showErrorMessage:
-        events_->showRunTimeError(static_cast<int>(wParam));
+        events_->showRunTimeError();
         return 0;
     default:
         break;

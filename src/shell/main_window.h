@@ -31,7 +31,8 @@ class MainEvents {
     virtual void dpiChanged(int dpi) = 0;
     /// The MDI client has this size in pixels.
     virtual void clientResized(int width, int height) = 0;
-    virtual void showRunTimeError(int number) = 0;
+    /// The next of the run-time errors that were reported.
+    virtual void showRunTimeError() = 0;
     /// F1 was pressed in an open menu or in a message box.
     virtual void helpRequested(const HELPINFO& request) = 0;
 };
@@ -54,7 +55,7 @@ class MainWindow : public win32::Window, public MainView {
     /// Paints the sketch and places the support buttons as they are now.
     void sketchChanged();
     /// Later, when the current event is over, MainEvents::showRunTimeError is called.
-    void postRunTimeError(int number);
+    void postRunTimeError();
 
     void setCaption(const std::string& caption) override;
     void setBusy(bool busy) override;

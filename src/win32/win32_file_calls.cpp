@@ -131,7 +131,7 @@ void WindowsFileCalls::replace(const std::string& from, const std::string& to) {
     const std::wstring target = systemPath(to);
     if (windows_.attributes(target) != INVALID_FILE_ATTRIBUTES) carryOver(target, draft);
     // A virus scanner or an indexer holds a file for a moment when it has just been written.
-    for (const DWORD wait : {10, 20, 40, 80, 0}) {
+    for (const DWORD wait : {10UL, 20UL, 40UL, 80UL, 0UL}) {
         if (windows_.moveOver(draft, target)) return;
         const DWORD code = GetLastError();
         const bool held =

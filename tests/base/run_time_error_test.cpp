@@ -88,6 +88,10 @@ TEST(RunTimeError, NamesTheFileInEveryFileError) {
             EXPECT_EQ(lineCount(message), 5u) << message;
         }
     }
+    EXPECT_TRUE(RunTimeError(6, {.file = "HUS.IND", .line = 9})
+                    .message()
+                    .starts_with("I filen HUS.IND står på rad 9 ett tal som är för stort.\n"));
+    EXPECT_EQ(RunTimeError(62).atLine(5).atLine(6).subject().line, 5);
     // A number without words of its own, and a path with the table's own sign.
     EXPECT_TRUE(RunTimeError(999, {.file = "100%.IND"}).message().starts_with("Disken eller")) << "999";
     EXPECT_NE(RunTimeError(53, {.file = "100%.IND"}).message().find("Filen 100%.IND finns"),

@@ -233,8 +233,9 @@ class FailedDeletions : public Deletions {
                      const std::string& lastLine) const {
         const Message said = program.answer();
         EXPECT_EQ(said.title, "Varno");
-        EXPECT_TRUE(said.text.starts_with("Filen " + scene.path(name) + " kunde inte tas bort: " + reason))
-            << said.text;
+        EXPECT_NE(said.text.find(scene.path(name)), std::string::npos) << said.text;
+        EXPECT_NE(said.text.find(reason), std::string::npos) << said.text;
+        EXPECT_NE(said.text.find("Filen har inte tagits bort"), std::string::npos) << said.text;
         EXPECT_TRUE(said.text.ends_with("\n" + lastLine)) << said.text;
         EXPECT_TRUE(window.visible());
         expectSoon(program, true, [&] { return window.enabled(); });
@@ -248,7 +249,7 @@ TEST_F(FailedDeletions, ReadOnlyFileStopsTheLoopAndTheWindowStaysUsable) {
     select(window, {0, 1});
     untick(window);
     window.item(idDelete).click();
-    expectError(window, "A.res", "den är skrivskyddad", "Run-time error '75': Path/File access error");
+    expectError(window, "A.res", "en skrivskyddad fil", "Run-time error '75': Path/File access error");
     expectLeft(window, results);
     EXPECT_EQ(selection(window), (std::set<int>{0, 1})) << "what was not deleted";
 
@@ -270,7 +271,7 @@ TEST_F(FailedDeletions, FileInUseIsReported) {
     select(window, {1});
     window.item(idDelete).click();
     answer("B.RES", 1, idYesButton);
-    expectError(window, "B.RES", "den används av ett annat program",
+    expectError(window, "B.RES", "är öppen i ett annat program",
                 "Run-time error '70': Permission denied");
     expectLeft(window, results);
     EXPECT_EQ(selection(window), std::set<int>{1});
@@ -283,7 +284,7 @@ TEST_F(FailedDeletions, FileGoneMeanwhileIsReported) {
     program.window(confirmationClass);
     scene.remove("C.res");
     answer("C.RES", 2, idYesButton);
-    expectError(window, "C.res", "den finns inte längre", "Run-time error '53': File not found");
+    expectError(window, "C.res", "finns inte", "Run-time error '53': File not found");
     expectLeft(window, {"A.res", "B.RES"});
 }
 
@@ -321,7 +322,7 @@ TEST_F(DeletionFolders, FolderThatIsGoneIsReported) {
     scene.remove("Bygge å\\GAMMAL.RES");
     ASSERT_TRUE(RemoveDirectoryW(win32::wide(scene.path("Bygge å")).c_str()));
     program.command(idDeleteResults);
-    EXPECT_EQ(program.answer().text, "Run-time error '76': Path not found");
+    EXPECT_EQ(program.answerError().text, "Run-time error '76': Path not found");
     EXPECT_TRUE(program.main().enabled());
     EXPECT_EQ(program.caption(), "NAMNLÖS.IND");
 }

@@ -45,7 +45,7 @@ class Diagrams : public ::testing::Test {
         return program.window(diagramClass);
     }
     void expectError(const std::string& text) const {
-        EXPECT_EQ(program.answer(), (Message{"Varno", text}));
+        EXPECT_EQ(program.answerError(), (Message{"Varno", text}));
         EXPECT_TRUE(program.main().enabled());
     }
 

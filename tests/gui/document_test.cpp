@@ -173,14 +173,14 @@ TEST_F(Documents, DamagedFileIsReportedAndTheCaseStays) {
     program.command(idOpen);
     program.chooseFile("skadad.ind");
     expectFileFaults();
-    EXPECT_EQ(program.answer().text, "Run-time error '62': Input past end of file");
+    EXPECT_EQ(program.answerError().text, "Run-time error '62': Input past end of file");
     expectCaption(program, "KONTOR.IND");
     EXPECT_EQ(title(), before);
     EXPECT_TRUE(program.field(Field::spv, 5).visible());
 
     program.command(idOpen);
     program.chooseFile("finnsinte.ind");
-    EXPECT_EQ(program.answer().text, "Run-time error '52': Bad file name or number");
+    EXPECT_EQ(program.answerError().text, "Run-time error '52': Bad file name or number");
     expectCaption(program, "KONTOR.IND");
 
     program.open("bostad.ind");
@@ -193,7 +193,7 @@ TEST_F(Documents, CaseThatCannotBeDrawnOpensWithItsMessage) {
     change("Undantag");
     program.typeInto({Field::spv, 3}, "0,01");
     program.field(Field::rubrik).clickInto();
-    EXPECT_EQ(program.answer().text, divisionByZero);
+    EXPECT_EQ(program.answerError().text, divisionByZero);
     program.saveAs("und");
     expectCaption(program, "UND.IND");
     program.command(idNew);
@@ -202,7 +202,7 @@ TEST_F(Documents, CaseThatCannotBeDrawnOpensWithItsMessage) {
 
     program.command(idOpen);
     program.chooseFile("und.ind");
-    EXPECT_EQ(program.answer().text, divisionByZero);
+    EXPECT_EQ(program.answerError().text, divisionByZero);
     expectCaption(program, "UND.IND");
     EXPECT_EQ(title(), "Undantag");
     EXPECT_EQ(program.field(Field::spv, 3).text().substr(2), "01");
@@ -214,7 +214,7 @@ TEST_F(Documents, CaseThatCannotBeDrawnOpensWithItsMessage) {
     program.command(idOpen);
     program.chooseFile("skadad.ind");
     expectFileFaults();
-    EXPECT_EQ(program.answer().text, "Run-time error '62': Input past end of file");
+    EXPECT_EQ(program.answerError().text, "Run-time error '62': Input past end of file");
     expectCaption(program, "UND.IND");
     EXPECT_EQ(title(), "Undantag");
     const Bytes before = scene.read("UND.IND");
@@ -238,7 +238,7 @@ TEST_F(Documents, FileOutOfTheArraysIsReportedAndTheCaseStays) {
         program.command(idOpen);
         program.chooseFile(name);
         expectFileFaults();
-        EXPECT_EQ(program.answer().text, error) << name;
+        EXPECT_EQ(program.answerError().text, error) << name;
         expectCaption(program, "BOSTAD.IND");
         EXPECT_EQ(title(), "Bostäder i Ängsgården hus Å väster om ån");
     }

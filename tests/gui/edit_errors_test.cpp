@@ -15,7 +15,7 @@ class EditErrors : public Editing {
     static void expectOnce(const Message& message,
                            std::source_location place = std::source_location::current()) {
         const ::testing::ScopedTrace trace(place.file_name(), static_cast<int>(place.line()), "message");
-        EXPECT_EQ(program().answer(), message);
+        EXPECT_EQ(program().answerError(), message);
         expectSoon(program(), true, [] { return main().enabled(); });
         expectNone();
         EXPECT_TRUE(program().running());

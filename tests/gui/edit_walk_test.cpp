@@ -84,7 +84,7 @@ void EditWalk::answerErrors() {
     settle();
     while (program().shows(messageBoxClass)) {
         ++errors_;
-        const Message said = program().answer();
+        const Message said = program().answerError();
         EXPECT_EQ(said.title, "Varno");
         EXPECT_TRUE(said.text == "Run-time error '6': Overflow" ||
                     said.text == "Run-time error '9': Subscript out of range" ||

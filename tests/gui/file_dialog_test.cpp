@@ -89,12 +89,12 @@ TEST_F(FileDialogs, DriveThatIsNotThereIsReported) {
     const Control dialog = opened(idOpen);
     dialog.item(idFileName).setText("1:");
     dialog.item(idOkButton).click();
-    EXPECT_EQ(program.answer().text, "Run-time error '68': Device unavailable");
+    EXPECT_EQ(program.answerError().text, "Run-time error '68': Device unavailable");
     EXPECT_TRUE(dialog.visible());
     EXPECT_EQ(path(dialog), scene.folder());
     dialog.item(idFileName).setText("finnsinte\\");
     dialog.item(idOkButton).click();
-    EXPECT_EQ(program.answer().text, "Run-time error '76': Path not found");
+    EXPECT_EQ(program.answerError().text, "Run-time error '76': Path not found");
     EXPECT_EQ(path(dialog), scene.folder());
     cancel(dialog);
     EXPECT_EQ(program.caption(), "NAMNLÖS.IND");

@@ -285,7 +285,7 @@ TEST_F(LineLoadEditing, ErrorOfASpanNumberIsToldOnce) {
     const Editor editor = openEditor();
     type(editor.box(llfnr, 2), "-99999");
     keyboard::press(VK_TAB);
-    EXPECT_EQ(program().answer(), (Message{"Varno", "Run-time error '6': Overflow"}));
+    EXPECT_EQ(program().answerError(), (Message{"Varno", "Run-time error '6': Overflow"}));
     settle();
     EXPECT_FALSE(program().shows(messageBoxClass));
     EXPECT_EQ(editor.text(llfnr, 2), "2");

@@ -145,7 +145,7 @@ TEST(StartUp, DefaultCaseThatCannotBeDrawnIsToldOfAndOpen) {
     scene.write("varno.def", withLine(scene.read("varno.def"), 6, "5.500  5.500  0.010  "));
     Program program(scene);
     program.window(disclaimerClass).item(idOkButton).click();
-    EXPECT_EQ(program.answer(), (Message{"Varno", "Run-time error '11': Division by zero"}));
+    EXPECT_EQ(program.answerError(), (Message{"Varno", "Run-time error '11': Division by zero"}));
     expectCaption(program, "NAMNLÖS.IND");
     EXPECT_EQ(program.field(Field::rubrik).text(), "Nytt bjälklag");
     EXPECT_TRUE(program.form().visible());
@@ -194,7 +194,7 @@ TEST(StartUp, WithoutIniEndsWithError52) {
     Scene scene;
     scene.remove("varno.ini");
     Program program(scene);
-    const Message said = program.answer();
+    const Message said = program.answerError();
     EXPECT_EQ(said.text, "Run-time error '52': Bad file name or number");
     EXPECT_EQ(program.exitCode(), 1u);
 }
@@ -204,7 +204,7 @@ TEST(StartUp, WithoutDefaultCaseEndsWithError52) {
     scene.remove("varno.def");
     Program program(scene);
     program.window(disclaimerClass).item(idOkButton).click();
-    const Message said = program.answer();
+    const Message said = program.answerError();
     EXPECT_EQ(said.text, "Run-time error '52': Bad file name or number");
     EXPECT_EQ(program.exitCode(), 1u);
 }

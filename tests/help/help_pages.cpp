@@ -104,7 +104,9 @@ bool isExplained(std::string_view message) {
     // table of the help: the number and field of a file's line, a quoted value, the name of a file, a number.
     static const std::regex varying(
         R"re(Rad \d+ \(.*\):?|"[^"]*"|\S*[^\s.]\.[A-Za-z]\S*|Run-time error '|': |[-+]?\d[\d.,:]*|[\r\n]+)re");
-    const std::string text(message);
+    // A run-time error says itself what happened and what to do; its number leads to the help.
+    const auto number = message.rfind("Run-time error '");
+    const std::string text(number == std::string_view::npos ? message : message.substr(number));
     const std::sregex_token_iterator parts(text.begin(), text.end(), varying, -1);
     return std::all_of(parts, std::sregex_token_iterator(), [](const std::string& part) {
         return readText().find(trimBlanks(joined(part))) != std::string::npos;

@@ -41,24 +41,25 @@ TEST_F(CommandLine, RunsItsCommands) {
 
 TEST_F(CommandLine, TellsARunTimeErrorAndEndsWith1) {
     EXPECT_EQ(run({"json", "MISSING.IND"}), 1);
-    EXPECT_EQ(err.str(), "run-time error 52: Bad file name or number\n");
+    EXPECT_EQ(err.str(), "run-time error 52: Bad file name or number\nfile: MISSING.IND (File not found)\n");
     EXPECT_EQ(out.str(), "");
     files.content["A.IND"] = testing::sampleFileWith(3, "7");
     EXPECT_EQ(run({"show", "A.IND"}), 1);
-    EXPECT_EQ(err.str(), "run-time error 9: Subscript out of range\n");
+    EXPECT_EQ(err.str(), "run-time error 9: Subscript out of range\nfile: A.IND, line 4\n");
     files.content["A.IND"] = testing::sampleFileWith(5, "99999");
     EXPECT_EQ(run({"json", "A.IND"}), 1);
-    EXPECT_EQ(err.str(), "run-time error 6: Overflow\n");
+    EXPECT_EQ(err.str(), "run-time error 6: Overflow\nfile: A.IND, line 5\n");
     files.content["A.IND"] = "A\r\n";
     EXPECT_EQ(run({"rewrite", "A.IND", "A.IND"}), 1);
-    EXPECT_EQ(err.str(), "run-time error 62: Input past end of file\n");
+    EXPECT_EQ(err.str(), "run-time error 62: Input past end of file\nfile: A.IND, line 2\n");
     EXPECT_EQ(files.content["A.IND"], "A\r\n");
 }
 
 TEST_F(CommandLine, TellsAFileErrorOnceAndEnds) {
     files.fault = [](const std::string&, const std::string&) { return errPathNotFound; };
     EXPECT_EQ(run({"json", "X:\\A.IND"}), 1);
-    EXPECT_EQ(err.str(), "Disk Error: Path Does Not Exist\nrun-time error 52: Bad file name or number\n");
+    EXPECT_EQ(err.str(), "Disk Error: Path Does Not Exist\nrun-time error 52: Bad file name or number\n"
+                         "file: X:\\A.IND (Path not found)\n");
 }
 
 TEST_F(CommandLine, WrongUsageEndsWith2) {

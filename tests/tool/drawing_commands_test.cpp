@@ -136,15 +136,15 @@ TEST_F(DrawingCommands, DrawIntoAnSvgFile) {
 
 TEST_F(DrawingCommands, AFileThatCannotBeDrawnIsARunTimeErrorAndNoPicture) {
     EXPECT_EQ(run({"sketch", "B.IND", "--svg", "S.svg"}), 1);
-    EXPECT_EQ(err.str(), "run-time error 52: Bad file name or number\n");
+    EXPECT_EQ(err.str(), "run-time error 52: Bad file name or number\nfile: B.IND (File not found)\n");
     EXPECT_EQ(run({"diagram", "A.IND", "saknas.dat", "--svg", "D.svg"}), 1);
-    EXPECT_EQ(err.str(), "run-time error 52: Bad file name or number\n");
+    EXPECT_EQ(err.str(), "run-time error 52: Bad file name or number\nfile: saknas.dat (File not found)\n");
     files.content["noll.dat"] = testing::momentFileOf({testing::CurveSpan(1)}, {testing::CurveSpan(1)});
     EXPECT_EQ(run({"diagram", "A.IND", "noll.dat", "--svg", "D.svg"}), 1);
     EXPECT_EQ(err.str(), "run-time error 11: Division by zero\n");
     files.content["kort.dat"] = "2,0.25,1";
     EXPECT_EQ(run({"diagram", "A.IND", "kort.dat", "--list"}), 1);
-    EXPECT_EQ(err.str(), "run-time error 62: Input past end of file\n");
+    EXPECT_EQ(err.str(), "run-time error 62: Input past end of file\nfile: kort.dat\n");
     EXPECT_EQ(out.str(), "");
     EXPECT_FALSE(files.content.contains("S.svg"));
     EXPECT_FALSE(files.content.contains("D.svg"));
@@ -208,7 +208,7 @@ TEST_F(DrawingCommands, ASeventhPageIsARunTimeError) {
     EXPECT_EQ(err.str(), "run-time error 9: Subscript out of range\n");
     EXPECT_EQ(out.str(), "");
     EXPECT_EQ(run({"pages", "saknas.res"}), 1);
-    EXPECT_EQ(err.str(), "run-time error 52: Bad file name or number\n");
+    EXPECT_EQ(err.str(), "run-time error 52: Bad file name or number\nfile: saknas.res (File not found)\n");
 }
 
 } // namespace

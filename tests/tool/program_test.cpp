@@ -37,7 +37,8 @@ TEST_F(Program, Ends0AndPrintsUtf8) {
 
 TEST_F(Program, Ends1AtARunTimeError) {
     EXPECT_EQ(run("json " + quoted("saknas.IND")), 1);
-    EXPECT_EQ(folder.read("err"), "run-time error 52: Bad file name or number\n");
+    EXPECT_EQ(folder.read("err"), "run-time error 52: Bad file name or number\nfile: " +
+                                      folder.path("saknas.IND") + " (File not found)\n");
     EXPECT_EQ(folder.read("out"), "");
 }
 

@@ -191,6 +191,12 @@ Message Program::message() const {
     return message;
 }
 
+Message Program::answerError() const {
+    Message said = answer();
+    said.text.erase(0, said.text.rfind('\n') + 1);
+    return said;
+}
+
 Message Program::answer(int button) const {
     const Message said = message();
     const Control box = window(messageBoxClass);

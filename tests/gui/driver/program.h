@@ -110,6 +110,8 @@ class Program {
     /// Waits for a message box and closes it with one of its buttons.
     Message answer(int button = IDOK) const;
     Message message() const; ///< the same, left open
+    /// The same of a run-time error: its title and its last line, which holds number and English text.
+    Message answerError() const;
 
     /// The file-name dialog: waits for it, types the name, presses "OK".
     void chooseFile(const std::string& name) const;
