@@ -26,7 +26,8 @@ InputContext Application::inputContext() {
 
 Application::Application()
     : locale_(win32::userNumberLocale()), files_(systemFileCalls(), boxes_), fileInfo_(*this),
-      fileDialog_(folders_, boxes_, fileInfo_), main_(*this, picture_), form_(*this),
+      fileDialog_(folders_, boxes_, fileInfo_), leftovers_(folders_, systemFileCalls()),
+      main_(*this, picture_), form_(*this),
       sketch_(case_, picture_.loadPicture, picture_.slabStrip, picture_, [this] { main_.sketchChanged(); }),
       filler_(case_, form_, main_, locale_), input_(inputContext()),
       document_(case_, state_, filler_, form_, main_, files_, fileDialog_, boxes_, *this),
@@ -52,11 +53,20 @@ int Application::run() {
         boxes_.show(error.message(), MB_OK | MB_ICONERROR, errorTitle);
         return 1;
     }
+    offerLeftovers();
     offerRescued();
     MSG message;
     while (GetMessageW(&message, nullptr, 0, 0) > 0)
         win32::dispatch(*this, message);
     return ended_ ? 0 : static_cast<int>(message.wParam);
+}
+
+void Application::offerLeftovers() {
+    try {
+        LeftoverQuestions(leftovers_, boxes_).ask(fileDialog_.lists().directory());
+    } catch (const RunTimeError& error) {
+        report(error);
+    }
 }
 
 void Application::offerRescued() {
@@ -129,6 +139,7 @@ void Application::runCommand(int id) {
     case idNew:
         return document_.newCase(settings_.workFolder);
     case idOpen:
+        offerLeftovers();
         return document_.open();
     case idSave:
         return document_.save();

@@ -5,6 +5,7 @@
 
 #include "diagram/moment_diagram.h"
 #include "files/file_info_window.h"
+#include "files/leftovers.h"
 #include "help/help_viewer.h"
 #include "input/input_form.h"
 #include "input/input_form_window.h"
@@ -29,10 +30,7 @@ namespace varno {
 
 /// The program: owns the one design case, the document state, the settings and every window, and hands
 /// references down. It wires events to rules and holds no rule of its own.
-class Application : private win32::WindowHost,
-                    private MainEvents,
-                    private DocumentView,
-                    private StartUpView {
+class Application : private win32::WindowHost, private MainEvents, private DocumentView, private StartUpView {
   public:
     Application();
     ~Application() override;
@@ -77,6 +75,8 @@ class Application : private win32::WindowHost,
     bool translateHelpKey(const MSG& message);
     void calculate();
     void showResult();
+    /// Offers the cases that a program left in the file dialog's folder when it was ended while saving them.
+    void offerLeftovers();
     void showImportant();
     void setUpPrinter();
     void deleteFiles(const char* pattern);
@@ -107,6 +107,7 @@ class Application : private win32::WindowHost,
     HelpViewer help_{helpSystem_, boxes_};
     FileInfoWindow fileInfo_;
     FileDialog fileDialog_;
+    Leftovers leftovers_;
 
     MainWindow main_;
     InputFormWindow form_;
