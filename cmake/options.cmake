@@ -18,6 +18,10 @@ if(VARNO_SANITIZE)
     target_compile_definitions(varno_options INTERFACE _GLIBCXX_ASSERTIONS)
 endif()
 
+if(VARNO_FUZZ)
+    target_compile_options(varno_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 if(WIN32)
     # SSE instead of the x87 unit: singles must stay singles, and drawing coordinates must be the same doubles
     # on every machine that the tests ran on.

@@ -23,6 +23,12 @@ bench_packages=(
     libbenchmark-dev
 )
 
+# To run the readers under libFuzzer, which is clang's.
+fuzz_packages=(
+    clang
+    libclang-rt-dev
+)
+
 # To show windows without a screen and to take pictures of them.
 display_packages=(
     xvfb
