@@ -25,8 +25,7 @@ constexpr std::array fileWords{
               "Rätta filen i ett textprogram, eller öppna en annan fil."},
     FileWords{errBadFileNameOrNumber, "Filen % kan inte användas: så får ingen fil heta.",
               "Välj ett namn som inte är för långt, inte innehåller \\ / : * ? \" < > | och inte betyder en "
-              "enhet (som CON "
-              "eller NUL)."},
+              "enhet (som CON eller NUL)."},
     FileWords{errFileNotFound, "Filen % finns inte.",
               "Kontrollera namnet och mappen, eller välj filen i listan."},
     FileWords{errBadFileMode, "Filen % är öppnad för något annat.", "Starta om programmet och försök igen."},
@@ -101,8 +100,7 @@ std::string_view notDoneTo(FileAction action) {
         return "Filen har inte lästs in; det som fanns i programmet är kvar.";
     case FileAction::writing:
         return "Filen har inte sparats. Fanns den förut är den oförändrad, och det som skulle sparas finns "
-               "kvar i "
-               "programmet.";
+               "kvar i programmet.";
     case FileAction::deleting:
         return "Filen har inte tagits bort; det som är markerat i listan finns kvar.";
     default:
