@@ -5,6 +5,8 @@
 # exit code is zero; what it measured it prints on lines that begin with "FIGURE: ", which are shown again at the end.
 long_steps=(
     'killed-saves                scripts/long-kill-saves 200'
+    'fuzzing                     scripts/long-fuzz 60'
+    'lint                        scripts/long-lint'
     'fresh-debian-12             scripts/fresh-machine bookworm --ccache build/fresh-machine/ccache'
     'fresh-debian-12-bwrap       scripts/fresh-machine bookworm --bwrap --ccache build/fresh-machine/ccache'
     'fresh-debian-12-wine        scripts/fresh-machine bookworm --wine complete --ccache build/fresh-machine/ccache'

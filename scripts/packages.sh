@@ -29,6 +29,12 @@ fuzz_packages=(
     libclang-rt-dev
 )
 
+# To look through the source for mistakes.
+lint_packages=(
+    clang-tidy
+    cppcheck
+)
+
 # To show windows without a screen and to take pictures of them.
 display_packages=(
     xvfb

@@ -5,6 +5,7 @@
 #include <functional>
 #include <ostream>
 
+#include "base/error_words.h"
 #include "tool/commands.h"
 #include "tool/drawing_commands.h"
 
@@ -141,14 +142,10 @@ int runTool(const std::vector<std::string>& arguments, FileCalls& calls, std::os
 }
 
 int tellRunTimeError(const RunTimeError& error, std::ostream& err) {
-    const ErrorSubject& subject = error.subject();
+    const ErrorWords words = errorWords(error.number(), error.subject());
+    err << words.happened << '\n';
+    if (!words.advice.empty()) err << words.advice << '\n';
     err << "run-time error " << error.number() << ": " << error.text() << '\n';
-    if (!subject.file.empty()) {
-        err << "file: " << subject.file;
-        if (subject.line != 0) err << ", line " << subject.line;
-        if (subject.cause != 0) err << " (" << runTimeErrorText(subject.cause) << ')';
-        err << '\n';
-    }
     return runTimeError;
 }
 

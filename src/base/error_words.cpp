@@ -26,8 +26,7 @@ constexpr std::array fileWords{
     FileWords{errBadFileNameOrNumber, "Filen % kan inte användas: så får ingen fil heta.",
               "Välj ett namn som inte är för långt, inte innehåller \\ / : * ? \" < > | och inte betyder en "
               "enhet (som CON eller NUL)."},
-    FileWords{errFileNotFound, "Filen % finns inte.",
-              "Kontrollera namnet och mappen, eller välj filen i listan."},
+    FileWords{errFileNotFound, "Filen % finns inte.", "Kontrollera namnet och mappen."},
     FileWords{errBadFileMode, "Filen % är öppnad för något annat.", "Starta om programmet och försök igen."},
     FileWords{errFileAlreadyOpen, "Filen % är redan öppen.", "Stäng den i andra program och försök igen."},
     FileWords{errDeviceIo, "Disken eller nätverket svarade med ett fel för filen %.",
@@ -35,7 +34,7 @@ constexpr std::array fileWords{
     FileWords{errFileAlreadyExists, "Det finns redan en fil eller mapp med namnet %.",
               "Välj ett annat namn."},
     FileWords{errDiskFull, "Disken är full: det finns inte plats för filen %.",
-              "Frigör plats och försök igen, eller välj en annan disk med \"Spara som...\"."},
+              "Frigör plats och försök igen, eller välj en annan disk."},
     FileWords{errInputPastEnd,
               "Filen % tar slut@ innan allt är läst: den är tom, avklippt eller av ett annat slag.",
               "Öppna en annan fil, till exempel en säkerhetskopia."},
@@ -76,13 +75,11 @@ constexpr std::array plainWords{
                "Kontrollera de senast inmatade talen."},
     PlainWords{errBadFileNameOrNumber, "En fil kunde inte användas.", broken,
                "Kontrollera filens namn och mapp och försök igen."},
-    PlainWords{errFileNotFound, "Filen finns inte.", broken,
-               "Kontrollera namnet och mappen, eller välj filen i listan."},
+    PlainWords{errFileNotFound, "Filen finns inte.", broken, "Kontrollera namnet och mappen."},
     PlainWords{errDeviceUnavailable, "Enheten är inte tillgänglig.", broken,
                "Anslut disken eller nätverket och försök igen, eller välj en annan enhet."},
     PlainWords{errDiskNotReady, "Enheten är inte klar.", broken, "Sätt i disken och försök igen."},
-    PlainWords{errPathNotFound, "Mappen finns inte.", broken,
-               "Kontrollera stavningen, eller välj mappen i listan."},
+    PlainWords{errPathNotFound, "Mappen finns inte.", broken, "Kontrollera stavningen."},
     PlainWords{errPrinter, "Skrivaren svarade med ett fel.", "Utskriften avbröts och är inte fullständig.",
                "Kontrollera skrivaren och skriv ut igen."},
 };
@@ -128,33 +125,25 @@ std::string inQuotes(const std::string& caption) {
     return "\"" + caption + "\"";
 }
 
-std::string joined(std::string_view happened, std::string_view notDone, std::string_view advice) {
-    std::string out(happened);
-    for (const std::string_view more : {notDone, advice}) {
-        if (!more.empty()) out.append("\n").append(more);
-    }
-    return out;
-}
-
 } // namespace
 
-std::string errorWords(int number, const ErrorSubject& subject) {
-    if (!subject.said.empty()) return subject.said;
+ErrorWords errorWords(int number, const ErrorSubject& subject) {
+    if (!subject.said.empty()) return {subject.said, {}, {}};
     if (!subject.file.empty()) {
         const FileWords* row = find<FileWords>(fileWords, subject.cause != 0 ? subject.cause : number);
         if (row == nullptr) row = find<FileWords>(fileWords, errDeviceIo);
-        return joined(filled(row->happened, subject.file, subject.line), notDoneTo(subject.action),
-                      row->advice);
+        return {filled(row->happened, subject.file, subject.line), std::string(notDoneTo(subject.action)),
+                std::string(row->advice)};
     }
     if (!subject.field.empty()) {
         if (const FileWords* row = find<FileWords>(fieldWords, number))
-            return joined(filled(row->happened, inQuotes(subject.field)), "Fältet behåller sitt förra värde.",
-                          row->advice);
+            return {filled(row->happened, inQuotes(subject.field)), "Fältet behåller sitt förra värde.",
+                    std::string(row->advice)};
     }
     if (const PlainWords* row = find<PlainWords>(plainWords, number))
-        return joined(row->happened, row->notDone, row->advice);
-    return joined("Något gick fel.", broken,
-                  "Försök igen. Spara fallet under ett annat namn om felet kommer tillbaka.");
+        return {std::string(row->happened), std::string(row->notDone), std::string(row->advice)};
+    return {"Något gick fel.", std::string(broken),
+            "Försök igen. Spara fallet under ett annat namn om felet kommer tillbaka."};
 }
 
 } // namespace varno

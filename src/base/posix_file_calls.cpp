@@ -108,9 +108,7 @@ class PosixFileCalls : public FileCalls {
         if (::rename(from.c_str(), to.c_str()) != 0) fail(to, errno);
     }
     void remove(const std::string& path) override {
-        aboutFile(path, FileAction::deleting, [&] {
-            if (::unlink(path.c_str()) != 0) fail(path, errno);
-        });
+        if (::unlink(path.c_str()) != 0) fail(path, errno);
     }
     bool same(const std::string& a, const std::string& b) override {
         std::error_code ignored;

@@ -98,7 +98,12 @@ RunTimeError RunTimeError::atLine(int line) const {
 }
 
 std::string RunTimeError::message() const {
-    return errorWords(number_, subject_) + "\n\nRun-time error '" + std::to_string(number_) + "': " + text();
+    std::string message;
+    const ErrorWords words = errorWords(number_, subject_);
+    for (const std::string& sentence : {words.happened, words.notDone, words.advice}) {
+        if (!sentence.empty()) message += sentence + '\n';
+    }
+    return message + "\nRun-time error '" + std::to_string(number_) + "': " + text();
 }
 
 std::string runTimeErrorText(int number) {

@@ -52,7 +52,8 @@ void FileDeletion::deleteSelected() {
         if (!view_.isSelected(position)) continue;
         const std::string name = view_.entry(position);
         if (!view_.confirming() || view_.confirmed(upperCase(name), std::to_string(position)))
-            calls_.remove(lists().pathOf(name));
+            aboutFile(lists().pathOf(name), FileAction::deleting,
+                      [&] { calls_.remove(lists().pathOf(name)); });
         view_.select(position, false);
     }
 }

@@ -7,14 +7,25 @@ void InputForm::changed(Control control) {
     const ChoiceField* choice = choiceField(control.field);
     const bool isList = choice != nullptr && choice->kind == ChoiceKind::list;
     if (isList || textField(control.field) != nullptr) context_.markChanged();
-    // The title is saved but not calculated with.
-    if (control.field == Field::rubrik) context_.document.dataChanged = true;
+    if (control.field == Field::rubrik) titleChanged();
+}
+
+void InputForm::titleChanged() {
+    // It is saved but not calculated with.
+    context_.document.dataChanged = true;
+    const Control title{Field::rubrik};
+    if (context_.form.text(title).find(',') == std::string::npos) {
+        context_.form.hideHint();
+    } else {
+        context_.form.showHint(title, commaHint, commaHintText);
+    }
 }
 
 void InputForm::lostFocus(Control control) {
+    if (control.field == Field::rubrik) context_.form.hideHint();
     if (const TextField* row = textField(control.field)) {
         if (row->onLeaving == OnLeaving::marks) context_.document.dataChanged = true;
-        leaveNumber(*row, control.index);
+        aboutField(accessibleName(control), [&] { leaveNumber(*row, control.index); });
     } else if (const ChoiceField* choice = choiceField(control.field)) {
         if (choice->storedOn == StoredOn::leaving) storeRow(*choice);
     }

@@ -41,6 +41,7 @@ class InputForm {
     void formClicked() { context_.form.focus({Field::rubrik}); }
 
   private:
+    void titleChanged();
     void leaveNumber(const TextField& row, int index);
     void leaveFactor(const TextField& row, Factor& stored);
     void leaveWhole(const TextField& row, std::int16_t& stored);

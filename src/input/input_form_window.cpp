@@ -129,6 +129,11 @@ void InputFormWindow::returnTo(Control control) {
     postReturnTo(controlId(control));
 }
 
+void InputFormWindow::showHint(Control control, const std::string& title, const std::string& text) {
+    const HWND box = this->control(control);
+    if (GetFocus() == box) hint_.show(box, title, text);
+}
+
 LRESULT InputFormWindow::defaultProc(UINT message, WPARAM wParam, LPARAM lParam) {
     return DefMDIChildProcW(handle(), message, wParam, lParam);
 }

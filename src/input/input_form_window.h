@@ -1,6 +1,7 @@
 #pragma once
 
 #include "input/input_form.h"
+#include "win32/balloon.h"
 #include "win32/form_window.h"
 
 namespace varno {
@@ -8,7 +9,7 @@ namespace varno {
 /// The main input form: a child window of the main window's MDI client that fills it.
 class InputFormWindow : public win32::FormWindow, public FormView {
   public:
-    using FormWindow::FormWindow;
+    explicit InputFormWindow(win32::WindowHost& host) : FormWindow(host), hint_(host) {}
 
     void create(HWND mdiClient);
     /// From here on what happens in the form goes to its rules.
@@ -39,6 +40,8 @@ class InputFormWindow : public win32::FormWindow, public FormView {
     void focus(Control control) override;
     void selectAll(Control control) override;
     void returnTo(Control control) override;
+    void showHint(Control control, const std::string& title, const std::string& text) override;
+    void hideHint() override { hint_.hide(); }
 
   protected:
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -56,6 +59,7 @@ class InputFormWindow : public win32::FormWindow, public FormView {
 
     InputForm* rules_ = nullptr;
     HWND lastFocused_ = nullptr;
+    win32::Balloon hint_;
 };
 
 } // namespace varno

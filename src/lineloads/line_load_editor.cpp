@@ -68,10 +68,16 @@ void LineLoadEditor::showRows(int last) {
     }
 }
 
+// An error names the box.
+template <typename Store>
+void LineLoadEditor::leave(LineLoadControl box, Store store) {
+    aboutField(accessibleName(box), [&] { boxes_.leave(box, store); });
+}
+
 void LineLoadEditor::spanNumberLeft(int row) {
     const LineLoadControl box{LineLoadBox::llfnr, row};
     std::int16_t& stored = (context_.designCase.*set_.span)(row);
-    boxes_.leave(box, [&](double typed) {
+    leave(box, [&](double typed) {
         const double number = std::min(typed, highestSpan);
         if (number == stored) {
             if (typed > highestSpan) boxes_.put(box, number, wholePattern);
@@ -93,7 +99,7 @@ void LineLoadEditor::loadLeft(int row) {
 }
 
 void LineLoadEditor::leaveReal(LineLoadControl box, float& stored, const char* pattern) {
-    boxes_.leave(box, [&](double typed) {
+    leave(box, [&](double typed) {
         if (toSingle(typed) == stored) return;
         const double number = asShown(typed, pattern);
         stored = toSingle(number);
@@ -104,7 +110,7 @@ void LineLoadEditor::leaveReal(LineLoadControl box, float& stored, const char* p
 
 void LineLoadEditor::multiplierLeft(int multiplier) {
     const LineLoadControl box{LineLoadBox::multiplier, multiplier};
-    boxes_.leave(box, [&](double typed) { boxes_.put(box, typed, realPattern); });
+    leave(box, [&](double typed) { boxes_.put(box, typed, realPattern); });
 }
 
 void LineLoadEditor::spinUp() {
@@ -131,7 +137,8 @@ int LineLoadEditor::countFrom(double wanted) const {
 
 void LineLoadEditor::enterCount(double typed) {
     int wanted = 0;
-    boxes_.attempt(countBox, [&] { wanted = countFrom(typed); });
+    aboutField(accessibleName(countBox),
+               [&] { boxes_.attempt(countBox, [&] { wanted = countFrom(typed); }); });
     // What is being typed is stored now, before its row can go.
     context_.view.focus(countBox);
     context_.document.dataChanged = true;

@@ -64,6 +64,8 @@ class LineLoadEditor {
     void showRecord();
     void fillRow(int row);
     void showRows(int last);
+    template <typename Store>
+    void leave(LineLoadControl box, Store store);
     void leaveReal(LineLoadControl box, float& stored, const char* pattern);
     int countFrom(double wanted) const;
     void enterCount(double typed);

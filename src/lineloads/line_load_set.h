@@ -3,6 +3,7 @@
 #include <array>
 
 #include "input/field_table.h"
+#include "lineloads/line_load_view.h"
 #include "model/design_case.h"
 
 namespace varno {
@@ -66,5 +67,8 @@ inline constexpr std::array multiplierBoxes{
     MultiplierBox{"mflan", "Långtidslast"},
     MultiplierBox{"mfbra", "Brandlast"},
 };
+
+/// What a box is called where its place does not tell: by a screen reader, in a message.
+std::string accessibleName(LineLoadControl control);
 
 } // namespace varno

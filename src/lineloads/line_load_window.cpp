@@ -93,19 +93,17 @@ HMENU editorMenu() {
 }
 
 void nameBoxes(const win32::FormWindow& window, const LineLoadSet& set) {
-    win32::nameForScreenReaders(window.item(idOf({LineLoadBox::nllast})), "Antal linjelaster");
+    const auto name = [&](LineLoadControl box) {
+        win32::nameForScreenReaders(window.item(idOf(box)), accessibleName(box));
+    };
+    name({LineLoadBox::nllast});
     for (int row = 1; row <= maxLineLoads; ++row) {
-        const std::string number = ", linjelast " + std::to_string(row);
-        win32::nameForScreenReaders(window.item(idOf({LineLoadBox::llfnr, row})), "Fack nr" + number);
-        win32::nameForScreenReaders(window.item(idOf({LineLoadBox::avst, row})),
-                                    "Avstånd från vänster stöd (m)" + number);
-        win32::nameForScreenReaders(window.item(idOf({LineLoadBox::lllast, row})), "Last (kN/m)" + number);
+        for (const LineLoadBox box : {LineLoadBox::llfnr, LineLoadBox::avst, LineLoadBox::lllast})
+            name({box, row});
     }
     if (!set.hasMultipliers) return;
-    for (std::size_t i = 0; i < multiplierBoxes.size(); ++i) {
-        win32::nameForScreenReaders(window.item(idOf({LineLoadBox::multiplier, static_cast<int>(i) + 1})),
-                                    std::string("Multiplikator, ") + multiplierBoxes[i].label);
-    }
+    for (int i = 1; i <= static_cast<int>(multiplierBoxes.size()); ++i)
+        name({LineLoadBox::multiplier, i});
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string_view>
 
+#include "base/byte_files.h"
 #include "base/numbers.h"
 #include "base/run_time_error.h"
 
@@ -14,25 +15,10 @@ namespace varno {
 
 namespace {
 
-// A file that is all in memory.
-class BytesAsFile : public FileCalls {
-  public:
-    explicit BytesAsFile(const Bytes& bytes) : bytes_(bytes) {}
-    Bytes readAll(const std::string&) override { return bytes_; }
-    void checkWritable(const std::string&) override { throw RunTimeError(errBadFileMode); }
-    std::unique_ptr<Output> create(const std::string&) override { throw RunTimeError(errBadFileMode); }
-    void replace(const std::string&, const std::string&) override { throw RunTimeError(errBadFileMode); }
-    void remove(const std::string&) override { throw RunTimeError(errBadFileMode); }
-    bool exists(const std::string&) override { return true; }
-    bool same(const std::string& a, const std::string& b) override { return a == b; }
-
-  private:
-    const Bytes& bytes_;
-};
-
 std::optional<CaseFile> readBack(const Bytes& bytes, const DesignCase& presets) {
     try {
-        BytesAsFile memory(bytes);
+        ByteFiles memory;
+        memory.content[""] = bytes;
         File file(memory, "", FileMode::input, 0, 1);
         return VARNO1::readDesignCase(file, presets);
     } catch (const RunTimeError&) {

@@ -149,9 +149,7 @@ void WindowsFileCalls::carryOver(const std::wstring& from, const std::wstring& t
 }
 
 void WindowsFileCalls::remove(const std::string& path) {
-    aboutFile(path, FileAction::deleting, [&] {
-        if (!windows_.remove(systemPath(path))) fail();
-    });
+    if (!windows_.remove(systemPath(path))) fail();
 }
 
 bool WindowsFileCalls::same(const std::string& a, const std::string& b) {

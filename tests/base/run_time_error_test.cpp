@@ -59,7 +59,7 @@ TEST(RunTimeError, SaysInSwedishWhatHappenedToWhichFileAndWhatToDo) {
     EXPECT_EQ(RunTimeError(53, {.file = R"(C:\arb\HUS.IND)", .action = FileAction::reading}).message(),
               "Filen C:\\arb\\HUS.IND finns inte.\n"
               "Filen har inte lästs in; det som fanns i programmet är kvar.\n"
-              "Kontrollera namnet och mappen, eller välj filen i listan.\n"
+              "Kontrollera namnet och mappen.\n"
               "\n"
               "Run-time error '53': File not found");
     EXPECT_EQ(

@@ -206,7 +206,7 @@ TEST_F(FileDeletionTest, AFileThatWentMeanwhileIsToldAndNotShown) {
     files.content.erase("C:\\arbete\\B.RES");
     deletion.deletePressed();
     ASSERT_EQ(boxes.shown.size(), 1u);
-    EXPECT_NE(boxes.shown[0].text.find("den finns inte längre"), std::string::npos) << boxes.shown[0].text;
+    EXPECT_NE(boxes.shown[0].text.find("B.RES finns inte."), std::string::npos) << boxes.shown[0].text;
     EXPECT_EQ(view.entries.size(), 3u);
     EXPECT_EQ(view.selected, (std::vector<bool>{false, false, false}));
 }

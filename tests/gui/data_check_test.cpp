@@ -165,5 +165,39 @@ TEST_F(OwnFiles, OwnFileIsSavedUnaskedHoweverItsNameWasTyped) {
     expectNoMessage();
 }
 
+// The title
+
+class TitleBalloon : public DataChecks {
+  protected:
+    bool shown() const { return program.shows("tooltips_class32"); }
+};
+
+TEST_F(TitleBalloon, ComesWithTheCommaAndDisturbsNobody) {
+    program.typeInto({Field::rubrik}, "Hus");
+    program.main().send(WM_NULL);
+    EXPECT_FALSE(shown());
+    const Control title = program.field(Field::rubrik);
+    title.type(",");
+    expectSoon(program, true, [&] { return shown(); });
+    EXPECT_EQ(program.focused(), title);
+    title.type(" 4 plan");
+    expectSoon(program, std::string("Hus, 4 plan"), [&] { return title.text(); });
+    EXPECT_TRUE(program.main().enabled());
+    EXPECT_FALSE(program.shows(messageBoxClass));
+}
+
+TEST_F(TitleBalloon, GoesWithTheCommaAndWhenTheTitleIsLeft) {
+    const Control title = program.field(Field::rubrik);
+    program.typeInto({Field::rubrik}, "Hus,");
+    expectSoon(program, true, [&] { return shown(); });
+    title.key(VK_BACK);
+    title.type("\b");
+    expectSoon(program, false, [&] { return shown(); });
+    title.type(",");
+    expectSoon(program, true, [&] { return shown(); });
+    program.field(Field::konsv).clickInto();
+    expectSoon(program, false, [&] { return shown(); });
+}
+
 } // namespace
 } // namespace varno::gui

@@ -17,9 +17,9 @@ constexpr const char* question = "Avbruten lagring";
 
 class Killed : public ::testing::Test {
   protected:
-    void start() {
+    void start(bool asked = false) {
         program.emplace(scene);
-        program->passStartUp();
+        program->passStartUp(asked);
     }
     Bytes changed() const { return withLine(scene.read("BOSTAD.IND"), 2, "Nyare"); }
 
@@ -55,7 +55,7 @@ TEST_F(Killed, WhatIsNewerThanItsCaseIsOfferedAtTheNextStart) {
     const Bytes newer = changed();
     scene.write("BOSTAD.IND.~tmp", newer);
     scene.write("KONTOR.IND.~tmp", newer.substr(0, 100));
-    start();
+    start(true);
     const Message said = program->answer(IDYES);
     EXPECT_EQ(said.title, question);
     EXPECT_NE(said.text.find(scene.path("BOSTAD.IND")), std::string::npos) << said.text;

@@ -23,10 +23,7 @@ class Rescues : public ::testing::Test {
         StartOptions options;
         options.localData = local;
         program = std::make_unique<Program>(scene, options);
-        if (asked)
-            program->window(disclaimerClass).item(idOkButton).click();
-        else
-            program->passStartUp();
+        program->passStartUp(asked);
     }
     // As the power goes.
     void kill() { program.reset(); }

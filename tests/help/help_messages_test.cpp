@@ -9,6 +9,7 @@
 #include "help/help_pages.h"
 #include "help/help_viewer.h"
 #include "input/field_table.h"
+#include "input/form_view.h"
 #include "lineloads/line_load_set.h"
 #include "shell/menu_table.h"
 #include "support/memory_files.h"
@@ -49,6 +50,11 @@ TEST(HelpMessages, TheLineLoadEditorsAreExplained) {
         expectExplained(column.heading);
     for (const MultiplierBox& box : multiplierBoxes)
         expectExplained(box.label);
+}
+
+TEST(HelpMessages, TheHintAtTheTitleIsExplained) {
+    expectExplained(commaHint);
+    expectExplained(commaHintText);
 }
 
 TEST(HelpMessages, EveryDiskErrorIsExplained) {

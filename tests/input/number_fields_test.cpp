@@ -70,6 +70,39 @@ TEST_P(WholeField, BeyondSixteenBitsTheEventStops) {
     EXPECT_EQ(rig.designCase.*row.value, -32768);
 }
 
+TEST(InputForm, AnErrorNamesItsField) {
+    InputRig rig;
+    const auto messageOf = [&](Control box, const char* text) {
+        rig.type(box, text);
+        try {
+            rig.input.lostFocus(box);
+        } catch (const RunTimeError& error) {
+            return error.message();
+        }
+        return std::string();
+    };
+    EXPECT_EQ(messageOf({Field::overhojning}, "40000"),
+              "Talet i fältet \"Överhöjning (mm)\" är för stort.\n"
+              "Fältet behåller sitt förra värde.\n"
+              "Ange ett mindre tal; heltal får vara mellan -32768 och 32767.\n\n"
+              "Run-time error '6': Overflow");
+    EXPECT_TRUE(messageOf({Field::spv, 2}, "1e999").starts_with("Talet i fältet \"Spännvidd (m), fack 2\" "));
+}
+
+TEST(InputForm, ACommaInTheTitleIsHintedAtUntilItIsGoneOrTheTitleIsLeft) {
+    InputRig rig;
+    const Control title{Field::rubrik};
+    rig.type(title, "Hus");
+    EXPECT_EQ(rig.form.hint, "");
+    rig.type(title, "Hus,");
+    EXPECT_EQ(rig.form.hint, commaHint);
+    rig.type(title, "Hus 4");
+    EXPECT_EQ(rig.form.hint, "");
+    rig.type(title, "Hus, 4");
+    rig.input.lostFocus(title);
+    EXPECT_EQ(rig.form.hint, "");
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Input, WholeField,
     ::testing::Values(WholeCase{Field::overhojning, &DesignCase::overhojning, true, "12abc", "12", 12},

@@ -6,10 +6,13 @@
 
 #include "support/case_files.h"
 #include "support/memory_files.h"
+#include "tool/told.h"
 
 namespace varno {
 
 namespace {
+
+using testing::expectTold;
 
 class CommandLine : public ::testing::Test {
   protected:
@@ -41,25 +44,31 @@ TEST_F(CommandLine, RunsItsCommands) {
 
 TEST_F(CommandLine, TellsARunTimeErrorAndEndsWith1) {
     EXPECT_EQ(run({"json", "MISSING.IND"}), 1);
-    EXPECT_EQ(err.str(), "run-time error 52: Bad file name or number\nfile: MISSING.IND (File not found)\n");
+    expectTold(err.str(), "Filen MISSING.IND finns inte.", "52: Bad file name or number");
     EXPECT_EQ(out.str(), "");
     files.content["A.IND"] = testing::sampleFileWith(3, "7");
     EXPECT_EQ(run({"show", "A.IND"}), 1);
-    EXPECT_EQ(err.str(), "run-time error 9: Subscript out of range\nfile: A.IND, line 4\n");
+    expectTold(err.str(),
+               "I filen A.IND står på rad 4 ett nummer eller ett antal som inte finns, till exempel fler än "
+               "15 fack.",
+               "9: Subscript out of range");
     files.content["A.IND"] = testing::sampleFileWith(5, "99999");
     EXPECT_EQ(run({"json", "A.IND"}), 1);
-    EXPECT_EQ(err.str(), "run-time error 6: Overflow\nfile: A.IND, line 5\n");
+    expectTold(err.str(), "I filen A.IND står på rad 5 ett tal som är för stort.", "6: Overflow");
     files.content["A.IND"] = "A\r\n";
     EXPECT_EQ(run({"rewrite", "A.IND", "A.IND"}), 1);
-    EXPECT_EQ(err.str(), "run-time error 62: Input past end of file\nfile: A.IND, line 2\n");
+    expectTold(
+        err.str(),
+        "Filen A.IND tar slut på rad 2 innan allt är läst: den är tom, avklippt eller av ett annat slag.",
+        "62: Input past end of file");
     EXPECT_EQ(files.content["A.IND"], "A\r\n");
 }
 
 TEST_F(CommandLine, TellsAFileErrorOnceAndEnds) {
     files.fault = [](const std::string&, const std::string&) { return errPathNotFound; };
     EXPECT_EQ(run({"json", "X:\\A.IND"}), 1);
-    EXPECT_EQ(err.str(), "Disk Error: Path Does Not Exist\nrun-time error 52: Bad file name or number\n"
-                         "file: X:\\A.IND (Path not found)\n");
+    expectTold(err.str(), "Disk Error: Path Does Not Exist\nMappen för filen X:\\A.IND finns inte.",
+               "52: Bad file name or number");
 }
 
 TEST_F(CommandLine, WrongUsageEndsWith2) {

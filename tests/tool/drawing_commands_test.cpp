@@ -1,4 +1,5 @@
 #include "tool/drawing_commands.h"
+#include "tool/told.h"
 
 #include <gtest/gtest.h>
 
@@ -136,15 +137,19 @@ TEST_F(DrawingCommands, DrawIntoAnSvgFile) {
 
 TEST_F(DrawingCommands, AFileThatCannotBeDrawnIsARunTimeErrorAndNoPicture) {
     EXPECT_EQ(run({"sketch", "B.IND", "--svg", "S.svg"}), 1);
-    EXPECT_EQ(err.str(), "run-time error 52: Bad file name or number\nfile: B.IND (File not found)\n");
+    testing::expectTold(err.str(), "Filen B.IND finns inte.", "52: Bad file name or number");
     EXPECT_EQ(run({"diagram", "A.IND", "saknas.dat", "--svg", "D.svg"}), 1);
-    EXPECT_EQ(err.str(), "run-time error 52: Bad file name or number\nfile: saknas.dat (File not found)\n");
+    testing::expectTold(err.str(), "Filen saknas.dat finns inte.", "52: Bad file name or number");
     files.content["noll.dat"] = testing::momentFileOf({testing::CurveSpan(1)}, {testing::CurveSpan(1)});
     EXPECT_EQ(run({"diagram", "A.IND", "noll.dat", "--svg", "D.svg"}), 1);
-    EXPECT_EQ(err.str(), "run-time error 11: Division by zero\n");
+    testing::expectTold(err.str(), "Alla moment i momk.dat är 0.",
+                        "11: Division by zero");
     files.content["kort.dat"] = "2,0.25,1";
     EXPECT_EQ(run({"diagram", "A.IND", "kort.dat", "--list"}), 1);
-    EXPECT_EQ(err.str(), "run-time error 62: Input past end of file\nfile: kort.dat\n");
+    testing::expectTold(
+        err.str(),
+        "Filen kort.dat tar slut innan allt är läst: den är tom, avklippt eller av ett annat slag.",
+        "62: Input past end of file");
     EXPECT_EQ(out.str(), "");
     EXPECT_FALSE(files.content.contains("S.svg"));
     EXPECT_FALSE(files.content.contains("D.svg"));
@@ -155,7 +160,8 @@ TEST_F(DrawingCommands, ASketchThatFailsIsListedAsFarAsItCame) {
     sample.designCase.llfnr(1) = 16;
     files.content["B.IND"] = testing::writtenCase(sample);
     EXPECT_EQ(run({"sketch", "B.IND", "--list"}), 1);
-    EXPECT_EQ(err.str(), "run-time error 9: Subscript out of range\n");
+    testing::expectTold(err.str(), "Ett nummer eller ett antal är större än vad som får plats.",
+                        "9: Subscript out of range");
     EXPECT_EQ(listed()[0], R"({"surface":"strip","op":"clear"})");
     EXPECT_EQ(run({"sketch", "B.IND", "--svg", "S.svg"}), 1);
     EXPECT_FALSE(files.content.contains("S.svg"));
@@ -205,10 +211,11 @@ TEST_F(DrawingCommands, ASeventhPageIsARunTimeError) {
     EXPECT_EQ(json::parse(out.str()).size(), 6u);
     files.content["A.res"] += "7";
     EXPECT_EQ(run({"pages", "A.res"}), 1);
-    EXPECT_EQ(err.str(), "run-time error 9: Subscript out of range\n");
+    testing::expectTold(err.str(), "Ett nummer eller ett antal är större än vad som får plats.",
+                        "9: Subscript out of range");
     EXPECT_EQ(out.str(), "");
     EXPECT_EQ(run({"pages", "saknas.res"}), 1);
-    EXPECT_EQ(err.str(), "run-time error 52: Bad file name or number\nfile: saknas.res (File not found)\n");
+    testing::expectTold(err.str(), "Filen saknas.res finns inte.", "52: Bad file name or number");
 }
 
 } // namespace

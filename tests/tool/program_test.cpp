@@ -5,6 +5,7 @@
 
 #include "support/case_files.h"
 #include "support/temporary_folder.h"
+#include "tool/told.h"
 
 // The real program: what only it can get wrong, its exit codes and its streams.
 namespace varno {
@@ -37,8 +38,8 @@ TEST_F(Program, Ends0AndPrintsUtf8) {
 
 TEST_F(Program, Ends1AtARunTimeError) {
     EXPECT_EQ(run("json " + quoted("saknas.IND")), 1);
-    EXPECT_EQ(folder.read("err"), "run-time error 52: Bad file name or number\nfile: " +
-                                      folder.path("saknas.IND") + " (File not found)\n");
+    testing::expectTold(folder.read("err"), "Filen " + folder.path("saknas.IND") + " finns inte.",
+                        "52: Bad file name or number");
     EXPECT_EQ(folder.read("out"), "");
 }
 
@@ -55,7 +56,7 @@ TEST_F(Program, Ends1WhenItsOutputIsLost) {
     const int status = std::system(command.c_str());
     ASSERT_TRUE(WIFEXITED(status));
     EXPECT_EQ(WEXITSTATUS(status), 1);
-    EXPECT_EQ(folder.read("err"), "run-time error 57: Device I/O error\n");
+    testing::expectTold(folder.read("err"), "Något gick fel.", "57: Device I/O error");
 }
 
 } // namespace

@@ -146,7 +146,7 @@ Control Program::form() const {
     return Control(form);
 }
 
-void Program::passStartUp() {
+void Program::passStartUp(bool asked) {
     while (true) {
         std::optional<Control> box;
         if (!until([&] { return (box = find(noticeClass)) || (box = find(disclaimerClass)); })) {
@@ -157,6 +157,7 @@ void Program::passStartUp() {
         waitGone(*box);
         if (last) break;
     }
+    if (asked) return;
     if (!until([&] { return main().enabled() && !caption().empty() && focused() == field(Field::rubrik); })) {
         throw GuiError("start-up does not come to its end");
     }

@@ -77,8 +77,9 @@ class Program {
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
-    /// Past the notice, if it comes, and the disclaimer, to the main window with the case in it.
-    void passStartUp();
+    /// Past the notice, if it comes, and the disclaimer, to the main window with the case in it. `asked`: a question
+    /// is expected to lie over it.
+    void passStartUp(bool asked = false);
 
     HANDLE process() const { return process_.get(); }
     bool running() const;
