@@ -18,9 +18,16 @@ long_steps=(
 long_figures=()
 
 run_long_tests() {
-    local step name command
+    local step name command known=" "
+    for step in "${long_steps[@]}"; do
+        known+="${step%% *} "
+    done
+    for name in "${chosen_steps[@]}"; do
+        [[ $known == *" $name "* ]] || fail "there is no step $name; there are:$known"
+    done
     for step in "${long_steps[@]}"; do
         read -r name command <<<"$step"
+        ((${#chosen_steps[@]} == 0)) || [[ " ${chosen_steps[*]} " == *" $name "* ]] || continue
         run_long_step "$name" "$command"
     done
     say "Figures of the long steps"

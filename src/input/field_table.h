@@ -133,7 +133,8 @@ inline constexpr std::array<std::string_view, 2> serviceCombinations{"Frekventa 
 // Equally long, with their blanks.
 inline constexpr std::array<std::string_view, 4> fireResistances{" REI  30 ", " REI  60 ", " REI  90 ",
                                                                  " REI 120 "};
-inline constexpr std::array<std::string_view, 4> fireLoads{"100 MJ/m2", "150 MJ/m2", "200 MJ/m2", "250 MJ/m2"};
+inline constexpr std::array<std::string_view, 4> fireLoads{"100 MJ/m2", "150 MJ/m2", "200 MJ/m2",
+                                                           "250 MJ/m2"};
 inline constexpr std::array<std::string_view, 2> ceilings{"Saknas", "13 Gips"};
 
 // clang-format off

@@ -40,14 +40,13 @@ class FormView {
     virtual void returnTo(Control control) = 0;
     /// A word beside a box that the user types in, which takes no focus and goes by itself. Nothing happens when the box
     /// has not the focus.
-    virtual void showHint(Control control, const std::string& title, const std::string& text) = 0;
+    virtual void showHint(Control control, const std::string& text) = 0;
     virtual void hideHint() = 0;
 };
 
 /// The hint at a title with a comma: the line of the file that holds the title ends at one.
-inline constexpr const char* commaHint = "Kommatecken i rubriken";
-inline constexpr const char* commaHintText =
-    "Filen delar rubriken vid kommat, och allt efter den hamnar fel när den läses. Skriv till exempel ett "
-    "tankstreck i stället.";
+inline constexpr const char* commaHint =
+    "Ett kommatecken i rubriken delar den, och allt efter den hamnar fel när filen läses.\n"
+    "Skriv till exempel ett tankstreck i stället.";
 
 } // namespace varno

@@ -17,7 +17,7 @@ void InputForm::titleChanged() {
     if (context_.form.text(title).find(',') == std::string::npos) {
         context_.form.hideHint();
     } else {
-        context_.form.showHint(title, commaHint, commaHintText);
+        context_.form.showHint(title, commaHint);
     }
 }
 

@@ -129,9 +129,9 @@ void InputFormWindow::returnTo(Control control) {
     postReturnTo(controlId(control));
 }
 
-void InputFormWindow::showHint(Control control, const std::string& title, const std::string& text) {
+void InputFormWindow::showHint(Control control, const std::string& text) {
     const HWND box = this->control(control);
-    if (GetFocus() == box) hint_.show(box, title, text);
+    if (GetFocus() == box) hint_.show(box, text);
 }
 
 LRESULT InputFormWindow::defaultProc(UINT message, WPARAM wParam, LPARAM lParam) {

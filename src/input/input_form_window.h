@@ -40,7 +40,7 @@ class InputFormWindow : public win32::FormWindow, public FormView {
     void focus(Control control) override;
     void selectAll(Control control) override;
     void returnTo(Control control) override;
-    void showHint(Control control, const std::string& title, const std::string& text) override;
+    void showHint(Control control, const std::string& text) override;
     void hideHint() override { hint_.hide(); }
 
   protected:

@@ -10,7 +10,6 @@ namespace {
 
 constexpr UINT_PTR endOfStay = 1;
 constexpr UINT stay = 10000; // ms
-constexpr int widest = 360;
 
 TOOLINFOW toolOf(HWND owner) {
     TOOLINFOW tool{};
@@ -27,7 +26,7 @@ Balloon::~Balloon() {
     if (tip_ != nullptr) DestroyWindow(tip_);
 }
 
-void Balloon::show(HWND control, const std::string& title, const std::string& text) {
+void Balloon::show(HWND control, const std::string& text) {
     if (tip_ != nullptr) return;
     // A tooltip belongs to the window that it lies above; the timer is this object's own.
     if (!exists()) create(L"VarnoBalloon", "", 0, 0, HWND_MESSAGE, nullptr, {0, 0, 0, 0});
@@ -37,12 +36,11 @@ void Balloon::show(HWND control, const std::string& title, const std::string& te
                         WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP | TTS_BALLOON, CW_USEDEFAULT, CW_USEDEFAULT,
                         CW_USEDEFAULT, CW_USEDEFAULT, owner, nullptr, programInstance(), nullptr);
     std::wstring words = wide(text);
-    const std::wstring heading = wide(title);
     TOOLINFOW tool = toolOf(owner);
     tool.lpszText = words.data();
     SendMessageW(tip_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
-    SendMessageW(tip_, TTM_SETMAXTIPWIDTH, 0, widest);
-    SendMessageW(tip_, TTM_SETTITLEW, TTI_NONE, reinterpret_cast<LPARAM>(heading.c_str()));
+    // With a limit of width the text has lines.
+    SendMessageW(tip_, TTM_SETMAXTIPWIDTH, 0, GetSystemMetrics(SM_CXSCREEN));
     RECT box;
     GetWindowRect(control, &box);
     SendMessageW(tip_, TTM_TRACKPOSITION, 0, MAKELPARAM(box.left + (box.bottom - box.top), box.bottom));

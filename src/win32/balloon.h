@@ -16,7 +16,7 @@ class Balloon : private Window {
     ~Balloon() override;
 
     /// Until `hide`, or for ten seconds; one that is shown stays as it is.
-    void show(HWND control, const std::string& title, const std::string& text);
+    void show(HWND control, const std::string& text);
     void hide();
 
   private:

@@ -54,7 +54,6 @@ TEST(HelpMessages, TheLineLoadEditorsAreExplained) {
 
 TEST(HelpMessages, TheHintAtTheTitleIsExplained) {
     expectExplained(commaHint);
-    expectExplained(commaHintText);
 }
 
 TEST(HelpMessages, EveryDiskErrorIsExplained) {

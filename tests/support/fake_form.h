@@ -38,7 +38,7 @@ class FakeForm : public FormView {
     void focus(Control control) override;
     void selectAll(Control control) override;
     void returnTo(Control control) override { returnedTo = control; }
-    void showHint(Control, const std::string& title, const std::string&) override { hint = title; }
+    void showHint(Control, const std::string& text) override { hint = text; }
     void hideHint() override { hint.clear(); }
     /// As the user does it: a change also when the text reads the same.
     void type(Control control, const std::string& text);
@@ -53,7 +53,7 @@ class FakeForm : public FormView {
 
     std::function<void(Control)> onChange;
     std::optional<Control> returnedTo;
-    std::string hint; ///< the title of the one that is shown
+    std::string hint;
 
   private:
     using Key = std::pair<int, int>;
