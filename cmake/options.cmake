@@ -31,3 +31,17 @@ if(WIN32)
     # Everything static: the programs import Windows' own libraries and nothing else.
     target_link_options(varno_options INTERFACE -static -Wl,--gc-sections)
 endif()
+
+# The headers that nearly every file reads, read once a target: a third of the time to compile. Not where the program is
+# worked on, as a file that forgets one of them compiles all the same.
+function(varno_precompile)
+    foreach(target ${ARGN})
+        if(TARGET ${target})
+            target_precompile_headers(${target} PRIVATE <algorithm> <array> <cstdint> <functional> <map> <memory>
+                <optional> <stdexcept> <string> <string_view> <utility> <variant> <vector>)
+            if(target MATCHES "_tests$")
+                target_precompile_headers(${target} PRIVATE <gtest/gtest.h>)
+            endif()
+        endif()
+    endforeach()
+endfunction()

@@ -45,7 +45,8 @@ root_environment=(
 )
 
 enter_root() {
-    [[ -z $compiled ]] || root_environment+=(CMAKE_CXX_COMPILER_LAUNCHER=ccache CCACHE_DIR=/ccache)
+    [[ -z $compiled ]] || root_environment+=(CMAKE_CXX_COMPILER_LAUNCHER=ccache CCACHE_DIR=/ccache
+        CCACHE_SLOPPINESS=pch_defines,time_macros)
     [[ $views != yes ]] || return 0
     [[ -z $compiled ]] || as_root mount --bind "$compiled" "$root/ccache"
     as_root mount -t proc proc "$root/proc"
