@@ -20,7 +20,7 @@ constexpr const char* leftoverPatterns = "*.IND.~tmp;*.IND.~bak";
 std::string caseOf(const std::string& name) {
     for (const std::string_view ending : {std::string_view(draftEnding), backupEnding}) {
         if (name.size() <= ending.size() + caseEnding.size()) continue;
-        const std::string stem = name.substr(0, name.size() - ending.size());
+        std::string stem = name.substr(0, name.size() - ending.size());
         const std::string last = stem.substr(stem.size() - caseEnding.size());
         if (name.ends_with(ending) && equalIgnoringCase(last, caseEnding)) return stem;
     }
@@ -86,15 +86,14 @@ void Leftovers::restore(const Leftover& leftover) {
 
 void LeftoverQuestions::ask(const std::string& folder) {
     for (const Leftover& leftover : leftovers_.findIn(folder)) {
-        const std::string offer =
-            leftover.caseExists
-                ? "Det som skulle sparas finns kvar och är nyare än filen.\n\nVill Du ersätta filen med det ?"
-                : "Det som skulle sparas finns kvar, men filen saknas.\n\nVill Du lägga det på filens plats "
-                  "?";
+        const std::string offer = leftover.caseExists
+                                      ? " och är nyare än filen.\n\nVill Du ersätta filen med det ?"
+                                      : ", men filen saknas.\n\nVill Du lägga det på filens plats ?";
         const MessageAnswer answer =
-            boxes_.show("Programmet avslutades medan " + leftover.casePath + " sparades. " + offer +
-                            " Svarar Du Nej får det ligga kvar som " + leftover.path,
-                        msgYesNo, "Avbruten lagring");
+            boxes_.show("Programmet avslutades medan " + leftover.casePath +
+                            " sparades. Det som skulle sparas ligger kvar som " + leftover.path + offer +
+                            " Svarar Du Nej ligger det kvar.",
+                        leftover.caseExists ? msgYesNoDefaultNo : msgYesNo, "Avbruten lagring");
         if (answer == MessageAnswer::yes) leftovers_.restore(leftover);
     }
 }

@@ -34,7 +34,7 @@ bool HelpViewer::showFile(std::string_view topic, const std::vector<std::string>
 // it is asked to open a file.
 std::string HelpViewer::twinPage(std::string_view topic, const std::vector<std::string>& folders) {
     for (const std::string& folder : folders) {
-        const std::string page = folder + "\\help\\amnen\\" + std::string(topic) + ".html";
+        std::string page = folder + "\\help\\amnen\\" + std::string(topic) + ".html";
         if (system_.exists(page)) return page;
     }
     return {};

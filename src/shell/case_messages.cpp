@@ -17,11 +17,6 @@ namespace {
 constexpr std::size_t mostShown = 12;
 constexpr const char* lineEnd = "\r\n";
 
-// A caption that stands before its box ends in a colon.
-std::string withoutColon(std::string_view caption) {
-    return std::string(caption.ends_with(':') ? caption.substr(0, caption.size() - 1) : caption);
-}
-
 std::string choiceName(const ChoiceField& field) {
     // Two lists bear the caption "fyk": what a screen reader says tells which one.
     const std::string spoken = accessibleName({field.field});
@@ -49,7 +44,7 @@ class Namer {
         if (line.field == &DesignCase::loadCode) return "Regelverk";
         if (line.field == &DesignCase::reservedValue) return "Reserverat värde";
         if (line.field == &DesignCase::nfack) return accessibleName({Field::nfack});
-        if (line.field == &DesignCase::nllast) return withoutColon(lineLoadCount);
+        if (line.field == &DesignCase::nllast) return accessibleName(LineLoadControl{LineLoadBox::nllast});
         for (const ChoiceField& field : choiceFields) {
             if (field.place == line.field) return choiceName(field);
         }
@@ -66,11 +61,10 @@ class Namer {
         return accessibleName({factors[static_cast<std::size_t>(cell_ - 1)]});
     }
     std::string operator()(LineLoadLine line) const {
-        const std::string name = "Linjelast " + std::to_string(line.index);
-        if (cell_ < 1 || cell_ > static_cast<int>(lineLoadColumns.size())) return name;
-        const LineLoadColumn& column = lineLoadColumns[static_cast<std::size_t>(cell_ - 1)];
-        const std::string unit = column.unit;
-        return name + ", " + column.heading + (unit.empty() ? "" : " " + unit);
+        if (cell_ < 1 || cell_ > static_cast<int>(lineLoadColumns.size()))
+            return "Linjelast " + std::to_string(line.index);
+        constexpr std::array boxes{LineLoadBox::llfnr, LineLoadBox::avst, LineLoadBox::lllast};
+        return accessibleName(LineLoadControl{boxes[static_cast<std::size_t>(cell_ - 1)], line.index});
     }
 
   private:

@@ -140,7 +140,7 @@ TEST_F(LeftoverFiles, AreAskedAboutAndTakeTheirPlace) {
     boxes.answers = {MessageAnswer::yes};
     LeftoverQuestions(leftovers, boxes).ask(folder);
     ASSERT_EQ(boxes.shown.size(), 1u);
-    EXPECT_EQ(boxes.shown[0].style, msgYesNo);
+    EXPECT_EQ(boxes.shown[0].style, msgYesNoDefaultNo);
     EXPECT_NE(boxes.shown[0].text.find(casePath), std::string::npos);
     EXPECT_EQ(files.content, (std::map<std::string, Bytes>{{casePath, caseOf("2")}}));
     LeftoverQuestions(leftovers, boxes).ask(folder);

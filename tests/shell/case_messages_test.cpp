@@ -37,7 +37,7 @@ TEST(CaseMessages, FieldsAreNamedAsOnTheForm) {
     EXPECT_EQ(fieldName({12, 10}), "Permanent last (kN/m2), fack 10");
     EXPECT_EQ(fieldName({14, 0}), "Konsol vänster (m)");
     EXPECT_EQ(fieldName({29, 0}), "Initiell nedböjning");
-    EXPECT_EQ(fieldName({35, 2}), "Linjelast 3, Avstånd från vänster stöd (m)");
+    EXPECT_EQ(fieldName({35, 2}), "Avstånd från vänster stöd (m), linjelast 3");
 }
 
 TEST(CaseMessages, NothingLostIsNothingSaid) {
