@@ -18,7 +18,7 @@ class Utf8Output {
     Utf8Output& operator=(const Utf8Output&) = delete;
 
   private:
-    unsigned codePageBefore_ = 0;
+    [[maybe_unused]] unsigned codePageBefore_ = 0;
 };
 
 } // namespace varno::tool

@@ -12,6 +12,8 @@ struct RecordField {
     const char* name;
     Type DesignCase::*field;
 };
+template <typename Type>
+RecordField(const char*, Type DesignCase::*) -> RecordField<Type>;
 
 /// Every field of the record, for what keeps the whole of it and not only what a design input file holds.
 inline constexpr std::tuple recordFields{

@@ -10,13 +10,16 @@ constexpr COLORREF black = RGB(0, 0, 0);
 constexpr COLORREF red = RGB(0x80, 0, 0);
 constexpr double twipsOfPixel = 15; // on the screen, at 96 dots per inch
 
-// The picture area once it is painted.
+// The picture area once it is painted; before, it may show nothing but black.
 Picture painted(const Program& program, const Control& window) {
     const Control area = window.item(idDiagramPicture);
-    const auto drawn = [&] { return Picture::ofScreen(area.handle()); };
     const int row = 2000 / 15;
-    program.until([&] { return drawn().columns(row, black).size() > 500; });
-    return drawn();
+    Picture picture = Picture::ofScreen(area.handle());
+    program.until([&] {
+        picture = Picture::ofScreen(area.handle());
+        return picture.at(1, 1) != black && picture.columns(row, black).size() > 500;
+    });
+    return picture;
 }
 
 // A pixel of the colour at most one pixel from a place in twips.
