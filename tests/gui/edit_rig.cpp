@@ -1,19 +1,13 @@
 #include "edit_rig.h"
 
-#include "base/open_file.h"
 #include "driver/remote.h"
 #include "driver/wait.h"
-#include "model/design_input_file.h"
+#include "saved_case.h"
 #include "win32/strings.h"
 
 namespace varno::gui {
 
 namespace {
-
-class NoBoxes : public MessageBoxes {
-  public:
-    MessageAnswer show(const std::string& text, int, const std::string&) override { throw GuiError(text); }
-};
 
 Bytes withLines(Bytes file, const std::map<std::size_t, Bytes>& lines) {
     for (const auto& [number, line] : lines)
@@ -101,10 +95,7 @@ DesignCase Editing::saved() {
     const std::string name = "SPAR" + std::to_string(++cases_);
     program().saveAs(name);
     expectCaption(program(), name + ".IND");
-    NoBoxes boxes;
-    FileOpener opener(systemFileCalls(), boxes);
-    File file = opener.openFile(scene().path(name + ".IND"), FileMode::input);
-    return VARNO1::readDesignCase(file, {}).designCase;
+    return readSavedCase(scene().path(name + ".IND")).designCase;
 }
 
 bool Editing::changed() {
@@ -178,14 +169,14 @@ void Editing::expectFocus(const Control& box, std::source_location place) {
     EXPECT_EQ(program().focused(), box);
 }
 
-// A selection in the title is posted and waited for; what was posted before it has been dealt with then. The
-// second time, so has what that has posted: the message of a run-time error.
+// The length that a locked box takes, which nobody types into, is posted and waited for; what was posted before it has
+// been dealt with then. The second time, so has what that has posted: the message of a run-time error.
 void Editing::settle() {
-    const Control title = field(Field::rubrik);
+    const Control locked = field(Field::upl, 0);
     for (int i = 0; i < 2; ++i) {
-        const int from = title.selection() == std::pair(1, 2) ? 0 : 1;
-        title.post(EM_SETSEL, static_cast<WPARAM>(from), from + 1);
-        if (!program().until([&] { return title.selection() == std::pair(from, from + 1); })) {
+        const LRESULT length = locked.send(EM_GETLIMITTEXT) == 100 ? 101 : 100;
+        locked.post(EM_SETLIMITTEXT, static_cast<WPARAM>(length));
+        if (!program().until([&] { return locked.send(EM_GETLIMITTEXT) == length; })) {
             throw GuiError("the program does not get to its messages");
         }
     }

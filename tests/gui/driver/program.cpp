@@ -1,7 +1,9 @@
 #include "driver/program.h"
 
+#include <algorithm>
 #include <filesystem>
 
+#include "driver/process.h"
 #include "driver/remote.h"
 #include "driver/wait.h"
 #include "help/help_topics.h"
@@ -14,24 +16,6 @@ using win32::narrow;
 using win32::wide;
 
 namespace {
-
-struct Search {
-    DWORD process;
-    std::wstring className;
-    HWND found;
-};
-
-BOOL CALLBACK matches(HWND window, LPARAM data) {
-    auto& search = *reinterpret_cast<Search*>(data);
-    DWORD process = 0;
-    GetWindowThreadProcessId(window, &process);
-    if (process != search.process || !IsWindowVisible(window)) return TRUE;
-    wchar_t name[64] = L"";
-    GetClassNameW(window, name, 64);
-    if (name != search.className) return TRUE;
-    search.found = window;
-    return FALSE;
-}
 
 // The program takes its environment from this process.
 class Told {
@@ -118,10 +102,10 @@ bool Program::until(const std::function<bool()>& done) const {
 }
 
 std::optional<Control> Program::find(const std::string& className) const {
-    Search search{id_, wide(className), nullptr};
-    EnumWindows(matches, reinterpret_cast<LPARAM>(&search));
-    if (search.found == nullptr) return std::nullopt;
-    return Control(search.found);
+    const auto all = visibleWindows(process());
+    const auto found =
+        std::ranges::find_if(all, [&](const Control& window) { return window.className() == className; });
+    return found == all.end() ? std::nullopt : std::optional(*found);
 }
 
 Control Program::window(const std::string& className) const {
