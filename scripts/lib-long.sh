@@ -5,6 +5,7 @@
 # exit code is zero; what it measured it prints on lines that begin with "FIGURE: ", which are shown again at the end.
 long_steps=(
     'killed-saves                scripts/long-kill-saves 200'
+    'random-use                  scripts/long-soak 1800'
     'fuzzing                     scripts/long-fuzz 60'
     'lint                        scripts/long-lint'
     'fresh-debian-12             scripts/fresh-machine bookworm --ccache build/fresh-machine/ccache'

@@ -14,4 +14,29 @@ inline constexpr std::array typedTexts{
     "4 5",   "1 234,50", "\xC3\xA5", "1E",    "1e+",        "3.",     "7e0",     "1.234,5",  "- 2",
 };
 
+/// What comes by the clipboard, or from an arm on the keyboard.
+inline constexpr std::array longTexts{
+    "12345678901234567890123456789012345678901234567890",
+    "0,00000000000000000000000000000000000000000000000001",
+    "                                                  7",
+    "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa",
+    "-1e308-1e308-1e308-1e308-1e308-1e308-1e308-1e308",
+    "4,5\r\n6,5\r\n7,5",
+    "4,5\t6,5\t7,5",
+    "\u00A01\u00A0234,50 kN/m²",
+};
+
+/// Titles: such as a case file keeps, and such as it cannot.
+inline constexpr std::array typedTitles{
+    "",
+    "Hus 4",
+    "Bärlägg å ö Å Ä Ö",
+    "5 \"tum\" – plan 2",
+    "Hus, 4 plan",
+    "  Hus",
+    "\"Hus\" 4",
+    "Łódź ”A”",
+    "Ett hus med en lång rubrik, som ingen läser till slut, med 12 plan, 3 trapphus och en källare",
+};
+
 } // namespace varno::testing
