@@ -48,7 +48,8 @@ class FormWalk : public LineLoads {
     static double shownNumber(std::string text);
 
     testing::Dice dice_;
-    bool lossTold_ = false; ///< the last save told that the file does not hold the whole case
+    bool opensCases_ = false; ///< not only the default case
+    bool lossTold_ = false;   ///< the last save told that the file does not hold the whole case
     /// A case has brought numbers that no control stands for; the classes of the other rule sets stay when it goes.
     bool strangeNumbers_ = false;
 

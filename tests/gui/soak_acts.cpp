@@ -14,6 +14,7 @@
 namespace varno::gui {
 
 SoakWalk::SoakWalk(unsigned seed) : FormWalk(seed) {
+    opensCases_ = true;
     restart();
     folder_ = scene().folder();
     replenish();
