@@ -94,7 +94,7 @@ class SoakWalk : public FormWalk {
     void markChanged();
 
     std::string folder_;   ///< where the file-name dialog stands
-    std::string typed_;    ///< the name it was left with; empty when it was cancelled
+    std::string typed_;    ///< the name that was typed to open a file; empty without one
     bool refused_ = false; ///< something was cancelled or answered with no
     bool strange_ = false; ///< the case came from a file that holds none: what it shows has no rules
     int questions_ = 0;    ///< windows answered in this action

@@ -168,8 +168,9 @@ void SoakWalk::answerFileDialog(const Control& dialog) {
     } else {
         dialog.item(idFileName).setText(typedFileName(dialog.text() == "Spara som.."));
     }
-    typed_ = dialog.item(idFileName).text();
-    note("file dialog: " + typed_ + " in " + folder_);
+    const std::string name = dialog.item(idFileName).text();
+    typed_ = dialog.text() == "Spara som.." ? "" : name;
+    note("file dialog: " + name + " in " + folder_);
     dialog.item(idOkButton).click();
 }
 
