@@ -26,6 +26,8 @@ File::File(FileCalls& calls, std::string path, FileMode mode, int recordLength, 
 }
 
 void File::open() {
+    // The system would take the name for the part before it, and another file for this one.
+    if (path_.find('\0') != std::string::npos) throw RunTimeError(errBadFileNameOrNumber);
     if (mode_ == FileMode::input) {
         text_ = SequentialText(calls_->readAll(path_));
     } else if (writes(mode_)) {

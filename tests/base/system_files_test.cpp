@@ -186,6 +186,13 @@ TEST_F(SystemFiles, ANameThatIsTooLongIsError52) {
     EXPECT_EQ(folder.count(), 0u);
 }
 
+TEST_F(SystemFiles, ANameWithAZeroByteIsError52AndNoOtherFile) {
+    const std::string name("MZ\0.IND", 7);
+    EXPECT_EQ(errorOfOpening(name, FileMode::output), errBadFileNameOrNumber);
+    EXPECT_EQ(errorOfOpening(name, FileMode::input), errBadFileNameOrNumber);
+    EXPECT_EQ(folder.count(), 0u);
+}
+
 TEST_F(SystemFiles, InFoldersBeyond260LettersAreSavedAndRead) {
     std::filesystem::path deep = folder.folder();
     while (deep.u8string().size() < 400)
