@@ -23,4 +23,7 @@ class Folders {
     virtual std::vector<std::string> files(const std::string& path, const std::string& patterns) = 0;
 };
 
+/// Those of Windows.
+Folders& systemFolders();
+
 } // namespace varno

@@ -27,4 +27,7 @@ class MessageBoxes {
     void tell(const std::string& text) { show(text, msgOk, ""); }
 };
 
+/// The boxes of Windows, over the active window of the program.
+MessageBoxes& systemMessageBoxes();
+
 } // namespace varno

@@ -14,4 +14,8 @@ class ProcessStarter {
     virtual std::uint32_t ExecCmd(const std::string& commandLine) = 0;
 };
 
+/// Windows' own, by CreateProcessA: the text is converted to the ANSI code page, and a character that it lacks makes
+/// the start fail, as a missing program does.
+ProcessStarter& systemProcesses();
+
 } // namespace varno

@@ -20,53 +20,32 @@ constexpr std::array<char16_t, 32> highControls{
 constexpr char32_t replacement = 0xFFFD;
 
 void appendUtf8(std::string& out, char32_t c) {
-    if (c < 0x80) {
-        out += static_cast<char>(c);
-    } else if (c < 0x800) {
-        out += static_cast<char>(0xC0 | (c >> 6));
-        out += static_cast<char>(0x80 | (c & 0x3F));
-    } else if (c < 0x10000) {
-        out += static_cast<char>(0xE0 | (c >> 12));
-        out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (c & 0x3F));
-    } else {
-        out += static_cast<char>(0xF0 | (c >> 18));
-        out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
-        out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (c & 0x3F));
-    }
+    constexpr std::array<char32_t, 4> leads{0, 0xC0, 0xE0, 0xF0};
+    const std::size_t more = c < 0x80 ? 0 : c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
+    out += static_cast<char>(leads[more] | (c >> (6 * more)));
+    for (std::size_t left = more; left > 0; --left)
+        out += static_cast<char>(0x80 | ((c >> (6 * (left - 1))) & 0x3F));
 }
 
 // Takes one character off the front. A damaged sequence costs one byte and gives U+FFFD.
 char32_t takeUtf8(std::string_view& in) {
+    constexpr std::array<char32_t, 5> smallest{0, 0, 0x80, 0x800, 0x10000};
     const auto lead = static_cast<unsigned char>(in.front());
-    std::size_t length = 1;
-    char32_t c = lead;
-    char32_t smallest = 0;
-    if (lead >= 0xC2 && lead <= 0xDF) {
-        length = 2, c = lead & 0x1Fu, smallest = 0x80;
-    } else if (lead >= 0xE0 && lead <= 0xEF) {
-        length = 3, c = lead & 0x0Fu, smallest = 0x800;
-    } else if (lead >= 0xF0 && lead <= 0xF4) {
-        length = 4, c = lead & 0x07u, smallest = 0x10000;
-    } else if (lead >= 0x80) {
-        in.remove_prefix(1);
-        return replacement;
-    }
-    if (in.size() < length) {
-        in.remove_prefix(1);
-        return replacement;
-    }
-    for (std::size_t i = 1; i < length; ++i) {
+    const std::size_t length = lead < 0x80   ? 1
+                               : lead < 0xC2 ? 0
+                               : lead < 0xE0 ? 2
+                               : lead < 0xF0 ? 3
+                               : lead < 0xF5 ? 4
+                                             : 0;
+    bool whole = length > 0 && length <= in.size();
+    char32_t c = length > 1 ? lead & (0x7Fu >> length) : lead;
+    for (std::size_t i = 1; whole && i < length; ++i) {
         const auto next = static_cast<unsigned char>(in[i]);
-        if ((next & 0xC0) != 0x80) {
-            in.remove_prefix(1);
-            return replacement;
-        }
+        whole = (next & 0xC0) == 0x80;
         c = (c << 6) | (next & 0x3Fu);
     }
     const bool surrogate = c >= 0xD800 && c <= 0xDFFF;
-    if (c < smallest || c > 0x10FFFF || surrogate) {
+    if (!whole || c < smallest[length] || c > 0x10FFFF || surrogate) {
         in.remove_prefix(1);
         return replacement;
     }

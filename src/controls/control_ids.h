@@ -79,54 +79,22 @@ enum DialogId : int {
     idLineLoadField = 710, ///< + 10 * LineLoadBox + row
 };
 
-/// Controls of the main input form: one number a field, and a block of numbers for every control array and
-/// group.
+/// Controls of the main input form: a block of numbers for every field.
 enum FormId : int {
-    idFormField = 1000, ///< + Field for single controls
-    idFormArray = 1100, ///< + 20 * Field + index for arrays and option groups
+    idFormField = 1000, ///< + 20 * Field + index
     idFormLabel = 2900, ///< labels and frames, which nothing refers to
 };
 
-constexpr bool isControlArray(Field field) {
-    switch (field) {
-    case Field::spv:
-    case Field::ptjl:
-    case Field::plast:
-    case Field::flast:
-    case Field::upl:
-    case Field::lastkomb:
-    case Field::brukskomb:
-    case Field::brandb:
-    case Field::kutak:
-    case Field::shkl:
-    case Field::shklpl:
-    case Field::pkl:
-    case Field::shklfi:
-    case Field::shkldk:
-    case Field::shkleu:
-        return true;
-    default:
-        return false;
-    }
-}
-
 constexpr int controlId(Control control) {
-    const int field = static_cast<int>(control.field);
-    return isControlArray(control.field) ? idFormArray + 20 * field + control.index : idFormField + field;
+    return idFormField + 20 * static_cast<int>(control.field) + control.index;
 }
 
 /// The control of an ID of the input form.
 constexpr std::optional<Control> controlOfId(int id) {
     constexpr int fields = static_cast<int>(Field::loadFrame) + 1;
-    const int single = id - idFormField;
-    if (single >= 0 && single < fields && !isControlArray(static_cast<Field>(single))) {
-        return Control{static_cast<Field>(single)};
-    }
-    const int array = id - idFormArray;
-    if (array < 0 || array >= 20 * fields) return std::nullopt;
-    const auto field = static_cast<Field>(array / 20);
-    if (!isControlArray(field)) return std::nullopt;
-    return Control{field, array % 20};
+    const int place = id - idFormField;
+    if (place < 0 || place >= 20 * fields) return std::nullopt;
+    return Control{static_cast<Field>(place / 20), place % 20};
 }
 
 } // namespace varno

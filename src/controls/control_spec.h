@@ -43,4 +43,10 @@ constexpr int raster(int pixels) {
     return pixels * 15;
 }
 
+/// A control by its place in that raster.
+constexpr ControlSpec inRaster(int id, ControlKind kind, const char* text, int x, int y, int width,
+                               int height) {
+    return {id, kind, text, raster(x), raster(y), raster(width), raster(height)};
+}
+
 } // namespace varno

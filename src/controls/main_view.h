@@ -14,7 +14,6 @@ class MainView {
     virtual void setBusy(bool busy) = 0;
     /// The menu "Diagram".
     virtual void setDiagramEnabled(bool enabled) = 0;
-    virtual bool diagramEnabled() const = 0;
     /// The picture `Flagga` of this number (1 to 6) and no other; 0 shows a neutral picture for a case
     /// without rules.
     virtual void showFlag(int flag) = 0;

@@ -43,6 +43,8 @@ inline constexpr auto ruleSets = [] {
 // clang-format on
 
 inline constexpr int swedishRules = 1;
+/// A flag each, and the neutral picture of a case without rules.
+inline constexpr int flagCount = static_cast<int>(ruleSets.size()) + 1;
 
 /// The row with this value in a column, null when there is none: a case may be without load rules.
 template <typename Value>

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "controls/control_ids.h"
+#include "win32/dialog_window.h"
 #include "win32/list_rows.h"
 
 namespace varno {
@@ -11,92 +12,18 @@ namespace {
 
 constexpr int width = raster(560);
 constexpr int height = raster(372);
-constexpr int listTop = raster(16);
+constexpr int listTop = 16;
 constexpr std::array controls{
-    ControlSpec{idDelete, ControlKind::button, "Ta bort", raster(458), raster(36), raster(86), raster(26)},
-    ControlSpec{idCancelButton, ControlKind::button, "Avsluta", raster(458), raster(69), raster(86),
-                raster(26)},
-    ControlSpec{idDeletionHelp, ControlKind::button, "Hjälp", raster(458), raster(102), raster(86),
-                raster(26)},
-    ControlSpec{idConfirm, ControlKind::check, "Bekräfta", raster(16), raster(336), raster(230), raster(20)},
-};
-
-// The confirmation window (`Veri`).
-class ConfirmationWindow : public win32::FormWindow {
-  public:
-    ConfirmationWindow(win32::WindowHost& host, HWND owner, const std::string& name,
-                       const std::string& position)
-        : FormWindow(host) {
-        create(L"VarnoVeri", confirmationCaption, WS_POPUP | WS_CAPTION | WS_SYSMENU, WS_EX_DLGMODALFRAME,
-               owner, nullptr, {});
-        const std::array parts{
-            ControlSpec{idQuestion, ControlKind::label, confirmationQuestion, raster(20), raster(18),
-                        raster(300), raster(18)},
-            ControlSpec{idFileName, ControlKind::label, name.c_str(), raster(20), raster(42), raster(300),
-                        raster(18)},
-            ControlSpec{idPosition, ControlKind::label, position.c_str(), 0, 0, raster(40), raster(18)},
-            ControlSpec{idYesButton, ControlKind::button, "Ja", raster(72), raster(76), raster(90),
-                        raster(28)},
-            ControlSpec{idCancelButton, ControlKind::defaultButton, "Ångra", raster(178), raster(76),
-                        raster(90), raster(28)},
-        };
-        addControls(parts);
-        ShowWindow(item(idPosition), SW_HIDE);
-        setFontRole(idFileName, win32::FontRole::bold);
-        sizeAndCentre(raster(340), raster(120), owner);
-    }
-    bool ask() {
-        SetFocus(item(idCancelButton));
-        runModal();
-        return yes_;
-    }
-
-  protected:
-    void onCommand(int id, int notification) override {
-        // Enter comes as "OK" where no button that is the default one has the focus.
-        const bool yes = id == idYesButton || (id == idOkButton && GetFocus() == item(idYesButton));
-        if (yes || id == idOkButton) {
-            yes_ = yes;
-            closeForm();
-            return;
-        }
-        FormWindow::onCommand(id, notification);
-    }
-
-  private:
-    bool yes_ = false;
-};
-
-// The help window (`Help`).
-class HelpWindow : public win32::FormWindow {
-  public:
-    HelpWindow(win32::WindowHost& host, HWND owner, const std::string& first, const std::string& second)
-        : FormWindow(host) {
-        create(L"VarnoHelp", "Hjälp", WS_POPUP | WS_CAPTION | WS_SYSMENU, WS_EX_DLGMODALFRAME, owner, nullptr,
-               {});
-        const std::array parts{
-            ControlSpec{idTextOne, ControlKind::label, first.c_str(), raster(20), raster(18), raster(330),
-                        raster(18)},
-            ControlSpec{idTextTwo, ControlKind::label, second.c_str(), raster(20), raster(42), raster(330),
-                        raster(18)},
-            ControlSpec{idOkButton, ControlKind::defaultButton, "OK", raster(140), raster(76), raster(90),
-                        raster(28)},
-        };
-        addControls(parts);
-        sizeAndCentre(raster(370), raster(120), owner);
-    }
-
-  protected:
-    void onCommand(int id, int) override {
-        if (id == idOkButton || id == idCancelButton) closeForm();
-    }
+    inRaster(idDelete, ControlKind::button, "Ta bort", 458, 36, 86, 26),
+    inRaster(idCancelButton, ControlKind::button, "Avsluta", 458, 69, 86, 26),
+    inRaster(idDeletionHelp, ControlKind::button, "Hjälp", 458, 102, 86, 26),
+    inRaster(idConfirm, ControlKind::check, "Bekräfta", 16, 336, 230, 20),
 };
 
 } // namespace
 
 DeletionWindow::DeletionWindow(win32::WindowHost& host, HWND owner) : FileChooserWindow(host) {
-    create(L"VarnoDelFile", deletionCaption, WS_POPUP | WS_CAPTION | WS_SYSMENU, WS_EX_DLGMODALFRAME, owner,
-           nullptr, {});
+    createDialog(L"VarnoDelFile", deletionCaption, owner);
     addLists(ControlKind::multiListBox, listTop);
     addControls(controls);
 }
@@ -137,13 +64,28 @@ void DeletionWindow::setConfirming(bool confirming) {
 }
 
 bool DeletionWindow::confirmed(const std::string& name, const std::string& position) {
-    ConfirmationWindow window(host(), handle(), name, position);
-    return window.ask();
+    const std::array parts{
+        inRaster(idQuestion, ControlKind::label, confirmationQuestion, 20, 18, 300, 18),
+        inRaster(idFileName, ControlKind::label, name.c_str(), 20, 42, 300, 18),
+        inRaster(idPosition, ControlKind::label, position.c_str(), 0, 0, 40, 18),
+        inRaster(idYesButton, ControlKind::button, "Ja", 72, 76, 90, 28),
+        inRaster(idCancelButton, ControlKind::defaultButton, "Ångra", 178, 76, 90, 28),
+    };
+    constexpr SIZE size{raster(340), raster(120)};
+    win32::DialogWindow window(host(), handle(), L"VarnoVeri", confirmationCaption, parts, size);
+    ShowWindow(window.item(idPosition), SW_HIDE);
+    window.setFontRole(idFileName, win32::FontRole::bold);
+    return window.ask(idCancelButton) == idYesButton;
 }
 
 void DeletionWindow::showHelp(const std::string& first, const std::string& second) {
-    HelpWindow window(host(), handle(), first, second);
-    window.runModal();
+    const std::array parts{
+        inRaster(idTextOne, ControlKind::label, first.c_str(), 20, 18, 330, 18),
+        inRaster(idTextTwo, ControlKind::label, second.c_str(), 20, 42, 330, 18),
+        inRaster(idOkButton, ControlKind::defaultButton, "OK", 140, 76, 90, 28),
+    };
+    constexpr SIZE size{raster(370), raster(120)};
+    win32::DialogWindow(host(), handle(), L"VarnoHelp", "Hjälp", parts, size).runModal();
 }
 
 void DeletionWindow::onCommand(int id, int notification) {

@@ -2,10 +2,19 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
-#include "files/file_lists.h"
+#include "base/folders.h"
 
 namespace varno {
+
+/// A row of the directory list: the folders from the root down to the current one, then its subfolders.
+struct FolderRow {
+    std::string name;
+    std::string path;
+    int depth = 0;
+    bool open = false; ///< on the way to the current folder
+};
 
 /// A window with a drive, a folder and a file list, as its rules see it.
 class FileChooserView {
@@ -18,18 +27,37 @@ class FileChooserView {
     virtual void close() = 0;
 };
 
-/// Going about among drives and folders: what the file-name dialog and the deletion window have in common.
+/// The drive, directory and file list that belong together in the file-name dialog and the deletion window:
+/// changing the drive switches to that drive's current directory, changing the directory updates the files.
 class FileChooser {
   public:
-    FileChooser(Folders& folders, FileChooserView& view) : lists_(folders), view_(view) {}
+    FileChooser(Folders& folders, FileChooserView& view) : folders_(folders), view_(view) {}
     FileChooser(const FileChooser&) = delete;
     FileChooser& operator=(const FileChooser&) = delete;
 
-    FileLists& lists() { return lists_; }
+    /// The directory that the lists stand in; the process's current directory until another is chosen.
+    const std::string& directory();
+    const std::string& pattern() const { return pattern_; }
+    std::vector<std::string> drives() { return folders_.drives(); }
+    /// "C:" of the directory, empty for a network path.
+    std::string drive();
+    std::vector<FolderRow> folderRows();
+    std::vector<std::string> files() { return folders_.files(directory(), pattern_); }
+    /// The full path of a file of the list.
+    std::string pathOf(const std::string& name);
 
+    void setPattern(const std::string& pattern) { pattern_ = pattern; }
     /// \throws RunTimeError 68 or 76; the lists then stay where they are.
-    void driveChosen(const std::string& drive);
-    void folderChosen(const std::string& path);
+    void changeDrive(const std::string& drive) { directory_ = folders_.currentOf(drive); }
+    void changeDirectory(const std::string& path) { directory_ = folders_.resolve(directory(), path); }
+
+    // The window's side: the same, and the lists are shown again.
+    void driveChosen(const std::string& drive) {
+        move([&] { changeDrive(drive); });
+    }
+    void folderChosen(const std::string& path) {
+        move([&] { changeDirectory(path); });
+    }
 
   protected:
     /// Shows the lists again however the step ends: after a drive that is not there, the drive list stands
@@ -37,8 +65,10 @@ class FileChooser {
     void move(const std::function<void()>& step);
 
   private:
-    FileLists lists_;
+    Folders& folders_;
     FileChooserView& view_;
+    std::string directory_;
+    std::string pattern_ = "*.*";
 };
 
 } // namespace varno

@@ -11,16 +11,14 @@ namespace varno {
 
 namespace {
 
-constexpr int bottom = raster(322); // of all lists
+constexpr int bottom = 322; // of all lists
 
 constexpr std::array folderControls{
-    ControlSpec{0, ControlKind::label, "Mapp:", raster(258), raster(16), raster(180), raster(16)},
-    ControlSpec{idPathLabel, ControlKind::readOnlyEdit, "", raster(258), raster(36), raster(188), raster(18)},
-    ControlSpec{idDirectoryList, ControlKind::folderList, "", raster(258), raster(66), raster(188),
-                raster(204)},
-    ControlSpec{0, ControlKind::label, "Enhet:", raster(258), raster(280), raster(180), raster(16)},
-    ControlSpec{idDriveList, ControlKind::dropDown, "", raster(258), bottom - raster(24), raster(188),
-                raster(24)},
+    inRaster(0, ControlKind::label, "Mapp:", 258, 16, 180, 16),
+    inRaster(idPathLabel, ControlKind::readOnlyEdit, "", 258, 36, 188, 18),
+    inRaster(idDirectoryList, ControlKind::folderList, "", 258, 66, 188, 204),
+    inRaster(0, ControlKind::label, "Enhet:", 258, 280, 180, 16),
+    inRaster(idDriveList, ControlKind::dropDown, "", 258, bottom - 24, 188, 24),
 };
 
 // Fills a list without showing every step of it.
@@ -41,9 +39,8 @@ void addString(HWND list, UINT message, const std::string& text) {
 
 void FileChooserWindow::addLists(ControlKind fileList, int top) {
     const std::array files{
-        ControlSpec{0, ControlKind::label, "Filer:", raster(16), top, raster(230), raster(16)},
-        ControlSpec{idFileList, fileList, "", raster(16), top + raster(20), raster(230),
-                    bottom - top - raster(20)},
+        inRaster(0, ControlKind::label, "Filer:", 16, top, 230, 16),
+        inRaster(idFileList, fileList, "", 16, top + 20, 230, bottom - top - 20),
     };
     addControls(files);
     addControls(folderControls);
@@ -54,16 +51,16 @@ void FileChooserWindow::showLists() {
     showFolders();
     const HWND files = item(idFileList);
     refill(files, LB_RESETCONTENT, [&] {
-        for (const std::string& name : chooser_->lists().files())
+        for (const std::string& name : chooser_->files())
             addString(files, LB_ADDSTRING, name);
     });
-    win32::setText(item(idPathLabel), chooser_->lists().directory());
+    win32::setText(item(idPathLabel), chooser_->directory());
 }
 
 void FileChooserWindow::showDrives() {
     const HWND list = item(idDriveList);
-    const auto drives = chooser_->lists().drives();
-    const std::string drive = chooser_->lists().drive();
+    const auto drives = chooser_->drives();
+    const std::string drive = chooser_->drive();
     refill(list, CB_RESETCONTENT, [&] {
         for (std::size_t i = 0; i < drives.size(); ++i) {
             addString(list, CB_ADDSTRING, drives[i]);
@@ -74,7 +71,7 @@ void FileChooserWindow::showDrives() {
 
 void FileChooserWindow::showFolders() {
     const HWND list = item(idDirectoryList);
-    folders_ = chooser_->lists().folderRows();
+    folders_ = chooser_->folderRows();
     refill(list, LB_RESETCONTENT, [&] {
         int current = 0;
         for (std::size_t i = 0; i < folders_.size(); ++i) {

@@ -17,7 +17,7 @@ class FileChooserWindow : public win32::FormWindow {
 
   protected:
     void listen(FileChooser& chooser) { chooser_ = &chooser; }
-    /// Creates the lists with their labels; the file list begins `top` below the window's edge.
+    /// Creates the lists with their labels; the file list begins `top` pixels of the raster below the window's edge.
     void addLists(ControlKind fileList, int top);
     void showLists();
 

@@ -9,14 +9,14 @@
 namespace varno {
 
 void FileDeletion::open(const std::string& pattern, const std::string& dialogDirectory) {
-    lists().setPattern(pattern);
+    setPattern(pattern);
     view_.setConfirming(true);
     if (!dialogDirectory.empty()) {
         std::string directory = dialogDirectory;
         if (directory.ends_with('\\')) directory.pop_back();
         // "C:" alone would be wherever that drive stands, not its root.
         if (directory.ends_with(':')) directory += '\\';
-        lists().changeDirectory(directory);
+        changeDirectory(directory);
     }
     view_.refreshLists();
     view_.run();
@@ -52,8 +52,8 @@ void FileDeletion::deleteSelected() {
         if (!view_.isSelected(position)) continue;
         const std::string name = view_.entry(position);
         if (!view_.confirming() || view_.confirmed(upperCase(name), std::to_string(position)))
-            aboutFile(lists().pathOf(name), FileAction::deleting,
-                      [&] { calls_.remove(lists().pathOf(name)); });
+            aboutFile(pathOf(name), FileAction::deleting,
+                      [&] { calls_.remove(pathOf(name)); });
         view_.select(position, false);
     }
 }

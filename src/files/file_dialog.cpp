@@ -20,7 +20,7 @@ bool FileDialog::askAgain(const FileDialogUse& use) {
 }
 
 bool FileDialog::ask(const FileDialogUse& use, const std::string& name) {
-    lists().setPattern(use.pattern);
+    setPattern(use.pattern);
     dialogAnswer_ = 1;
     view_.setCaption(use.caption);
     view_.setNote(use.dialogForSaving == 1 ? savingNote : "");
@@ -36,18 +36,18 @@ void FileDialog::moveLists(const std::string& text) {
     const auto slash = text.rfind('\\');
     const bool pattern = text.find_first_of("*?") != std::string::npos;
 
-    if (colon != std::string::npos) lists().changeDrive(text.substr(0, colon) + ":");
+    if (colon != std::string::npos) changeDrive(text.substr(0, colon) + ":");
     if (slash != std::string::npos) {
         // "mapp\*.ind" names a folder and a pattern; the backslash of a root belongs to the folder.
         const bool root = slash == 0 || text[slash - 1] == ':';
         const std::string folder = pattern ? text.substr(0, root ? slash + 1 : slash) : text;
-        lists().changeDirectory(folder);
+        changeDirectory(folder);
     }
     if (pattern) {
         const auto start = slash != std::string::npos   ? slash + 1
                            : colon != std::string::npos ? colon + 1
                                                         : 0;
-        lists().setPattern(text.substr(start));
+        setPattern(text.substr(start));
     }
 }
 

@@ -44,7 +44,7 @@ class FileDialog : public FileChooser {
     bool askAgain(const FileDialogUse& use);
     std::string typedName; ///< the name accepted with "OK"
     /// The dialog's current directory & "\" & `name`.
-    std::string path(const std::string& name) { return lists().directory() + "\\" + name; }
+    std::string path(const std::string& name) { return directory() + "\\" + name; }
 
     // The window's side.
     void fileClicked(const std::string& name) { view_.setName(name); }

@@ -13,25 +13,21 @@ namespace {
 constexpr int width = raster(560);
 constexpr int height = raster(392);
 constexpr int heightWithoutNote = raster(340);
-constexpr int listTop = raster(64);
+constexpr int listTop = 64;
 constexpr std::array nameControls{
-    ControlSpec{idFileNameLabel, ControlKind::label, "FILNAMN:", raster(16), raster(16), raster(240),
-                raster(16)},
-    ControlSpec{idFileName, ControlKind::edit, "", raster(16), raster(34), raster(230), raster(22)},
+    inRaster(idFileNameLabel, ControlKind::label, "FILNAMN:", 16, 16, 240, 16),
+    inRaster(idFileName, ControlKind::edit, "", 16, 34, 230, 22),
 };
 constexpr std::array buttons{
-    ControlSpec{idOkButton, ControlKind::defaultButton, "OK", raster(458), raster(33), raster(86),
-                raster(26)},
-    ControlSpec{idCancelButton, ControlKind::button, "Avbryt", raster(458), raster(66), raster(86),
-                raster(26)},
-    ControlSpec{idNote, ControlKind::label, "", raster(16), raster(336), raster(528), raster(40)},
+    inRaster(idOkButton, ControlKind::defaultButton, "OK", 458, 33, 86, 26),
+    inRaster(idCancelButton, ControlKind::button, "Avbryt", 458, 66, 86, 26),
+    inRaster(idNote, ControlKind::label, "", 16, 336, 528, 40),
 };
 
 } // namespace
 
 void FileInfoWindow::create(HWND owner) {
-    Window::create(L"VarnoFileInfo", "", WS_POPUP | WS_CAPTION | WS_SYSMENU, WS_EX_DLGMODALFRAME, owner,
-                   nullptr, {});
+    createDialog(L"VarnoFileInfo", "", owner);
     addControls(nameControls);
     addLists(ControlKind::listBox, listTop);
     addControls(buttons);

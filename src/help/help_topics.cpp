@@ -9,9 +9,4 @@ unsigned helpContext(std::string_view topic) {
     return found == helpTopics.end() ? 0 : found->context;
 }
 
-std::string_view helpTopicOfContext(unsigned context) {
-    const auto found = std::ranges::find(helpTopics, context, &HelpTopic::context);
-    return found == helpTopics.end() ? std::string_view() : found->name;
-}
-
 } // namespace varno

@@ -3,8 +3,7 @@
 #include <span>
 #include <string_view>
 
-// The topics of the help. Help is asked for by context number, `WinHelp` with HELP_CONTEXT, and a window or control
-// carries its topic's number as its help context.
+// The topics of the help. Help is asked for by context number, `WinHelp` with HELP_CONTEXT.
 
 namespace varno {
 
@@ -18,7 +17,5 @@ extern const std::span<const HelpTopic> helpTopics;
 
 /// 0 for a topic that is not in the table.
 unsigned helpContext(std::string_view topic);
-/// The topic of a context number, empty when there is none.
-std::string_view helpTopicOfContext(unsigned context);
 
 } // namespace varno

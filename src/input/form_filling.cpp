@@ -37,10 +37,7 @@ void CaseFormFiller::showChoice(const ChoiceField& row) {
     const std::int16_t value = case_.*row.place;
     switch (row.kind) {
     case ChoiceKind::list:
-        form_.clearList(row.field);
-        for (const std::string_view option : row.options)
-            form_.addRow(row.field, option);
-        form_.selectRow(row.field, value - row.firstNumber);
+        form_.showRows(row.field, row.options, value - row.firstNumber);
         break;
     case ChoiceKind::options:
         form_.selectOption(row.field, value);

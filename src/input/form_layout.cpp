@@ -1,5 +1,6 @@
 #include "input/form_layout.h"
 
+#include <algorithm>
 #include <array>
 
 #include "controls/control_ids.h"
@@ -25,7 +26,7 @@ class LayoutBuilder {
 
     // The texts are literals, so a zero stands behind each.
     void add(int id, ControlKind kind, std::string_view text, int x, int y, int width, int height) {
-        controls_.push_back({id, kind, text.data(), raster(x), raster(y), raster(width), raster(height)});
+        controls_.push_back(inRaster(id, kind, text.data(), x, y, width, height));
     }
     void frame(std::string_view caption, int x, int y, int width, int height) {
         add(idFormLabel, ControlKind::group, caption, x, y, width, height);
@@ -224,6 +225,17 @@ int spanHeadId(int span) {
 
 int classFrameId(int ruleSet) {
     return idFormLabel + 40 + ruleSet;
+}
+
+std::optional<Control> gridNeighbour(Control control, int rows) {
+    constexpr std::array grid{Field::spv, Field::ptjl, Field::plast, Field::flast, Field::upl};
+    const auto found = std::ranges::find(grid, control.field);
+    if (found == grid.end()) return std::nullopt;
+    const auto row = static_cast<int>(found - grid.begin()) + rows;
+    if (row < 0 || row >= static_cast<int>(grid.size())) return std::nullopt;
+    // The left end support has no span of its own; up from it is the first span.
+    const Field target = grid[static_cast<std::size_t>(row)];
+    return Control{target, target == Field::upl ? control.index : std::max(1, control.index)};
 }
 
 std::vector<ControlSpec> inputFormLayout() {

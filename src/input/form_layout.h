@@ -1,8 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "controls/control_spec.h"
+#include "controls/field.h"
 
 namespace varno {
 
@@ -18,6 +20,11 @@ std::vector<ControlSpec> inputFormLayout();
 /// begins there, so that support 0 is left of span 1 and support n right of span n.
 inline constexpr int gridColumn = 600;
 inline constexpr int firstSpanX = raster(190);
+
+/// The box below (`rows` 1) or above (-1) one of the grid's boxes, in the same column: spans stand over the
+/// support at their right end. Nothing beyond the first and last row, and nothing for a control outside the
+/// grid.
+std::optional<Control> gridNeighbour(Control control, int rows);
 
 /// The ID of the number above a span's column.
 int spanHeadId(int span);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -21,10 +22,8 @@ class FormView {
     virtual void setEnabled(Control control, bool enabled) = 0;
     virtual void setCaption(Control control, const std::string& caption) = 0;
 
-    virtual void clearList(Field list) = 0;
-    virtual void addRow(Field list, std::string_view row) = 0;
-    /// Selects a row, from 0; a row the list does not have selects nothing.
-    virtual void selectRow(Field list, int row) = 0;
+    /// Fills a list anew and selects a row, from 0; a row the list does not have selects nothing.
+    virtual void showRows(Field list, std::span<const std::string_view> rows, int selected) = 0;
     /// -1 when nothing is selected.
     virtual int selectedRow(Field list) const = 0;
 
@@ -35,7 +34,8 @@ class FormView {
     virtual void setChecked(Field box, bool checked) = 0;
 
     virtual void focus(Control control) = 0;
-    virtual void selectAll(Control control) = 0;
+    /// The same, with the whole text selected.
+    virtual void enter(Control control) = 0;
     /// The focus goes back to a box, its text selected, once the event is over.
     virtual void returnTo(Control control) = 0;
     /// A word beside a box that the user types in, which takes no focus and goes by itself. Nothing happens when the box

@@ -40,11 +40,11 @@ void InputForm::leaveNumber(const TextField& row, int index) {
     } else if (const auto* whole = std::get_if<std::int16_t DesignCase::*>(&row.place)) {
         leaveWhole(row, designCase.**whole);
     } else if (std::holds_alternative<float DesignCase::*>(row.place)) {
-        spans_.leaveCantilever(row);
+        leaveCantilever(row);
     } else if (row.field == Field::upl) {
-        spans_.leaveSupport(row, index);
+        leaveSupport(row, index);
     } else {
-        spans_.leaveSpanCell(row, index);
+        leaveSpanCell(row, index);
     }
 }
 
@@ -78,9 +78,9 @@ void InputForm::storeRow(const ChoiceField& row) {
 
 void InputForm::clicked(Control control) {
     if (const RuleSet* rules = ruleSetWith(&RuleSet::classGroup, control.field)) {
-        loads_.classClicked(*rules, control.index);
+        classClicked(*rules, control.index);
     } else if (control.field == Field::lokt) {
-        loads_.categoryChosen(context_.form.selectedRow(Field::lokt));
+        categoryChosen(context_.form.selectedRow(Field::lokt));
     } else if (control.field == Field::brandk) {
         storeRow(*choiceField(Field::brandk));
         context_.filler.showFireOptions();

@@ -1,23 +1,43 @@
 #pragma once
 
-#include "input/field_table.h"
-#include "input/input_context.h"
-#include "input/load_rules.h"
-#include "input/span_rules.h"
+#include "controls/main_view.h"
+#include "controls/rule_sets.h"
+#include "input/form_filling.h"
+#include "input/form_view.h"
+#include "input/sketch_refresh.h"
+#include "model/design_case.h"
 
 namespace varno {
+
+/// What the rules of the input form work on. Everything outlives them.
+struct InputContext {
+    DesignCase& designCase;
+    DocumentState& document;
+    FormView& form;
+    MainView& window;
+    CaseFormFiller& filler;
+    SketchRefresh& sketch;
+
+    FormBoxes& boxes() const { return filler.boxes(); }
+    /// There is something to save, and the last moment curve no longer fits the input.
+    void markChanged() const {
+        document.dataChanged = true;
+        window.setDiagramEnabled(false);
+    }
+};
 
 /// The rules of the main input form. The window forwards its events and shows what it is told.
 ///
 /// Input is never rejected: a text is read as the number it begins with, rewritten in its field's pattern and
-/// stored. Only what no number type can hold raises a run-time error (6; 9 for an index): the event stops,
-/// the record keeps its value and the box shows it again.
+/// stored. Only what no number type can hold raises run-time error 6, and an index, a number of spans or a load
+/// category that there is no room for 9: the event stops, the record is as it was and the box shows it again.
+/// Errors of the sketch come after everything is stored and shown.
 ///
 /// Events arrive while a rule runs: setting a text or a row brings `changed`, taking the focus `lostFocus` of
 /// the field that had it. Both are expected.
 class InputForm {
   public:
-    explicit InputForm(const InputContext& context) : context_(context), spans_(context_), loads_(context_) {}
+    explicit InputForm(const InputContext& context) : context_(context) {}
     InputForm(const InputForm&) = delete;
     InputForm& operator=(const InputForm&) = delete;
 
@@ -28,17 +48,16 @@ class InputForm {
     /// The user chose: a row of `lokt` or `brandk` (already selected), an option (the index), or the check
     /// box (the index is its state: 1 ticked, 0 clear, 2 grey).
     void clicked(Control control);
-    void spinUp() { spans_.addSpan(); }
-    void spinDown() { spans_.removeSpan(); }
-    /// A click on the visible flag of the main window, 1..6, or on the neutral picture, 0.
-    void flagClicked(int flag) { loads_.flagClicked(flag); }
-    void switchToSwedishRules() { loads_.switchToSwedishRules(); }
-    /// The form became the active window.
-    void activated() { context_.form.focus({Field::rubrik}); }
+    void spinUp();
+    void spinDown();
+    /// A click on the visible flag of the main window, 1..6: goes on to the rule set that follows. The neutral
+    /// picture of a case without rules (0) leads to the Swedish ones, as flag 6 does.
+    void flagClicked(int flag);
+    void switchToSwedishRules();
+    /// The form became the active window, or was clicked beside all controls.
+    void focusTitle() { context_.form.focus({Field::rubrik}); }
     /// Tab went past the last control, or before the first.
     void tabbedOut() { context_.window.focusFlag(); }
-    /// A click beside all controls.
-    void formClicked() { context_.form.focus({Field::rubrik}); }
 
   private:
     void titleChanged();
@@ -48,9 +67,25 @@ class InputForm {
     void storeRow(const ChoiceField& row);
     void choose(const ChoiceField& row, int option);
 
+    // The grid of spans and supports, the cantilevers and the number of spans: span_rules.cpp.
+    /// A changed value goes into the span and into all spans behind it.
+    void leaveSpanCell(const TextField& row, int span);
+    /// A changed width goes into the support and into the inner supports behind it. End supports stay 0.
+    void leaveSupport(const TextField& row, int support);
+    /// The length is stored as typed, not as shown.
+    void leaveCantilever(const TextField& row);
+    void leaveCell(const TextField& row, int index, int last);
+    int spanCount() const;
+    int countFrom(double wanted) const;
+    void enterCount(double wanted, int lastCleared);
+    void redraw(Redraws what);
+
+    // The rule set, its class, and the load category: load_rules.cpp.
+    void enterRuleSet(const RuleSet& rules);
+    void categoryChosen(int row);
+    void classClicked(const RuleSet& rules, int option);
+
     InputContext context_;
-    SpanRules spans_;
-    LoadRules loads_;
 };
 
 } // namespace varno

@@ -2,17 +2,14 @@
 
 #include <commctrl.h>
 
-#include "controls/control_ids.h"
 #include "controls/rule_sets.h"
 #include "input/field_table.h"
-#include "input/form_keys.h"
 #include "input/form_layout.h"
 #include "win32/accessible_names.h"
 #include "win32/strings.h"
 
 namespace varno {
 
-using win32::narrow;
 using win32::wide;
 
 namespace {
@@ -22,14 +19,10 @@ constexpr int mostOptions = 4;
 
 } // namespace
 
-int InputFormWindow::controlNumber(Control control) {
-    return controlId(control);
-}
-
 void InputFormWindow::create(HWND mdiClient) {
     // Without WS_CLIPCHILDREN: a frame has no background of its own, it shows that of the form.
     // Hidden until there is a case in it: start-up shows other windows first.
-    createMdiChild(L"VarnoInputForm", WS_CHILD, mdiClient, {0, 0, 100, 100});
+    Window::create(L"VarnoInputForm", "", WS_CHILD, WS_EX_MDICHILD, mdiClient, nullptr, {0, 0, 100, 100});
     setDpi(win32::dpiOf(mdiClient));
     addControls(inputFormLayout());
     SendMessageW(item(controlId({Field::rubrik})), EM_SETLIMITTEXT, 255, 0);
@@ -51,7 +44,7 @@ void InputFormWindow::changeDpi(int dpi) {
 }
 
 std::string InputFormWindow::text(Control control) const {
-    return win32::textOf(this->control(control));
+    return win32::textOf(window(control));
 }
 
 void InputFormWindow::setText(Control control, const std::string& text) {
@@ -59,46 +52,38 @@ void InputFormWindow::setText(Control control, const std::string& text) {
 }
 
 void InputFormWindow::setVisible(Control control, bool visible) {
-    ShowWindow(this->control(control), visible ? SW_SHOWNA : SW_HIDE);
+    ShowWindow(window(control), visible ? SW_SHOWNA : SW_HIDE);
     // The number above a column comes and goes with it.
     if (control.field == Field::spv)
         ShowWindow(item(spanHeadId(control.index)), visible ? SW_SHOWNA : SW_HIDE);
 }
 
 void InputFormWindow::setEnabled(Control control, bool enabled) {
-    EnableWindow(this->control(control), enabled);
+    EnableWindow(window(control), enabled);
 }
 
 void InputFormWindow::setCaption(Control control, const std::string& caption) {
-    win32::setText(this->control(control), caption);
+    win32::setText(window(control), caption);
 }
 
-void InputFormWindow::clearList(Field list) {
-    clearRows(controlNumber({list}));
-}
-
-void InputFormWindow::addRow(Field list, std::string_view row) {
-    SendMessageW(control({list}), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(wide(row).c_str()));
-}
-
-void InputFormWindow::selectRow(Field list, int row) {
-    const HWND box = control({list});
-    const bool known = row >= 0 && row < SendMessageW(box, CB_GETCOUNT, 0, 0);
-    const int wanted = known ? row : -1;
-    const bool another = selectedRow(list) != wanted;
-    showRow(controlNumber({list}), wanted);
-    if (!another) return;
+void InputFormWindow::showRows(Field list, std::span<const std::string_view> rows, int selected) {
+    const HWND box = window({list});
+    clearRows(controlId({list}));
+    for (const std::string_view row : rows)
+        SendMessageW(box, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(wide(row).c_str()));
+    if (selected < 0 || selected >= static_cast<int>(rows.size())) return;
+    showRow(controlId({list}), selected);
     // Windows tells nothing of a row that the program chose; the change rule runs for it all the same.
     if (rules_ != nullptr) guarded([&] { rules_->changed({list}); });
 }
 
 int InputFormWindow::selectedRow(Field list) const {
-    return static_cast<int>(SendMessageW(control({list}), CB_GETCURSEL, 0, 0));
+    return static_cast<int>(SendMessageW(window({list}), CB_GETCURSEL, 0, 0));
 }
 
 void InputFormWindow::selectOption(Field group, int option) {
     for (int i = 1; i <= mostOptions; ++i) {
-        const HWND button = control({group, i});
+        const HWND button = window({group, i});
         if (button != nullptr)
             SendMessageW(button, BM_SETCHECK, i == option ? BST_CHECKED : BST_UNCHECKED, 0);
     }
@@ -108,29 +93,17 @@ void InputFormWindow::showGroup(Field group, bool visible) {
     ShowWindow(item(classFrameId(ruleSetWith(&RuleSet::classGroup, group)->number)),
                visible ? SW_SHOWNA : SW_HIDE);
     for (int i = 1; i <= mostOptions; ++i) {
-        const HWND button = control({group, i});
+        const HWND button = window({group, i});
         if (button != nullptr) ShowWindow(button, visible ? SW_SHOWNA : SW_HIDE);
     }
 }
 
 void InputFormWindow::setChecked(Field box, bool checked) {
-    SendMessageW(control({box}), BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED, 0);
-}
-
-void InputFormWindow::focus(Control control) {
-    SetFocus(this->control(control));
-}
-
-void InputFormWindow::selectAll(Control control) {
-    SendMessageW(this->control(control), EM_SETSEL, 0, -1);
-}
-
-void InputFormWindow::returnTo(Control control) {
-    postReturnTo(controlId(control));
+    SendMessageW(window({box}), BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED, 0);
 }
 
 void InputFormWindow::showHint(Control control, const std::string& text) {
-    const HWND box = this->control(control);
+    const HWND box = window(control);
     if (GetFocus() == box) hint_.show(box, text);
 }
 
@@ -141,23 +114,21 @@ LRESULT InputFormWindow::defaultProc(UINT message, WPARAM wParam, LPARAM lParam)
 void InputFormWindow::onCommand(int id, int notification) {
     const auto control = controlOfId(id);
     if (!control || rules_ == nullptr) return;
-    const HWND window = item(id);
-    wchar_t className[16] = L"";
-    GetClassNameW(window, className, 16);
-    const std::wstring kind = className;
-    if (kind == L"Edit") {
+    const HWND box = item(id);
+    const std::string kind = win32::classOf(box);
+    if (kind == "Edit") {
         if (notification == EN_CHANGE) rules_->changed(*control);
-        if (notification == EN_SETFOCUS) lastFocused_ = window;
+        if (notification == EN_SETFOCUS) lastFocused_ = box;
         if (notification == EN_KILLFOCUS) rules_->lostFocus(*control);
-    } else if (kind == L"ComboBox") {
-        if (notification == CBN_SETFOCUS) lastFocused_ = window;
+    } else if (kind == "ComboBox") {
+        if (notification == CBN_SETFOCUS) lastFocused_ = box;
         if (notification == CBN_SELCHANGE) {
             rules_->changed(*control);
             rules_->clicked(*control);
         }
         if (notification == CBN_KILLFOCUS) rules_->lostFocus(*control);
     } else if (notification == BN_CLICKED) {
-        clickButton(*control, window);
+        clickButton(*control, box);
     }
 }
 
@@ -171,11 +142,10 @@ void InputFormWindow::clickButton(Control control, HWND button) {
     }
 }
 
-void InputFormWindow::enter(HWND control) {
-    SetFocus(control);
+void InputFormWindow::enter(HWND box) {
+    SetFocus(box);
     // As Windows does for Tab: what is typed next replaces what is there.
-    if ((SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0)
-        SendMessageW(control, EM_SETSEL, 0, -1);
+    if ((SendMessageW(box, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0) SendMessageW(box, EM_SETSEL, 0, -1);
 }
 
 void InputFormWindow::focusEnd(bool last) {
@@ -201,12 +171,12 @@ bool InputFormWindow::moveInColumn(Control from, int rows) {
         } else {
             rules_->spinDown();
         }
-        enter(control({Field::nfack}));
+        enter(window({Field::nfack}));
         return true;
     }
     // A locked box is passed over.
     for (auto next = gridNeighbour(from, rows); next; next = gridNeighbour(*next, rows)) {
-        const HWND box = control(*next);
+        const HWND box = window(*next);
         if (!IsWindowVisible(box) || !IsWindowEnabled(box)) continue;
         enter(box);
         return true;
@@ -248,7 +218,7 @@ LRESULT InputFormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         SetFocus(lastFocused_ != nullptr ? lastFocused_ : item(controlId({Field::rubrik})));
         return 0;
     case WM_LBUTTONDOWN:
-        if (rules_ != nullptr) rules_->formClicked();
+        if (rules_ != nullptr) rules_->focusTitle();
         return 0;
     case WM_NOTIFY: {
         const auto& header = *reinterpret_cast<const NMHDR*>(lParam);

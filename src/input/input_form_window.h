@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/control_ids.h"
 #include "input/input_form.h"
 #include "win32/balloon.h"
 #include "win32/form_window.h"
@@ -30,16 +31,14 @@ class InputFormWindow : public win32::FormWindow, public FormView {
     void setVisible(Control control, bool visible) override;
     void setEnabled(Control control, bool enabled) override;
     void setCaption(Control control, const std::string& caption) override;
-    void clearList(Field list) override;
-    void addRow(Field list, std::string_view row) override;
-    void selectRow(Field list, int row) override;
+    void showRows(Field list, std::span<const std::string_view> rows, int selected) override;
     int selectedRow(Field list) const override;
     void selectOption(Field group, int option) override;
     void showGroup(Field group, bool visible) override;
     void setChecked(Field box, bool checked) override;
-    void focus(Control control) override;
-    void selectAll(Control control) override;
-    void returnTo(Control control) override;
+    void focus(Control control) override { SetFocus(window(control)); }
+    void enter(Control control) override { enter(window(control)); }
+    void returnTo(Control control) override { postReturnTo(controlId(control)); }
     void showHint(Control control, const std::string& text) override;
     void hideHint() override { hint_.hide(); }
 
@@ -53,9 +52,8 @@ class InputFormWindow : public win32::FormWindow, public FormView {
     void clickButton(Control control, HWND button);
     bool moveOn(HWND from, bool backwards);
     bool moveInColumn(Control from, int rows);
-    void enter(HWND control);
-    HWND control(Control control) const { return item(controlNumber(control)); }
-    static int controlNumber(Control control);
+    static void enter(HWND box);
+    HWND window(Control control) const { return item(controlId(control)); }
 
     InputForm* rules_ = nullptr;
     HWND lastFocused_ = nullptr;

@@ -1,5 +1,5 @@
-#include "input/load_rules.h"
-
+// The rule set, its class, and the load category.
+#include "input/input_form.h"
 #include "model/reference_tables.h"
 
 namespace varno {
@@ -16,7 +16,7 @@ const RuleSet& ruleSetOfFlag(int flag) {
 
 } // namespace
 
-void LoadRules::flagClicked(int flag) {
+void InputForm::flagClicked(int flag) {
     const RuleSet& next = ruleSetOfFlag(flag + 1);
     if (next.number == swedishRules) {
         switchToSwedishRules();
@@ -25,7 +25,7 @@ void LoadRules::flagClicked(int flag) {
     }
 }
 
-void LoadRules::enterRuleSet(const RuleSet& rules) {
+void InputForm::enterRuleSet(const RuleSet& rules) {
     context_.document.dataChanged = true;
     // A flag takes no focus. A factor being typed in belongs to the rule set that is left, and its box may be
     // locked in a moment.
@@ -50,12 +50,12 @@ void LoadRules::enterRuleSet(const RuleSet& rules) {
     context_.filler.showRuleSet();
 }
 
-void LoadRules::switchToSwedishRules() {
+void InputForm::switchToSwedishRules() {
     enterRuleSet(ruleSets.front());
     context_.filler.fillCaseLists();
 }
 
-void LoadRules::categoryChosen(int row) {
+void InputForm::categoryChosen(int row) {
     DesignCase& designCase = context_.designCase;
     const float load = loadFactorTable(designCase.loadCode, row);
     designCase.lokt = static_cast<std::int16_t>(row);
@@ -73,7 +73,7 @@ void LoadRules::categoryChosen(int row) {
     }
 }
 
-void LoadRules::classClicked(const RuleSet& rules, int option) {
+void InputForm::classClicked(const RuleSet& rules, int option) {
     if (rules.classWritten == 0) return;
     const int options = static_cast<int>(rules.classes.size());
     if (option < 1 || option > options) throw RunTimeError(errSubscriptOutOfRange);

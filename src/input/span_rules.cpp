@@ -1,6 +1,7 @@
-#include "input/span_rules.h"
-
+// The grid of spans and supports, the cantilevers and the number of spans.
 #include <algorithm>
+
+#include "input/input_form.h"
 
 namespace varno {
 
@@ -11,22 +12,22 @@ constexpr Control countBox{Field::nfack};
 } // namespace
 
 // A damaged file leaves any count behind; what goes through the spans asks for it before it changes anything.
-int SpanRules::spanCount() const {
+int InputForm::spanCount() const {
     const int count = context_.designCase.nfack;
     if (count > SpanArray::last) throw RunTimeError(errSubscriptOutOfRange);
     return count;
 }
 
-void SpanRules::redraw(Redraws what) {
+void InputForm::redraw(Redraws what) {
     if (what == Redraws::all) context_.sketch.fullRefresh();
     if (what == Redraws::geometry) context_.sketch.geometryRefresh();
 }
 
-void SpanRules::leaveSpanCell(const TextField& row, int span) {
+void InputForm::leaveSpanCell(const TextField& row, int span) {
     if (span >= 1) leaveCell(row, span, spanCount());
 }
 
-void SpanRules::leaveSupport(const TextField& row, int support) {
+void InputForm::leaveSupport(const TextField& row, int support) {
     const int count = spanCount();
     if (support > 0 && support < count) {
         leaveCell(row, support, count - 1);
@@ -36,7 +37,7 @@ void SpanRules::leaveSupport(const TextField& row, int support) {
     }
 }
 
-void SpanRules::leaveCell(const TextField& row, int index, int last) {
+void InputForm::leaveCell(const TextField& row, int index, int last) {
     if (index > last) return;
     SpanArray& values = context_.designCase.*std::get<SpanArray DesignCase::*>(row.place);
     const Control cell{row.field, index};
@@ -55,7 +56,7 @@ void SpanRules::leaveCell(const TextField& row, int index, int last) {
     });
 }
 
-void SpanRules::leaveCantilever(const TextField& row) {
+void InputForm::leaveCantilever(const TextField& row) {
     float& length = context_.designCase.*std::get<float DesignCase::*>(row.place);
     const Control box{row.field};
     context_.boxes().leave(box, row.pattern, [&](double typed) {
@@ -66,13 +67,13 @@ void SpanRules::leaveCantilever(const TextField& row) {
     });
 }
 
-void SpanRules::addSpan() {
+void InputForm::spinUp() {
     const std::string text = context_.form.text(countBox);
     if (VARNO1::parseNumber(text) >= maxSpans) return;
     enterCount(VARNO1::plainNumber(text) + 1, maxSpans);
 }
 
-void SpanRules::removeSpan() {
+void InputForm::spinDown() {
     const std::string text = context_.form.text(countBox);
     if (!(VARNO1::parseNumber(text) > 1)) return;
     enterCount(VARNO1::plainNumber(text) - 1, context_.designCase.nfack);
@@ -80,13 +81,13 @@ void SpanRules::removeSpan() {
 
 // The count box takes any text, so a step can lead anywhere. The form has boxes for ten spans; only a case
 // read with more may keep more, to be counted down.
-int SpanRules::countFrom(double wanted) const {
+int InputForm::countFrom(double wanted) const {
     const int count = toInteger(asShown(wanted, "#0"));
     if (count < 1 || count > std::max(maxSpans, spanCount())) throw RunTimeError(errSubscriptOutOfRange);
     return count;
 }
 
-void SpanRules::enterCount(double wanted, int lastCleared) {
+void InputForm::enterCount(double wanted, int lastCleared) {
     int count = 0;
     context_.boxes().attempt(countBox, [&] { count = countFrom(wanted); });
     DesignCase& designCase = context_.designCase;

@@ -7,7 +7,6 @@
 #include "files/file_deletion.h"
 #include "shell/application_parts.h"
 #include "shell/help_contexts.h"
-#include "shell/save_prompt_window.h"
 #include "win32/dpi.h"
 #include "win32/printer_fonts.h"
 #include "win32/user_locale.h"
@@ -34,7 +33,6 @@ Application::Application()
       printing_(files_, boxes_, main_, printer_, fileDialog_), diagram_(case_, sketch_) {
     main_.listen(*this);
     form_.create(main_.mdiClient());
-    setHelpContexts(main_.handle(), form_.handle());
     helpSystem_.setOwner(main_.handle());
     fileInfo_.create(main_.handle());
     fileInfo_.listen(fileDialog_);
@@ -48,7 +46,7 @@ Application::~Application() {
 
 int Application::run() {
     try {
-        StartUp(settings_, document_, files_, main_, *this).run();
+        startUp(settings_, document_, files_, main_, *this);
     } catch (const RunTimeError& error) {
         boxes_.show(error.message(), MB_OK | MB_ICONERROR, errorTitle);
         return 1;
@@ -63,7 +61,7 @@ int Application::run() {
 
 void Application::offerLeftovers() {
     try {
-        LeftoverQuestions(leftovers_, boxes_).ask(fileDialog_.lists().directory());
+        LeftoverQuestions(leftovers_, boxes_).ask(fileDialog_.directory());
     } catch (const RunTimeError& error) {
         report(error);
     }
@@ -178,7 +176,7 @@ void Application::endTyping() {
     form_.focus({Field::rubrik});
 }
 void Application::activated() {
-    if (IsWindowVisible(form_.handle())) input_.activated();
+    if (IsWindowVisible(form_.handle())) input_.focusTitle();
 }
 void Application::flagClicked(int flag) {
     const bool keyboard = GetFocus() == main_.flagButton();
@@ -228,7 +226,7 @@ void Application::clientResized(int width, int height) {
 }
 
 void Application::helpRequested(const HELPINFO& request) {
-    const std::string_view topic = helpTopicOfRequest(request);
+    const std::string topic = helpTopicOfRequest(request);
     if (!topic.empty()) help_.show(topic, settings_.workFolder);
 }
 
@@ -242,8 +240,7 @@ void Application::showRunTimeError() {
 // Document
 
 SaveAnswer Application::askToSave(const std::string& caption, const std::string& text, bool cancelOffered) {
-    SavePromptWindow prompt(*this, main_.handle());
-    return prompt.ask(caption, text, cancelOffered);
+    return varno::askToSave(host(), main_.handle(), caption, text, cancelOffered);
 }
 
 void Application::endProgram() {
@@ -259,13 +256,11 @@ void Application::showMainWindow() {
 }
 
 bool Application::showVersionNotice() {
-    VersionNoticeWindow notice(*this, main_.handle());
-    return notice.ask();
+    return askVersionNotice(host(), main_.handle());
 }
 
 void Application::showDisclaimer() {
-    DisclaimerWindow disclaimer(*this, main_.handle());
-    disclaimer.runModal();
+    DisclaimerWindow(host(), main_.handle()).runModal();
 }
 
 void Application::showInputForm() {

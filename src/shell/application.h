@@ -16,15 +16,12 @@
 #include "results/result_printing.h"
 #include "shell/document.h"
 #include "shell/main_window.h"
-#include "shell/notice_window.h"
+#include "shell/prompt_window.h"
 #include "shell/rescue_window.h"
 #include "shell/start_up.h"
 #include "win32/crash_guard.h"
 #include "win32/gdi_printer.h"
 #include "win32/help.h"
-#include "win32/message_box.h"
-#include "win32/process.h"
-#include "win32/win32_folders.h"
 
 namespace varno {
 
@@ -87,7 +84,6 @@ class Application : private win32::WindowHost, private MainEvents, private Docum
     /// A line load editor with its window, made on first use.
     struct LineLoads;
     void openLineLoads(std::unique_ptr<LineLoads>& editor, const LineLoadSet& set);
-    void showForm();
     void offerRescued();
     InputContext inputContext();
 
@@ -99,9 +95,9 @@ class Application : private win32::WindowHost, private MainEvents, private Docum
     bool ended_ = false;
     std::deque<RunTimeError> reported_; ///< not shown yet
 
-    win32::WindowsMessageBoxes boxes_;
-    win32::WindowsFolders folders_;
-    win32::ProcessRunner processes_;
+    MessageBoxes& boxes_ = systemMessageBoxes();
+    Folders& folders_ = systemFolders();
+    ProcessStarter& processes_ = systemProcesses();
     FileOpener files_;
     win32::WindowsHelp helpSystem_;
     HelpViewer help_{helpSystem_, boxes_};

@@ -17,7 +17,7 @@ void Application::showResult() {
 
 void Application::showImportant() {
     if (!important_) important_ = std::make_unique<DisclaimerWindow>(host(), main_.handle());
-    important_->showModeless();
+    important_->bringForward();
 }
 
 void Application::setUpPrinter() {
@@ -28,7 +28,7 @@ void Application::deleteFiles(const char* pattern) {
     DeletionWindow window(host(), main_.handle());
     FileDeletion deletion(folders_, systemFileCalls(), boxes_, window);
     window.listen(deletion);
-    deletion.open(pattern, fileDialog_.lists().directory());
+    deletion.open(pattern, fileDialog_.directory());
 }
 
 void Application::showMoments() {
@@ -43,15 +43,10 @@ void Application::showMoments() {
 void Application::openLineLoads(std::unique_ptr<LineLoads>& editor, const LineLoadSet& set) {
     const BusyPointer busy(main_);
     if (!editor) {
-        editor = std::make_unique<LineLoads>(host(), main_.handle(), set, case_, state_, main_, sketch_, form_,
-                                             locale_);
+        editor = std::make_unique<LineLoads>(host(), main_.handle(), set, case_, state_, main_, sketch_,
+                                             form_, locale_);
     }
     editor->rules.opened();
-}
-
-void Application::showForm() {
-    main_.show(form_.naturalSize());
-    input_.activated();
 }
 
 void Application::caseOpened() {

@@ -30,11 +30,6 @@ std::string Document::saveQuestion() const {
     return "Vill Du spara ändringarna i " + state_.currentFileName + ".IND" + " ?";
 }
 
-void Document::selectTitle() {
-    form_.focus({Field::rubrik});
-    form_.selectAll({Field::rubrik});
-}
-
 void Document::read(const std::string& path, bool asSaved) {
     DesignCase presets = case_;
     presetDesignCase(presets);
@@ -54,7 +49,7 @@ void Document::commit(const CaseFile& opened, bool asSaved) {
     window_.setCaption(caption());
     window_.setDiagramEnabled(false);
     filler_.showCase(opened.title);
-    selectTitle();
+    form_.enter({Field::rubrik});
     state_.dataChanged = false;
     try {
         view_.caseOpened();
@@ -207,14 +202,14 @@ RescuedCase Document::toKeep() {
     kept.caseSaved = state_.caseSaved;
     kept.readFrom = readFrom_;
     kept.savedTo = savedTo_;
-    kept.directory = dialog_.lists().directory();
+    kept.directory = dialog_.directory();
     return kept;
 }
 
 void Document::restore(const RescuedCase& rescued) {
     bool folderThere = true;
     try {
-        dialog_.lists().changeDirectory(rescued.directory);
+        dialog_.changeDirectory(rescued.directory);
     } catch (const RunTimeError&) {
         // Save must not write under the case's name into some other folder.
         folderThere = false;

@@ -71,7 +71,6 @@ class Document : public RescueSource {
     void write(const std::string& path);
     void tellLost();
     bool mayReplace(const std::string& path, const std::string& title);
-    void selectTitle();
 
     DesignCase& case_;
     DocumentState& state_;

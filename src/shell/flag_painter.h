@@ -4,7 +4,7 @@
 
 namespace varno {
 
-/// Paints a flag button. A pressed one is drawn a little smaller, the focused one with the focus frame.
+/// Paints the button of flag 0..6. A pressed one is drawn a little smaller, the focused one with the focus frame.
 void paintFlag(HDC dc, const RECT& box, int flag, bool pressed, bool focused);
 
 } // namespace varno

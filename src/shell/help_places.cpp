@@ -4,8 +4,8 @@
 #include <array>
 #include <string>
 
+#include "controls/control_ids.h"
 #include "controls/rule_sets.h"
-#include "help/help_topics.h"
 #include "input/field_table.h"
 #include "shell/menu_table.h"
 
@@ -44,30 +44,28 @@ std::string helpTopicOf(Control control) {
 }
 
 std::string_view helpTopicOf(LineLoadControl control) {
-    switch (control.box) {
-    case LineLoadBox::nllast:
-        return "falt-nllast";
-    case LineLoadBox::llfnr:
-        return "falt-llfnr";
-    case LineLoadBox::avst:
-        return "falt-avst";
-    case LineLoadBox::lllast:
-        return "falt-lllast";
-    case LineLoadBox::multiplier:
-        break;
-    }
-    constexpr std::array<std::string_view, 4> multipliers{"falt-mfbro", "falt-mfbru", "falt-mflan",
-                                                          "falt-mfbra"};
+    constexpr std::array boxes{"falt-nllast", "falt-llfnr", "falt-avst", "falt-lllast"};
+    constexpr std::array multipliers{"falt-mfbro", "falt-mfbru", "falt-mflan", "falt-mfbra"};
+    if (control.box != LineLoadBox::multiplier) return boxes[static_cast<std::size_t>(control.box)];
     const auto place = static_cast<std::size_t>(control.index - 1);
     return place < multipliers.size() ? multipliers[place] : "multiplikatorer";
 }
 
-std::string_view helpTopicOfMenu(int id) {
-    for (const MenuEntry& entry : menuTree) {
-        if (id == 0 || entry.id != id) continue;
-        return helpTopicOfContext(helpContext(std::string("meny-") + entry.name));
+std::string helpTopicOf(std::string_view windowClass, int id) {
+    if (windowClass == "VarnoMain" && id >= idFlag && id < idFlag + flagCount) return "falt-flagga";
+    if (windowClass == "VarnoInputForm") {
+        const auto control = controlOfId(id);
+        return control ? helpTopicOf(*control) : "";
     }
-    return "menyer";
+    if (windowClass != "VarnoLineLoads" && windowClass != "VarnoFreeLineLoads") return {};
+    const int offset = id == idLineLoadSpin ? 0 : id - idLineLoadField;
+    if (offset < 0 || offset / 10 > static_cast<int>(LineLoadBox::multiplier)) return {};
+    return std::string(helpTopicOf({static_cast<LineLoadBox>(offset / 10), offset % 10}));
+}
+
+std::string helpTopicOfMenu(int id) {
+    const auto entry = std::ranges::find(menuTree, id, &MenuEntry::id);
+    return id == 0 || entry == menuTree.end() ? "menyer" : std::string("meny-") + entry->name;
 }
 
 std::string_view helpTopicOfWindow(std::string_view className) {

@@ -18,7 +18,6 @@ namespace varno {
 namespace {
 
 constexpr UINT showErrorMessage = WM_APP + 1;
-constexpr int flagCount = 7;    // the neutral picture and flags 1 to 6
 constexpr int buttonCount = 16; // stod
 
 // The band above the MDI client, in twips. The load picture stands as far to the right of the slab strip's
@@ -153,8 +152,7 @@ void MainWindow::show(SIZE form) {
         UpdateWindow(handle());
         return;
     }
-    ShowWindow(handle(), IsIconic(handle()) ? SW_RESTORE : SW_SHOW);
-    SetForegroundWindow(handle());
+    bringForward();
 }
 
 void MainWindow::layOut() {

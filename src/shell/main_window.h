@@ -60,7 +60,6 @@ class MainWindow : public win32::Window, public MainView {
     void setCaption(const std::string& caption) override;
     void setBusy(bool busy) override;
     void setDiagramEnabled(bool enabled) override;
-    bool diagramEnabled() const override { return diagramEnabled_; }
     void showFlag(int flag) override;
     void focusFlag() override { SetFocus(flagButton()); }
 

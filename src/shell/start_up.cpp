@@ -1,7 +1,7 @@
 #include "shell/start_up.h"
 
 #include <bit>
-#include <cstdint>
+#include <cstring>
 
 #include "base/run_time_error.h"
 #include "base/text.h"
@@ -11,84 +11,68 @@ namespace varno {
 
 namespace {
 
-// varno.ver: bytes 0 to 3 are a little-endian single.
+// Its bytes 0 to 3 are a little-endian single: the version whose notice was last dismissed for good.
 constexpr const char* noticeFile = "varno.ver";
+static_assert(std::endian::native == std::endian::little);
 
-float singleOf(const Bytes& bytes) {
-    std::uint32_t bits = 0;
-    for (std::size_t i = 0; i < sizeof bits; ++i) {
-        bits |= std::uint32_t{static_cast<unsigned char>(bytes[i])} << (8 * i);
-    }
-    return std::bit_cast<float>(bits);
+std::string readWorkFolder(FileOpener& files) {
+    File file = files.openFile("varno.ini", FileMode::input);
+    return decodeWindows1252(VARNO1::fromOemLetters(file.readField()));
 }
 
-Bytes bytesOf(float value) {
-    const auto bits = std::bit_cast<std::uint32_t>(value);
-    Bytes bytes;
-    for (std::size_t i = 0; i < sizeof bits; ++i)
-        bytes += static_cast<char>((bits >> (8 * i)) & 0xFF);
-    return bytes;
+float readNoticeVersion(FileOpener& files) {
+    float version = 0;
+    const Bytes bytes = files.openFile(noticeFile, FileMode::binary).get(1, sizeof version);
+    std::memcpy(&version, bytes.data(), sizeof version);
+    return version;
+}
+
+void storeNoticeVersion(FileOpener& files, float version) {
+    File file = files.openFile(noticeFile, FileMode::binary);
+    file.put(1, {reinterpret_cast<const char*>(&version), sizeof version});
+    file.close();
+}
+
+std::string resultFont(FileOpener& files, StartUpView& view) {
+    std::string printerFont = view.printerFontName();
+    try {
+        return decodeWindows1252(files.openFile(fontFileName, FileMode::input).readField());
+    } catch (const RunTimeError&) {
+        // No font was chosen yet.
+        return printerFont;
+    }
 }
 
 } // namespace
 
-void StartUp::readWorkFolder() {
-    File file = files_.openFile("varno.ini", FileMode::input);
-    settings_.workFolder = decodeWindows1252(VARNO1::fromOemLetters(file.readField()));
-    file.close();
-}
-
-void StartUp::readNoticeVersion() {
-    File file = files_.openFile(noticeFile, FileMode::binary);
-    settings_.noticeVersion = singleOf(file.get(1, sizeof(float)));
-    file.close();
-}
-
-void StartUp::storeNoticeVersion() {
-    // In a folder that cannot be written the notice comes again at the next start; that is no reason not to
-    // start.
-    try {
-        File file = files_.openFile(noticeFile, FileMode::binary);
-        file.put(1, bytesOf(settings_.noticeVersion));
-        file.close();
-    } catch (const RunTimeError& error) {
-        view_.report(error);
-    }
-}
-
-void StartUp::chooseResultFont() {
-    settings_.resultFontName = view_.printerFontName();
-    try {
-        File file = files_.openFile(fontFileName, FileMode::input);
-        settings_.resultFontName = decodeWindows1252(file.readField());
-        file.close();
-    } catch (const RunTimeError&) {
-        // No font was chosen yet: the printer's stays.
-    }
-    view_.setResultFont(settings_.resultFontName);
-}
-
-void StartUp::run() {
-    view_.showMainWindow();
-    {
-        const BusyPointer busy(window_);
-        readWorkFolder();
-        readNoticeVersion();
-    }
+void startUp(Settings& settings, Document& document, FileOpener& files, MainView& window, StartUpView& view) {
     // Both sides are singles: a file that holds exactly 7.1 as a single is up to date.
     constexpr auto version = static_cast<float>(programVersion);
-    if (settings_.noticeVersion < version) {
-        settings_.noticeVersion = version;
-        if (view_.showVersionNotice()) storeNoticeVersion();
-    }
-    view_.showDisclaimer();
+    bool upToDate = false;
+    view.showMainWindow();
     {
-        const BusyPointer busy(window_);
-        document_.readDefaultCase(settings_.workFolder);
-        view_.showInputForm();
+        const BusyPointer busy(window);
+        settings.workFolder = readWorkFolder(files);
+        upToDate = !(readNoticeVersion(files) < version);
     }
-    chooseResultFont();
-    view_.showMainWindow();
+    if (!upToDate && view.showVersionNotice()) {
+        // In a folder that cannot be written the notice comes again at the next start; that is no reason not to
+        // start.
+        try {
+            storeNoticeVersion(files, version);
+        } catch (const RunTimeError& error) {
+            view.report(error);
+        }
+    }
+    view.showDisclaimer();
+    {
+        const BusyPointer busy(window);
+        document.readDefaultCase(settings.workFolder);
+        view.showInputForm();
+    }
+    settings.resultFontName = resultFont(files, view);
+    view.setResultFont(settings.resultFontName);
+    view.showMainWindow();
 }
 
 } // namespace varno

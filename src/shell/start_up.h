@@ -15,7 +15,6 @@ inline constexpr double programVersion = 7.1;
 /// Settings of the whole run.
 struct Settings {
     std::string workFolder;     ///< holds varno.def and varnowb.exe; no trailing backslash
-    float noticeVersion = 0;    ///< version whose notice was last dismissed for good
     std::string resultFontName; ///< font face of the result viewer
 };
 
@@ -38,24 +37,6 @@ class StartUpView {
 
 /// Runs once, before any command. \throws RunTimeError: `varno.ini` and `varno.def` belong to the
 /// installation, and without them the program ends.
-class StartUp {
-  public:
-    StartUp(Settings& settings, Document& document, FileOpener& files, MainView& window, StartUpView& view)
-        : settings_(settings), document_(document), files_(files), window_(window), view_(view) {}
-
-    void run();
-
-  private:
-    void readWorkFolder();
-    void readNoticeVersion();
-    void storeNoticeVersion();
-    void chooseResultFont();
-
-    Settings& settings_;
-    Document& document_;
-    FileOpener& files_;
-    MainView& window_;
-    StartUpView& view_;
-};
+void startUp(Settings& settings, Document& document, FileOpener& files, MainView& window, StartUpView& view);
 
 } // namespace varno

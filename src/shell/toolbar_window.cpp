@@ -11,11 +11,6 @@
 
 namespace varno {
 
-Toolbar::~Toolbar() {
-    if (images_ != nullptr) ImageList_Destroy(images_);
-    if (fadedImages_ != nullptr) ImageList_Destroy(fadedImages_);
-}
-
 void Toolbar::create(HWND parent) {
     handle_ = CreateWindowExW(0, TOOLBARCLASSNAMEW, L"Verktyg",
                               WS_CHILD | WS_VISIBLE | TBSTYLE_FLAT | TBSTYLE_LIST | TBSTYLE_TOOLTIPS |
@@ -41,16 +36,15 @@ void Toolbar::create(HWND parent) {
 
 void Toolbar::setDpi(int dpi) {
     const int size = win32::pixels(raster(20), dpi);
-    const auto use = [&](HIMAGELIST& list, UINT message, bool faded) {
-        const HIMAGELIST fresh =
-            ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, static_cast<int>(toolbarKeys.size()), 0);
+    const auto use = [&](Images& images, UINT message, bool faded) {
+        Images fresh(
+            ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, static_cast<int>(toolbarKeys.size()), 0));
         for (const ToolbarKey& key : toolbarKeys) {
             const win32::UniqueIcon icon = win32::toolbarPicture(key.key, size, faded);
-            ImageList_ReplaceIcon(fresh, -1, icon.get());
+            ImageList_ReplaceIcon(fresh.get(), -1, icon.get());
         }
-        SendMessageW(handle_, message, 0, reinterpret_cast<LPARAM>(fresh));
-        if (list != nullptr) ImageList_Destroy(list);
-        list = fresh;
+        SendMessageW(handle_, message, 0, reinterpret_cast<LPARAM>(fresh.get()));
+        images = std::move(fresh);
     };
     use(images_, TB_SETIMAGELIST, false);
     use(fadedImages_, TB_SETDISABLEDIMAGELIST, true);

@@ -4,16 +4,13 @@
 
 #include <commctrl.h>
 
+#include <memory>
+
 namespace varno {
 
 /// The main window's toolbar: one button per key of the table, with pictures drawn for its resolution.
 class Toolbar {
   public:
-    ~Toolbar();
-    Toolbar() = default;
-    Toolbar(const Toolbar&) = delete;
-    Toolbar& operator=(const Toolbar&) = delete;
-
     void create(HWND parent);
     /// Draws the pictures for a resolution.
     void setDpi(int dpi);
@@ -21,9 +18,15 @@ class Toolbar {
     HWND handle() const { return handle_; }
 
   private:
+    struct Destroyer {
+        using pointer = HIMAGELIST;
+        void operator()(HIMAGELIST images) const { ImageList_Destroy(images); }
+    };
+    using Images = std::unique_ptr<HIMAGELIST, Destroyer>;
+
     HWND handle_ = nullptr;
-    HIMAGELIST images_ = nullptr;
-    HIMAGELIST fadedImages_ = nullptr;
+    Images images_;
+    Images fadedImages_;
 };
 
 } // namespace varno

@@ -16,74 +16,46 @@ namespace {
 constexpr UINT returnToBox = WM_APP;
 
 struct KindStyle {
+    ControlKind kind;
     const wchar_t* className;
     DWORD style;
-    DWORD exStyle;
+    DWORD exStyle = 0;
 };
 
-KindStyle styleOf(ControlKind kind) {
-    constexpr DWORD stop = WS_TABSTOP;
-    switch (kind) {
-    case ControlKind::label:
-        return {L"STATIC", SS_LEFT | SS_NOPREFIX, 0};
-    case ControlKind::symbolLabel:
-        return {L"STATIC", SS_OWNERDRAW | SS_NOPREFIX, 0};
-    case ControlKind::edit:
-        return {L"EDIT", stop | ES_AUTOHSCROLL, WS_EX_CLIENTEDGE};
-    case ControlKind::numberEdit:
-        return {L"EDIT", stop | ES_AUTOHSCROLL | ES_RIGHT, WS_EX_CLIENTEDGE};
-    case ControlKind::readOnlyEdit:
-        return {L"EDIT", ES_AUTOHSCROLL | ES_READONLY, 0};
-    case ControlKind::memo:
-        return {L"EDIT",
-                stop | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL | ES_AUTOHSCROLL | WS_VSCROLL | WS_HSCROLL,
-                WS_EX_CLIENTEDGE};
-    case ControlKind::button:
-        return {L"BUTTON", stop | BS_PUSHBUTTON, 0};
-    case ControlKind::defaultButton:
-        return {L"BUTTON", stop | BS_DEFPUSHBUTTON, 0};
-    case ControlKind::group:
-        return {L"BUTTON", BS_GROUPBOX | WS_GROUP, 0};
-    case ControlKind::radio:
-        return {L"BUTTON", BS_AUTORADIOBUTTON, 0};
-    case ControlKind::firstRadio:
-        return {L"BUTTON", stop | BS_AUTORADIOBUTTON | WS_GROUP, 0};
-    case ControlKind::check:
-        return {L"BUTTON", stop | BS_AUTOCHECKBOX | WS_GROUP, 0};
-    case ControlKind::dropDown:
-        return {L"COMBOBOX", stop | CBS_DROPDOWNLIST | WS_VSCROLL | WS_GROUP, 0};
-    case ControlKind::listBox:
-        return {L"LISTBOX", stop | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_GROUP,
-                WS_EX_CLIENTEDGE};
-    case ControlKind::multiListBox:
-        return {L"LISTBOX",
-                stop | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_MULTIPLESEL | WS_VSCROLL | WS_GROUP,
-                WS_EX_CLIENTEDGE};
-    case ControlKind::folderList:
-        return {L"LISTBOX",
-                stop | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | WS_VSCROLL |
-                    WS_GROUP,
-                WS_EX_CLIENTEDGE};
-    case ControlKind::spin:
-        return {UPDOWN_CLASSW, UDS_ARROWKEYS, 0};
-    case ControlKind::picture:
-        return {L"STATIC", SS_OWNERDRAW, 0};
-    }
-    return {L"STATIC", 0, 0};
-}
+constexpr DWORD stop = WS_TABSTOP;
+constexpr DWORD readOnly = ES_AUTOHSCROLL | ES_READONLY;
+constexpr DWORD list = stop | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_GROUP;
+constexpr DWORD sunken = WS_EX_CLIENTEDGE;
+constexpr DWORD folders = list | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS;
 
-bool isOfClass(HWND control, std::wstring_view name) {
-    wchar_t className[16] = L"";
-    GetClassNameW(control, className, 16);
-    return className == name;
-}
+constexpr KindStyle styles[]{
+    {ControlKind::label, L"STATIC", SS_LEFT | SS_NOPREFIX},
+    {ControlKind::symbolLabel, L"STATIC", SS_OWNERDRAW | SS_NOPREFIX},
+    {ControlKind::edit, L"EDIT", stop | ES_AUTOHSCROLL, sunken},
+    {ControlKind::numberEdit, L"EDIT", stop | ES_AUTOHSCROLL | ES_RIGHT, sunken},
+    {ControlKind::readOnlyEdit, L"EDIT", readOnly},
+    {ControlKind::memo, L"EDIT", stop | readOnly | ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL | WS_HSCROLL,
+     sunken},
+    {ControlKind::button, L"BUTTON", stop | BS_PUSHBUTTON},
+    {ControlKind::defaultButton, L"BUTTON", stop | BS_DEFPUSHBUTTON},
+    {ControlKind::group, L"BUTTON", BS_GROUPBOX | WS_GROUP},
+    {ControlKind::radio, L"BUTTON", BS_AUTORADIOBUTTON},
+    {ControlKind::firstRadio, L"BUTTON", stop | BS_AUTORADIOBUTTON | WS_GROUP},
+    {ControlKind::check, L"BUTTON", stop | BS_AUTOCHECKBOX | WS_GROUP},
+    {ControlKind::dropDown, L"COMBOBOX", stop | CBS_DROPDOWNLIST | WS_VSCROLL | WS_GROUP},
+    {ControlKind::listBox, L"LISTBOX", list, sunken},
+    {ControlKind::multiListBox, L"LISTBOX", list | LBS_MULTIPLESEL, sunken},
+    {ControlKind::folderList, L"LISTBOX", folders, sunken},
+    {ControlKind::spin, UPDOWN_CLASSW, UDS_ARROWKEYS},
+    {ControlKind::picture, L"STATIC", SS_OWNERDRAW},
+};
 
 enum class FocusChange { none, got, lost };
 
 // The numbers mean something else with every kind of control.
 FocusChange focusChange(HWND control, int notification) {
-    const bool edit = isOfClass(control, L"Edit");
-    if (!edit && !isOfClass(control, L"ComboBox")) return FocusChange::none;
+    const bool edit = classOf(control) == "Edit";
+    if (!edit && classOf(control) != "ComboBox") return FocusChange::none;
     if (notification == (edit ? EN_SETFOCUS : CBN_SETFOCUS)) return FocusChange::got;
     if (notification == (edit ? EN_KILLFOCUS : CBN_KILLFOCUS)) return FocusChange::lost;
     return FocusChange::none;
@@ -122,13 +94,17 @@ FormWindow::~FormWindow() {
     host().activation().forget(*this);
 }
 
+void FormWindow::createDialog(const wchar_t* className, const std::string& caption, HWND owner, HMENU menu,
+                              DWORD closeBox) {
+    create(className, caption, WS_POPUP | WS_CAPTION | closeBox, WS_EX_DLGMODALFRAME, owner, menu, {});
+}
+
 void FormWindow::runModal() {
     open_ = true;
     const HWND owner = GetWindow(handle(), GW_OWNER);
     {
         const DisabledOthers others(handle());
-        ShowWindow(handle(), SW_SHOW);
-        SetForegroundWindow(handle());
+        bringForward();
         MSG message;
         while (open_ && GetMessageW(&message, nullptr, 0, 0) > 0)
             dispatch(host(), message);
@@ -178,7 +154,7 @@ void FormWindow::returnTo(HWND box) {
 }
 
 HWND FormWindow::createControl(const ControlSpec& spec) {
-    const KindStyle kind = styleOf(spec.kind);
+    const KindStyle& kind = *std::ranges::find(styles, spec.kind, &KindStyle::kind);
     const HWND control = CreateWindowExW(
         kind.exStyle, kind.className, wide(spec.text).c_str(), WS_CHILD | WS_VISIBLE | kind.style, 0, 0, 0, 0,
         handle(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(spec.id)), programInstance(), nullptr);
@@ -209,7 +185,7 @@ HFONT FormWindow::font(FontRole role) const {
 
 void FormWindow::setFont(HWND control, FontRole role) {
     SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font(role)), TRUE);
-    if (!isOfClass(control, L"Edit") || (GetWindowLongPtrW(control, GWL_STYLE) & ES_RIGHT) == 0) return;
+    if (classOf(control) != "Edit" || (GetWindowLongPtrW(control, GWL_STYLE) & ES_RIGHT) == 0) return;
     // A new font brings margins of its own, which leave a number box so little room that it scrolls the first
     // digit of "0,170" away when the caret stands behind the last.
     const int margin = px(raster(1));
@@ -276,7 +252,7 @@ void FormWindow::sizeAndCentre(int width, int height, HWND over) {
 }
 
 void FormWindow::leaveKept(int field) {
-    const int notification = isOfClass(item(field), L"Edit") ? EN_KILLFOCUS : CBN_KILLFOCUS;
+    const int notification = classOf(item(field)) == "Edit" ? EN_KILLFOCUS : CBN_KILLFOCUS;
     guarded([&] { onCommand(field, notification); });
 }
 

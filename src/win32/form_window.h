@@ -27,6 +27,9 @@ class FormWindow : public Window, private FieldWindow {
     HWND item(int id) const { return GetDlgItem(handle(), id); }
 
   protected:
+    /// The window itself, with a frame that cannot be resized; without a close box where `closeBox` is 0.
+    void createDialog(const wchar_t* className, const std::string& caption, HWND owner, HMENU menu = nullptr,
+                      DWORD closeBox = WS_SYSMENU);
     /// Creates the controls of the table in its order, which is the tab order.
     void addControls(std::span<const ControlSpec> controls);
     /// A control that the window made itself takes part in layout and fonts. `twips` as in the table.

@@ -36,16 +36,6 @@ class LockedGlobal {
     void* data_;
 };
 
-std::wstring defaultPrinterName() {
-    DWORD length = 0;
-    GetDefaultPrinterW(nullptr, &length);
-    if (length == 0) return {};
-    std::wstring name(length, L'\0');
-    if (!GetDefaultPrinterW(name.data(), &length)) return {};
-    name.resize(length - 1);
-    return name;
-}
-
 } // namespace
 
 GdiPrinter::~GdiPrinter() {

@@ -1,8 +1,8 @@
-#include "win32/message_box.h"
+#include "base/message_boxes.h"
 
 #include "win32/strings.h"
 
-namespace varno::win32 {
+namespace varno {
 
 namespace {
 
@@ -21,11 +21,18 @@ HWND ownerOfMessage() {
     return owner;
 }
 
+class WindowsMessageBoxes : public MessageBoxes {
+    MessageAnswer show(const std::string& text, int style, const std::string& title) override {
+        return static_cast<MessageAnswer>(MessageBoxW(ownerOfMessage(), win32::wide(text).c_str(),
+                                                      win32::wide(title).c_str(), static_cast<UINT>(style)));
+    }
+};
+
 } // namespace
 
-MessageAnswer WindowsMessageBoxes::show(const std::string& text, int style, const std::string& title) {
-    return static_cast<MessageAnswer>(
-        MessageBoxW(ownerOfMessage(), wide(text).c_str(), wide(title).c_str(), static_cast<UINT>(style)));
+MessageBoxes& systemMessageBoxes() {
+    static WindowsMessageBoxes boxes;
+    return boxes;
 }
 
-} // namespace varno::win32
+} // namespace varno

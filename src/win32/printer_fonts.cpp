@@ -15,12 +15,8 @@ namespace {
 
 // The default printer's device context, null without a printer.
 UniqueDc defaultPrinter() {
-    DWORD length = 0;
-    GetDefaultPrinterW(nullptr, &length);
-    if (length == 0) return nullptr;
-    std::wstring name(length, L'\0');
-    if (!GetDefaultPrinterW(name.data(), &length)) return nullptr;
-    return UniqueDc(CreateICW(L"WINSPOOL", name.c_str(), nullptr, nullptr));
+    const std::wstring name = defaultPrinterName();
+    return UniqueDc(name.empty() ? nullptr : CreateICW(L"WINSPOOL", name.c_str(), nullptr, nullptr));
 }
 
 int CALLBACK collect(const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM names) {
@@ -28,12 +24,22 @@ int CALLBACK collect(const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM nam
     if (font->lfFaceName[0] != L'@') {
         auto& list = *reinterpret_cast<std::vector<std::string>*>(names);
         std::string face = narrow(font->lfFaceName);
-        if (std::find(list.begin(), list.end(), face) == list.end()) list.push_back(std::move(face));
+        if (std::ranges::find(list, face) == list.end()) list.push_back(std::move(face));
     }
     return 1;
 }
 
 } // namespace
+
+std::wstring defaultPrinterName() {
+    DWORD length = 0;
+    GetDefaultPrinterW(nullptr, &length);
+    if (length == 0) return {};
+    std::wstring name(length, L'\0');
+    if (!GetDefaultPrinterW(name.data(), &length)) return {};
+    name.resize(length - 1);
+    return name;
+}
 
 std::string printerFontName() {
     constexpr const char* fallback = "Courier New";

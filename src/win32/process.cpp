@@ -1,13 +1,13 @@
-#include "win32/process.h"
+#include "base/process_starter.h"
 
 #include "win32/strings.h"
 
-namespace varno::win32 {
+namespace varno {
 
 namespace {
 
 std::string ansi(const std::string& utf8) {
-    const std::wstring text = wide(utf8);
+    const std::wstring text = win32::wide(utf8);
     const int length = static_cast<int>(text.size());
     std::string out(static_cast<std::size_t>(
                         WideCharToMultiByte(CP_ACP, 0, text.c_str(), length, nullptr, 0, nullptr, nullptr)),
@@ -42,24 +42,31 @@ class ForegroundAsBefore {
     HWND front_;
 };
 
+class WindowsProcesses : public ProcessStarter {
+    std::uint32_t ExecCmd(const std::string& commandLine) override {
+        const ForegroundAsBefore foreground;
+        STARTUPINFOA start{};
+        start.cb = sizeof start;
+        static_assert(sizeof start == 68, "the size that 32-bit Windows documents");
+        PROCESS_INFORMATION process{};
+        std::string line = ansi(commandLine);
+        DWORD exitCode =
+            static_cast<DWORD>(CreateProcessA(nullptr, line.data(), nullptr, nullptr, TRUE,
+                                              NORMAL_PRIORITY_CLASS, nullptr, nullptr, &start, &process));
+        // Without a process the handle is zero: the wait fails at once and its value is what the caller gets.
+        exitCode = WaitForSingleObject(process.hProcess, INFINITE);
+        GetExitCodeProcess(process.hProcess, &exitCode);
+        if (process.hThread != nullptr) CloseHandle(process.hThread);
+        if (process.hProcess != nullptr) CloseHandle(process.hProcess);
+        return exitCode;
+    }
+};
+
 } // namespace
 
-std::uint32_t ProcessRunner::ExecCmd(const std::string& commandLine) {
-    const ForegroundAsBefore foreground;
-    STARTUPINFOA start{};
-    start.cb = sizeof start;
-    static_assert(sizeof start == 68, "the size that 32-bit Windows documents");
-    PROCESS_INFORMATION process{};
-    std::string line = ansi(commandLine);
-    DWORD exitCode =
-        static_cast<DWORD>(CreateProcessA(nullptr, line.data(), nullptr, nullptr, TRUE, NORMAL_PRIORITY_CLASS,
-                                          nullptr, nullptr, &start, &process));
-    // Without a process the handle is zero: the wait fails at once and its value is what the caller gets.
-    exitCode = WaitForSingleObject(process.hProcess, INFINITE);
-    GetExitCodeProcess(process.hProcess, &exitCode);
-    if (process.hThread != nullptr) CloseHandle(process.hThread);
-    if (process.hProcess != nullptr) CloseHandle(process.hProcess);
-    return exitCode;
+ProcessStarter& systemProcesses() {
+    static WindowsProcesses processes;
+    return processes;
 }
 
-} // namespace varno::win32
+} // namespace varno

@@ -27,6 +27,12 @@ inline std::string textOf(HWND window) {
     return narrow(text);
 }
 
+inline std::string classOf(HWND window) {
+    wchar_t name[64] = L"";
+    GetClassNameW(window, name, 64);
+    return narrow(name);
+}
+
 inline void setText(HWND window, std::string_view text) {
     SetWindowTextW(window, wide(text).c_str());
 }

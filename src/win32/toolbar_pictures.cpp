@@ -1,8 +1,9 @@
 #include "win32/toolbar_pictures.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <initializer_list>
-#include <string_view>
 #include <vector>
 
 #include "win32/smooth_drawing.h"
@@ -74,8 +75,9 @@ void page(Pencil& pencil) {
     pencil.shape(steel, {{12, 2}, {12, 6}, {16, 6}});
 }
 
-void textLines(Pencil& pencil, float from, float to) {
-    for (float y = from; y <= to; y += 2.5f)
+void drawResult(Pencil& pencil) {
+    page(pencil);
+    for (float y = 8.5f; y <= 16; y += 2.5f)
         pencil.stroke(accent, 1.1f, {{6.5f, y}, {13.5f, y}});
 }
 
@@ -131,35 +133,22 @@ void drawFreeLoads(Pencil& pencil) {
     }
 }
 
-void drawKey(Pencil& pencil, std::string_view key) {
-    if (key == "new") {
-        page(pencil);
-    } else if (key == "open") {
-        drawOpen(pencil);
-    } else if (key == "folder") {
-        drawFolder(pencil);
-    } else if (key == "save") {
-        drawSave(pencil);
-    } else if (key == "print") {
-        drawPrinter(pencil);
-    } else if (key == "berakning") {
-        drawCalculator(pencil);
-    } else if (key == "res1") {
-        page(pencil);
-        textLines(pencil, 8.5f, 16);
-    } else if (key == "momk") {
-        drawMoment(pencil);
-    } else if (key == "fria") {
-        drawFreeLoads(pencil);
-    }
-}
+struct Picture {
+    std::string_view key;
+    void (*draw)(Pencil& pencil);
+};
+constexpr std::array pictures{
+    Picture{"new", page},        Picture{"open", drawOpen},     Picture{"folder", drawFolder},
+    Picture{"save", drawSave},   Picture{"print", drawPrinter}, Picture{"berakning", drawCalculator},
+    Picture{"res1", drawResult}, Picture{"momk", drawMoment},   Picture{"fria", drawFreeLoads},
+};
 
 } // namespace
 
-UniqueIcon toolbarPicture(const char* key, int size, bool faded) {
-    const auto paint = [key](HDC dc, int width, int) {
+UniqueIcon toolbarPicture(std::string_view key, int size, bool faded) {
+    const auto paint = [&](HDC dc, int width, int) {
         Pencil pencil(dc, width);
-        drawKey(pencil, key);
+        std::ranges::find(pictures, key, &Picture::key)->draw(pencil);
     };
     return smoothIcon(size, paint, faded);
 }

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <string_view>
+
 #include "win32/unique.h"
 
 namespace varno::win32 {
 
 /// The picture of a toolbar button, by its key string, `size` pixels square; "folder" is a closed folder.
-UniqueIcon toolbarPicture(const char* key, int size, bool faded = false);
+UniqueIcon toolbarPicture(std::string_view key, int size, bool faded = false);
 
 } // namespace varno::win32

@@ -1,17 +1,20 @@
-#include "win32/win32_folders.h"
-
+// The drives and folders of Windows.
 #include <windows.h>
 
 #include <shlwapi.h>
 
 #include <algorithm>
 
+#include "base/folders.h"
 #include "base/run_time_error.h"
 #include "win32/strings.h"
 
-namespace varno::win32 {
+namespace varno {
 
 namespace {
+
+using win32::narrow;
+using win32::wide;
 
 // "X:\folder", without a backslash at the end except for a root.
 std::string tidy(std::string path) {
@@ -45,7 +48,7 @@ std::vector<std::string> entries(const std::string& path, Wanted wanted) {
         } while (FindNextFileW(search, &data));
         FindClose(search);
     }
-    std::sort(names.begin(), names.end(), [](const std::wstring& a, const std::wstring& b) {
+    std::ranges::sort(names, [](const std::wstring& a, const std::wstring& b) {
         return CompareStringW(LOCALE_USER_DEFAULT, NORM_IGNORECASE, a.c_str(), -1, b.c_str(), -1) ==
                CSTR_LESS_THAN;
     });
@@ -59,65 +62,65 @@ bool hidden(const WIN32_FIND_DATAW& data) {
     return (data.dwFileAttributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
 }
 
+class WindowsFolders : public Folders {
+    std::string current() override {
+        std::wstring path(GetCurrentDirectoryW(0, nullptr), L'\0');
+        path.resize(GetCurrentDirectoryW(static_cast<DWORD>(path.size()), path.data()));
+        return tidy(narrow(path));
+    }
+
+    std::string currentOf(const std::string& drive) override {
+        // "X:" alone names the drive's own current directory; one that is gone is replaced by the root.
+        const bool known = std::ranges::any_of(
+            drives(), [&](const std::string& other) { return equalIgnoringCase(other, drive); });
+        if (!known) throw RunTimeError(errDeviceUnavailable);
+        const std::string path = fullPath(drive);
+        if (isFolder(path)) return path;
+        const std::string root = upperCase(drive) + "\\";
+        if (!isFolder(root)) throw RunTimeError(errDeviceUnavailable);
+        return root;
+    }
+
+    std::string resolve(const std::string& base, const std::string& path) override {
+        const bool absolute = path.starts_with("\\\\") || (path.size() > 1 && path[1] == ':');
+        const std::string start = absolute ? "" : path.starts_with('\\') ? base.substr(0, 2) : base + "\\";
+        const std::string full = fullPath(start + path);
+        if (!isFolder(full)) throw RunTimeError(errPathNotFound);
+        return full;
+    }
+
+    std::vector<std::string> drives() override {
+        std::vector<std::string> out;
+        const DWORD present = GetLogicalDrives();
+        for (int letter = 0; letter < 26; ++letter) {
+            if ((present >> letter) & 1u)
+                out.push_back(std::string(1, static_cast<char>('A' + letter)) + ":");
+        }
+        return out;
+    }
+
+    std::vector<std::string> subfolders(const std::string& path) override {
+        return entries(path, [](const WIN32_FIND_DATAW& data) {
+            const std::wstring name = data.cFileName;
+            return (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 && name != L"." && name != L".." &&
+                   !hidden(data);
+        });
+    }
+
+    std::vector<std::string> files(const std::string& path, const std::string& patterns) override {
+        const std::wstring specs = wide(patterns);
+        return entries(path, [&](const WIN32_FIND_DATAW& data) {
+            return (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0 && !hidden(data) &&
+                   PathMatchSpecW(data.cFileName, specs.c_str()) != FALSE;
+        });
+    }
+};
+
 } // namespace
 
-std::string WindowsFolders::current() {
-    std::wstring path(GetCurrentDirectoryW(0, nullptr), L'\0');
-    path.resize(GetCurrentDirectoryW(static_cast<DWORD>(path.size()), path.data()));
-    return tidy(narrow(path));
+Folders& systemFolders() {
+    static WindowsFolders folders;
+    return folders;
 }
 
-std::string WindowsFolders::currentOf(const std::string& drive) {
-    // "X:" alone names the drive's own current directory; one that is gone is replaced by the root.
-    const auto all = drives();
-    const bool known = std::any_of(all.begin(), all.end(),
-                                   [&](const std::string& other) { return equalIgnoringCase(other, drive); });
-    if (!known) throw RunTimeError(errDeviceUnavailable);
-    const std::string path = fullPath(drive);
-    if (isFolder(path)) return path;
-    const std::string root = upperCase(drive) + "\\";
-    if (!isFolder(root)) throw RunTimeError(errDeviceUnavailable);
-    return root;
-}
-
-std::string WindowsFolders::resolve(const std::string& base, const std::string& path) {
-    const bool absolute = path.starts_with("\\\\") || (path.size() > 1 && path[1] == ':');
-    std::string whole = path;
-    if (!absolute) {
-        if (path.starts_with('\\')) {
-            whole = base.substr(0, 2) + path;
-        } else {
-            whole = base + "\\" + path;
-        }
-    }
-    const std::string full = fullPath(whole);
-    if (!isFolder(full)) throw RunTimeError(errPathNotFound);
-    return full;
-}
-
-std::vector<std::string> WindowsFolders::drives() {
-    std::vector<std::string> out;
-    const DWORD present = GetLogicalDrives();
-    for (int letter = 0; letter < 26; ++letter) {
-        if ((present >> letter) & 1u) out.push_back(std::string(1, static_cast<char>('A' + letter)) + ":");
-    }
-    return out;
-}
-
-std::vector<std::string> WindowsFolders::subfolders(const std::string& path) {
-    return entries(path, [](const WIN32_FIND_DATAW& data) {
-        const std::wstring name = data.cFileName;
-        return (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 && name != L"." && name != L".." &&
-               !hidden(data);
-    });
-}
-
-std::vector<std::string> WindowsFolders::files(const std::string& path, const std::string& patterns) {
-    const std::wstring specs = wide(patterns);
-    return entries(path, [&](const WIN32_FIND_DATAW& data) {
-        return (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0 && !hidden(data) &&
-               PathMatchSpecW(data.cFileName, specs.c_str()) != FALSE;
-    });
-}
-
-} // namespace varno::win32
+} // namespace varno

@@ -41,21 +41,6 @@ void Window::create(const wchar_t* className, const std::string& text, DWORD sty
                     place.height, parent, menu, programInstance(), this);
 }
 
-void Window::createMdiChild(const wchar_t* className, DWORD style, HWND client, Place place) {
-    registerClass(className);
-    MDICREATESTRUCTW info{};
-    info.szClass = className;
-    info.szTitle = L"";
-    info.hOwner = programInstance();
-    info.x = place.x;
-    info.y = place.y;
-    info.cx = place.width;
-    info.cy = place.height;
-    info.style = style;
-    info.lParam = reinterpret_cast<LPARAM>(this);
-    SendMessageW(client, WM_MDICREATE, 0, reinterpret_cast<LPARAM>(&info));
-}
-
 void Window::destroy() {
     if (handle_ == nullptr) return;
     const HWND window = handle_;
@@ -63,6 +48,11 @@ void Window::destroy() {
     SetWindowLongPtrW(window, GWLP_USERDATA, 0);
     handle_ = nullptr;
     DestroyWindow(window);
+}
+
+void Window::bringForward() {
+    ShowWindow(handle_, IsIconic(handle_) ? SW_RESTORE : SW_SHOW);
+    SetForegroundWindow(handle_);
 }
 
 bool Window::restoreFocus() {

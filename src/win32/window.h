@@ -39,6 +39,8 @@ class Window {
 
     HWND handle() const { return handle_; }
     bool exists() const { return handle_ != nullptr; }
+    /// Shows it, restored, as the foremost window.
+    void bringForward();
 
   protected:
     struct Place {
@@ -50,8 +52,6 @@ class Window {
     /// Registers the class when it is new and creates the window; `menu` is the ID of a child window.
     void create(const wchar_t* className, const std::string& text, DWORD style, DWORD exStyle, HWND parent,
                 HMENU menu, Place place);
-    /// The same as a child of an MDI client.
-    void createMdiChild(const wchar_t* className, DWORD style, HWND client, Place place);
     void destroy();
 
     virtual LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);

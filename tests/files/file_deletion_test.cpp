@@ -52,7 +52,7 @@ class FakeDeletionWindow : public DeletionView {
     void run() override { ++timesShown; }
     void close() override { closed = true; }
 
-    FileLists* lists = nullptr;
+    FileChooser* lists = nullptr;
     std::vector<std::string> entries;
     std::vector<bool> selected;
     bool bekr = false;
@@ -69,7 +69,7 @@ class FileDeletionTest : public ::testing::Test {
     void SetUp() override {
         for (const char* name : {"a.res", "B.RES", "c.ind", "d.res", "e.txt", "\xC3\xA5.res"})
             files.content["C:\\arbete\\" + std::string(name)] = "x";
-        view.lists = &deletion.lists();
+        view.lists = &deletion;
     }
     void open(const std::string& pattern = "*.RES", const std::string& directory = "") {
         deletion.open(pattern, directory);
@@ -213,11 +213,11 @@ TEST_F(FileDeletionTest, AFileThatWentMeanwhileIsToldAndNotShown) {
 
 TEST_F(FileDeletionTest, StartsWhereTheFileNameDialogWasLeft) {
     open("*.RES", "C:\\arbete\\gammalt");
-    EXPECT_EQ(deletion.lists().directory(), "C:\\arbete\\gammalt");
+    EXPECT_EQ(deletion.directory(), "C:\\arbete\\gammalt");
     open("*.RES", "C:\\arbete\\");
-    EXPECT_EQ(deletion.lists().directory(), "C:\\arbete");
+    EXPECT_EQ(deletion.directory(), "C:\\arbete");
     open("*.RES", "A:\\");
-    EXPECT_EQ(deletion.lists().directory(), "A:\\") << "a root, not wherever the drive stands";
+    EXPECT_EQ(deletion.directory(), "A:\\") << "a root, not wherever the drive stands";
     EXPECT_EQ(errorOf([&] { open("*.RES", "C:\\borta"); }), errPathNotFound);
 }
 
@@ -241,7 +241,7 @@ TEST_F(FileDeletionTest, ADriveThatIsNotThereLeavesTheListsWhereTheyAre) {
     open();
     EXPECT_EQ(errorOf([&] { deletion.driveChosen("Q:"); }), errDeviceUnavailable);
     EXPECT_EQ(errorOf([&] { deletion.folderChosen("C:\\borta"); }), errPathNotFound);
-    EXPECT_EQ(deletion.lists().directory(), "C:\\arbete");
+    EXPECT_EQ(deletion.directory(), "C:\\arbete");
     EXPECT_EQ(view.refreshed, 3) << "the drive list stands where the others do";
 }
 

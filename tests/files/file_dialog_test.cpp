@@ -24,7 +24,7 @@ class FileDialogTest : public ::testing::Test {
 TEST_F(FileDialogTest, ForSavingItProposesATestNameAndShowsTheRule) {
     EXPECT_FALSE(dialog.ask(savingCase));
     EXPECT_EQ(view.caption, "Spara som..");
-    EXPECT_EQ(dialog.lists().pattern(), "*.IND");
+    EXPECT_EQ(dialog.pattern(), "*.IND");
     EXPECT_EQ(view.text, "test");
     EXPECT_EQ(view.selected, 1);
     EXPECT_EQ(view.note,
@@ -35,13 +35,13 @@ TEST_F(FileDialogTest, ForChoosingThereIsNoNameAndNoRule) {
     dialog.ask(savingCase);
     dialog.ask(choosingResult);
     EXPECT_EQ(view.caption, "Välj Resultatfil");
-    EXPECT_EQ(dialog.lists().pattern(), "*.RES");
+    EXPECT_EQ(dialog.pattern(), "*.RES");
     EXPECT_EQ(view.text, "");
     EXPECT_EQ(view.note, "");
     EXPECT_EQ(view.refreshed, 2) << "the files are fresh each time";
     dialog.ask(choosingCase);
     EXPECT_EQ(view.caption, "Välj Indatafil");
-    EXPECT_EQ(dialog.lists().pattern(), "*.IND");
+    EXPECT_EQ(dialog.pattern(), "*.IND");
 }
 
 TEST_F(FileDialogTest, ANameIsAcceptedAsItStands) {
@@ -60,7 +60,7 @@ TEST_F(FileDialogTest, AskedAgainItBeginsWithTheTypedNameInTheSameFolder) {
     EXPECT_FALSE(dialog.askAgain(savingCase));
     EXPECT_EQ(view.text, " kalk ");
     EXPECT_EQ(view.selected, 2) << "selected, to be typed over";
-    EXPECT_EQ(dialog.lists().directory(), "C:\\arbete\\gammalt");
+    EXPECT_EQ(dialog.directory(), "C:\\arbete\\gammalt");
 }
 
 TEST_F(FileDialogTest, AClickedFileIsPutIntoTheTextBox) {
@@ -72,30 +72,30 @@ TEST_F(FileDialogTest, AClickedFileIsPutIntoTheTextBox) {
 TEST_F(FileDialogTest, ADriveIsSwitchedToAndTheDialogStaysOpen) {
     ok("a:");
     EXPECT_FALSE(view.closed);
-    EXPECT_EQ(dialog.lists().directory(), "A:\\");
-    EXPECT_EQ(dialog.lists().drive(), "A:");
+    EXPECT_EQ(dialog.directory(), "A:\\");
+    EXPECT_EQ(dialog.drive(), "A:");
     EXPECT_EQ(view.selected, 1);
     ok("c:");
-    EXPECT_EQ(dialog.lists().directory(), "C:\\arbete");
+    EXPECT_EQ(dialog.directory(), "C:\\arbete");
 }
 
 TEST_F(FileDialogTest, AFolderIsEnteredAndTheDialogStaysOpen) {
     ok("C:\\arbete\\gammalt");
-    EXPECT_EQ(dialog.lists().directory(), "C:\\arbete\\gammalt");
+    EXPECT_EQ(dialog.directory(), "C:\\arbete\\gammalt");
     EXPECT_FALSE(view.closed);
 }
 
 TEST_F(FileDialogTest, APatternIsTakenForTheFileList) {
     ok("H*.IND");
-    EXPECT_EQ(dialog.lists().pattern(), "H*.IND");
+    EXPECT_EQ(dialog.pattern(), "H*.IND");
     EXPECT_EQ(view.refreshed, 1);
-    dialog.lists().files();
+    dialog.files();
     EXPECT_EQ(folders.asked, "C:\\arbete H*.IND");
     ok("HUS?");
-    EXPECT_EQ(dialog.lists().pattern(), "HUS?");
+    EXPECT_EQ(dialog.pattern(), "HUS?");
     ok("C:\\arbete\\gammalt\\*.RES");
-    EXPECT_EQ(dialog.lists().directory(), "C:\\arbete\\gammalt");
-    EXPECT_EQ(dialog.lists().pattern(), "*.RES");
+    EXPECT_EQ(dialog.directory(), "C:\\arbete\\gammalt");
+    EXPECT_EQ(dialog.pattern(), "*.RES");
     EXPECT_FALSE(view.closed);
 }
 
@@ -103,7 +103,7 @@ TEST_F(FileDialogTest, ADriveOrFolderThatIsNotThereIsAnErrorAndNothingMoves) {
     EXPECT_EQ(errorOf([&] { ok("q:"); }), errDeviceUnavailable);
     EXPECT_EQ(errorOf([&] { ok("C:\\finns inte"); }), errPathNotFound);
     EXPECT_EQ(errorOf([&] { dialog.driveChosen("Q:"); }), errDeviceUnavailable);
-    EXPECT_EQ(dialog.lists().directory(), "C:\\arbete");
+    EXPECT_EQ(dialog.directory(), "C:\\arbete");
     EXPECT_FALSE(view.closed);
     EXPECT_EQ(view.selected, 2) << "the text is there to be mended";
 }
@@ -125,13 +125,13 @@ TEST_F(FileDialogTest, CancelIsNoAnswerWhateverTheLastOneWas) {
 TEST_F(FileDialogTest, TheListsStayWhereTheyWereLeft) {
     dialog.folderChosen("C:\\arbete\\gammalt");
     dialog.ask(choosingCase);
-    EXPECT_EQ(dialog.lists().directory(), "C:\\arbete\\gammalt");
+    EXPECT_EQ(dialog.directory(), "C:\\arbete\\gammalt");
     dialog.driveChosen("A:");
     EXPECT_EQ(dialog.path("X"), "A:\\\\X");
 }
 
 TEST_F(FileDialogTest, TheDirectoryListLeadsFromTheRootToTheFolderAndItsSubfolders) {
-    const auto rows = dialog.lists().folderRows();
+    const auto rows = dialog.folderRows();
     ASSERT_EQ(rows.size(), 3u);
     EXPECT_EQ(rows[0].name, "C:\\");
     EXPECT_EQ(rows[0].path, "C:\\");
@@ -145,11 +145,11 @@ TEST_F(FileDialogTest, TheDirectoryListLeadsFromTheRootToTheFolderAndItsSubfolde
 }
 
 TEST_F(FileDialogTest, ARootIsOneRow) {
-    dialog.lists().changeDrive("A:");
-    const auto rows = dialog.lists().folderRows();
+    dialog.changeDrive("A:");
+    const auto rows = dialog.folderRows();
     ASSERT_EQ(rows.size(), 1u);
     EXPECT_EQ(rows[0].path, "A:\\");
-    EXPECT_EQ(dialog.lists().pathOf("X.IND"), "A:\\X.IND");
+    EXPECT_EQ(dialog.pathOf("X.IND"), "A:\\X.IND");
 }
 
 } // namespace

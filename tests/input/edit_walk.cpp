@@ -62,7 +62,7 @@ void EditWalk::step() {
         clickOption();
     } else if (kind < 96) {
         as("activate");
-        rig.input.activated();
+        rig.input.focusTitle();
     } else if (kind < 97) {
         as("Swedish rules");
         guarded([&] { rig.input.switchToSwedishRules(); });

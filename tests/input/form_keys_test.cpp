@@ -1,4 +1,4 @@
-#include "input/form_keys.h"
+#include "input/form_layout.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,6 @@
 
 #include "controls/control_ids.h"
 #include "input/field_table.h"
-#include "input/form_layout.h"
 
 namespace varno::testing {
 namespace {

@@ -132,7 +132,7 @@ TEST_F(ResultPrintingTest, AChosenFileIsPrintedInThePrintersOwnFont) {
     files.content["C:\\arbete\\GAMMAL.RES"] = "text";
     dialogView.whileShown = [&] {
         EXPECT_EQ(dialogView.caption, "Välj Resultatfil");
-        EXPECT_EQ(dialog.lists().pattern(), "*.RES");
+        EXPECT_EQ(dialog.pattern(), "*.RES");
         EXPECT_FALSE(window.busy);
         type("GAMMAL.RES");
     };

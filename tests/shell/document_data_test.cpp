@@ -67,12 +67,12 @@ TEST_F(DocumentData, FileOfAnotherFolderIsReplacedAfterAQuestion) {
     put(elsewhere, "HUS1");
     open("HUS1.IND");
     edit(7);
-    dialog.lists().changeDirectory("C:\\arbete\\gammalt");
+    dialog.changeDirectory("C:\\arbete\\gammalt");
     save(MessageAnswer::no);
     ASSERT_EQ(boxes.shown.size(), 1u);
     EXPECT_EQ(boxes.shown[0].text, question(std::string(elsewhere) + "HUS1.IND"));
     EXPECT_TRUE(state.dataChanged);
-    dialog.lists().changeDirectory("C:\\arbete");
+    dialog.changeDirectory("C:\\arbete");
     save();
     EXPECT_TRUE(boxes.shown.empty()) << "the file that it was read from";
 }
@@ -80,7 +80,7 @@ TEST_F(DocumentData, FileOfAnotherFolderIsReplacedAfterAQuestion) {
 TEST_F(DocumentData, NewFileNeedsNoQuestion) {
     open("HUS1.IND");
     edit(7);
-    dialog.lists().changeDirectory("C:\\arbete\\gammalt");
+    dialog.changeDirectory("C:\\arbete\\gammalt");
     save();
     EXPECT_TRUE(boxes.shown.empty());
     EXPECT_TRUE(files.content.contains(std::string(elsewhere) + "HUS1.IND"));
@@ -93,7 +93,7 @@ TEST_F(DocumentData, SaveAsAsksUnlessItIsTheCasesOwnFile) {
     document.saveAs();
     EXPECT_TRUE(boxes.shown.empty());
     // The same name in another folder is another file.
-    dialog.lists().changeDirectory("C:\\arbete\\gammalt");
+    dialog.changeDirectory("C:\\arbete\\gammalt");
     boxes.answers = {MessageAnswer::no};
     boxes.whileShown = [&] { typed.clear(); };
     document.saveAs();
@@ -169,7 +169,7 @@ TEST_F(DocumentData, UnsavedCaseIsChanged) {
 
 TEST_F(DocumentData, RestoredCaseIsWhatWasKept) {
     open("HUS1.IND");
-    dialog.lists().changeDirectory("C:\\arbete\\gammalt");
+    dialog.changeDirectory("C:\\arbete\\gammalt");
     edit(7);
     designCase.lllastf(1) = 5;
     designCase.psi0(5, 3) = 0.25;
@@ -189,7 +189,7 @@ TEST_F(DocumentData, RestoredCaseIsWhatWasKept) {
     // Save goes where it would have gone, and knows its own file.
     next.document.save();
     EXPECT_TRUE(next.files.content.contains(std::string(elsewhere) + "HUS1.IND"));
-    next.dialog.lists().changeDirectory("C:\\arbete");
+    next.dialog.changeDirectory("C:\\arbete");
     next.edit(8);
     next.boxes.shown.clear();
     next.form.setText({Field::rubrik}, "Hus");

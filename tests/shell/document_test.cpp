@@ -223,7 +223,7 @@ TEST_F(DocumentTest, SaveWritesToTheCaptionInTheDialogsDirectory) {
     files.content["C:\\arbete\\hus7.ind"] = caseFile("hus7", "Sju", 7);
     typed = "hus7.ind";
     document.open();
-    dialog.lists().changeDirectory("C:\\arbete\\gammalt");
+    dialog.changeDirectory("C:\\arbete\\gammalt");
     edit(6);
     document.save();
     EXPECT_EQ(files.content.at("C:\\arbete\\gammalt\\HUS7.IND"), caseFile("HUS7", "Sju", 6));
@@ -237,8 +237,8 @@ TEST_F(DocumentTest, SaveAsAsksBeforeItReplacesAnotherFile) {
     boxes.whileShown = [&] { typed.clear(); };
     saveAsName("hus2");
     EXPECT_EQ(boxes.shown, (std::vector<FakeMessageBoxes::Shown>{
-                               {"C:\\arbete\\HUS2.IND finns redan. Vill Du ersätta filen ?", msgYesNoDefaultNo,
-                                "Spara som.."}}));
+                               {"C:\\arbete\\HUS2.IND finns redan. Vill Du ersätta filen ?",
+                                msgYesNoDefaultNo, "Spara som.."}}));
     EXPECT_EQ(onDisk("HUS2.IND"), "another case");
     EXPECT_EQ(window.caption, "NAMNLÖS.IND");
     EXPECT_FALSE(state.caseSaved);
@@ -255,7 +255,7 @@ TEST_F(DocumentTest, AfterNoTheDialogIsThereAgainWithTheNameAndTheFolder) {
     files.content["C:\\arbete\\gammalt\\HUS2.IND"] = "another case";
     boxes.answers = {MessageAnswer::no};
     boxes.whileShown = [&] { typed = "hus3"; };
-    dialog.lists().changeDirectory("C:\\arbete\\gammalt");
+    dialog.changeDirectory("C:\\arbete\\gammalt");
     saveAsName(" hus2.ind");
     EXPECT_EQ(dialogs, (std::vector<std::string>{"Spara som..|*.IND|test", "Spara som..|*.IND| hus2.ind"}));
     EXPECT_EQ(files.content.at("C:\\arbete\\gammalt\\HUS2.IND"), "another case");

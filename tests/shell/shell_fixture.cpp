@@ -8,7 +8,7 @@ namespace varno::testing {
 ShellFixture::ShellFixture() {
     files.content["C:\\varnow\\run\\varno.def"] = caseFile("namnl\xD6s", "Nytt", 5.5f);
     dialogView.whileShown = [this] {
-        dialogs.push_back(dialogView.caption + "|" + dialog.lists().pattern() + "|" + dialogView.text);
+        dialogs.push_back(dialogView.caption + "|" + dialog.pattern() + "|" + dialogView.text);
         dialogView.text = typed;
         if (typed.empty()) {
             dialog.cancelled();

@@ -11,7 +11,7 @@ class StartUpTest : public ::testing::Test, public ShellFixture, public StartUpV
   protected:
     StartUpTest() { files.content["varno.ini"] = "C:\\varnow\\run\r\n"; }
 
-    void start() { StartUp(settings, document, opener, window, *this).run(); }
+    void start() { startUp(settings, document, opener, window, *this); }
 
     void showMainWindow() override { steps.push_back("main"); }
     bool showVersionNotice() override {

@@ -28,11 +28,9 @@ void FakeForm::setCaption(Control control, const std::string& caption) {
     states_[key(control)].caption = caption;
 }
 
-void FakeForm::clearList(Field list) {
-    lists_[list] = {};
-}
-void FakeForm::addRow(Field list, std::string_view row) {
-    lists_[list].rows.emplace_back(row);
+void FakeForm::showRows(Field list, std::span<const std::string_view> rows, int selected) {
+    lists_[list] = {{rows.begin(), rows.end()}};
+    selectRow(list, selected);
 }
 
 void FakeForm::selectRow(Field list, int row) {
@@ -60,7 +58,8 @@ void FakeForm::setChecked(Field box, bool checked) {
 void FakeForm::focus(Control control) {
     focused_ = control;
 }
-void FakeForm::selectAll(Control control) {
+void FakeForm::enter(Control control) {
+    focus(control);
     allSelected_ = control;
 }
 

@@ -28,20 +28,21 @@ class FakeForm : public FormView {
     void setVisible(Control control, bool visible) override;
     void setEnabled(Control control, bool enabled) override;
     void setCaption(Control control, const std::string& caption) override;
-    void clearList(Field list) override;
-    void addRow(Field list, std::string_view row) override;
-    void selectRow(Field list, int row) override;
+    void showRows(Field list, std::span<const std::string_view> rows, int selected) override;
     int selectedRow(Field list) const override;
     void selectOption(Field group, int option) override;
     void showGroup(Field group, bool visible) override;
     void setChecked(Field box, bool checked) override;
     void focus(Control control) override;
-    void selectAll(Control control) override;
+    void enter(Control control) override;
     void returnTo(Control control) override { returnedTo = control; }
     void showHint(Control, const std::string& text) override { hint = text; }
     void hideHint() override { hint.clear(); }
     /// As the user does it: a change also when the text reads the same.
     void type(Control control, const std::string& text);
+    void selectRow(Field list, int row);
+    void clearList(Field list) { lists_[list] = {}; }
+    void addRow(Field list, const std::string& row) { lists_[list].rows.push_back(row); }
 
     const State& state(Control control) const;
     const std::vector<std::string>& rows(Field list) const;
@@ -84,7 +85,6 @@ class FakeMainWindow : public MainView {
         wasBusy = wasBusy || now;
     }
     void setDiagramEnabled(bool now) override { diagram = now; }
-    bool diagramEnabled() const override { return diagram; }
     void showFlag(int number) override { flag = number; }
     void focusFlag() override { flagFocused = true; }
 
