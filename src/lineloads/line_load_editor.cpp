@@ -20,6 +20,7 @@ constexpr double highestSpan = 15;
 void LineLoadEditor::opened() {
     const BusyPointer busy(context_.window);
     if (!open_) {
+        if (count() > maxLineLoads) throw RunTimeError(errSubscriptOutOfRange);
         showRecord();
         if (set_.hasMultipliers) {
             for (int k = 1; k <= static_cast<int>(multiplierBoxes.size()); ++k)
@@ -47,9 +48,9 @@ void LineLoadEditor::backgroundClicked() {
 }
 
 void LineLoadEditor::showRecord() {
-    if (count() > maxLineLoads) throw RunTimeError(errSubscriptOutOfRange);
     boxes_.put(countBox, count(), wholePattern);
-    for (int row = 1; row <= count(); ++row)
+    // A damaged file can hold any count. What the arrays hold is shown; the sketch tells of the rest.
+    for (int row = 1; row <= std::min<int>(count(), maxLineLoads); ++row)
         fillRow(row);
     showRows(count());
 }

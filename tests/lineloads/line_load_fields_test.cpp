@@ -290,6 +290,17 @@ TEST_P(BothEditors, ShowAnotherCaseWhenItIsRead) {
     EXPECT_EQ(rig.refreshes(), 0);
 }
 
+TEST_P(BothEditors, ShowWhatTheyCanOfADamagedCaseAndLeaveTheErrorToTheSketch) {
+    rig.open();
+    rig.count() = 7;
+    rig.distance(5) = 9;
+    EXPECT_EQ(errorOf([&] { rig.editor.caseRead(); }), 0) << "the sketch is still to be drawn";
+    EXPECT_EQ(rig.text(LineLoadBox::nllast), "7");
+    EXPECT_EQ(rig.view.rows(), "1 2 3 4 5");
+    EXPECT_TRUE(rig.shownRow(5).find("/9.00/") != std::string::npos) << rig.shownRow(5);
+    EXPECT_EQ(errorOf([&] { rig.slab.fullRefresh(); }), errSubscriptOutOfRange);
+}
+
 TEST_P(BothEditors, RefuseARowThatTheyDoNotHave) {
     rig.open();
     for (const int row : {-1, 6}) {

@@ -2,99 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <map>
 #include <random>
-#include <set>
 
+#include "shell/rescue_rig.h"
 #include "support/case_files.h"
-#include "support/fake_folders.h"
-#include "support/memory_files.h"
 
-namespace varno {
+namespace varno::testing {
 namespace {
-
-using std::chrono::seconds;
-using testing::FakeMessageBoxes;
-using testing::MemoryFiles;
-
-constexpr const char* folder = "C:\\lokalt\\Varno";
-
-/// A disk that several programs share, with the locks that they hold on it.
-struct Machine : testing::FakeFolders, RescueClock {
-    std::vector<std::string> files(const std::string& path, const std::string& patterns) override {
-        EXPECT_EQ(patterns, "*.raddning");
-        std::vector<std::string> names;
-        for (const auto& [file, bytes] : disk.content) {
-            if (file.starts_with(path + "\\") && file.ends_with(".raddning"))
-                names.push_back(file.substr(path.size() + 1));
-        }
-        return names;
-    }
-    seconds running() override { return now; }
-    std::string dateAndTime() override { return "2026-11-21 " + std::to_string(100000 + now.count()); }
-
-    MemoryFiles disk;
-    std::set<std::string> locked;
-    seconds now{1000};
-};
-
-/// A running program. Its end without `giveUp` is a kill.
-struct Running : RescueSource, RescueLocks {
-    Running(Machine& machine, const std::string& instance) : machine_(machine) {
-        rescue.start(folder, instance);
-        rescued.currentFileName = "NAMNLÖS";
-        rescued.designCase.nfack = 1;
-    }
-
-    bool changed() const override { return dataChanged; }
-    std::string title() const override { return shownTitle; }
-    RescuedCase toKeep() override { return rescued; }
-    void restore(const RescuedCase& other) override {
-        opened.push_back(other);
-        if (openError != 0) throw RunTimeError(openError);
-        rescued = other;
-        shownTitle = other.title;
-        rescued.title.clear();
-        rescued.changed.clear();
-        dataChanged = true;
-    }
-    std::unique_ptr<Lock> take(const std::string& path) override {
-        if (!machine_.locked.insert(path).second) return nullptr;
-        struct Held : Lock {
-            Held(std::set<std::string>& all, std::string path) : all_(all), path_(std::move(path)) {}
-            ~Held() override { all_.erase(path_); }
-            std::set<std::string>& all_;
-            std::string path_;
-        };
-        return std::make_unique<Held>(machine_.locked, path);
-    }
-
-    void edit(float length) {
-        rescued.designCase.spv(1) = length;
-        dataChanged = true;
-    }
-    void wait(seconds time) {
-        for (; time > seconds(0); time -= Rescue::lookInterval) {
-            machine_.now += Rescue::lookInterval;
-            rescue.look();
-        }
-    }
-
-    Machine& machine_;
-    RescuedCase rescued;
-    std::string shownTitle = "Nytt";
-    bool dataChanged = false;
-    std::vector<RescuedCase> opened;
-    int openError = 0;
-    FakeMessageBoxes boxes;
-    Rescue rescue{*this, machine_.disk, machine_, *this, boxes, machine_};
-};
-
-float lengthIn(const Machine& machine, const std::string& instance) {
-    const auto found = machine.disk.content.find(std::string(folder) + "\\" + instance + ".raddning");
-    if (found == machine.disk.content.end()) return 0;
-    const auto rescued = readRescue(found->second);
-    return rescued ? rescued->designCase.spv(1) : -1;
-}
 
 TEST(Rescue, UnchangedCaseIsKeptNowhere) {
     Machine machine;
@@ -131,8 +47,9 @@ TEST(Rescue, TypingWithoutAPauseDoesNotKeepTheDiskBusy) {
         program.edit(static_cast<float>(i));
         program.wait(seconds(1));
     }
-    EXPECT_LE(std::ranges::count(machine.disk.calls, std::string("replace ") + folder + "\\a.raddning.~tmp"),
-              11);
+    EXPECT_LE(
+        std::ranges::count(machine.disk.calls, std::string("replace ") + rescueFolder + "\\a.raddning.~tmp"),
+        11);
     EXPECT_EQ(
         std::ranges::count_if(machine.disk.calls, [](const auto& call) { return call.starts_with("write"); }),
         10);
@@ -147,23 +64,20 @@ TEST(Rescue, TitleIsKeptAsItStandsInItsBox) {
         program.wait(seconds(1));
     }
     Running next(machine, "b");
-    next.boxes.answers = {MessageAnswer::yes};
-    next.rescue.offer();
+    next.offer(MessageAnswer::yes);
     EXPECT_EQ(next.shownTitle, "Hus, 4 plan");
 }
 
 TEST(Rescue, SavedOrGivenUpCaseIsRemovedAtOnce) {
     Machine machine;
     Running program(machine, "a");
-    program.edit(6);
-    program.wait(seconds(1));
+    program.keep(6);
     EXPECT_EQ(lengthIn(machine, "a"), 6);
     program.dataChanged = false;
     program.rescue.look();
     EXPECT_TRUE(machine.disk.content.empty());
 
-    program.edit(7);
-    program.wait(seconds(1));
+    program.keep(7);
     EXPECT_EQ(lengthIn(machine, "a"), 7) << "the next change is kept as soon as the first";
     program.rescue.giveUp();
     EXPECT_TRUE(machine.disk.content.empty());
@@ -175,8 +89,7 @@ TEST(Rescue, SavedOrGivenUpCaseIsRemovedAtOnce) {
 TEST(Rescue, FileThatCannotBeRemovedNowIsRemovedLater) {
     Machine machine;
     Running program(machine, "a");
-    program.edit(6);
-    program.wait(seconds(1));
+    program.keep(6);
     program.dataChanged = false;
     machine.disk.fault = [](const std::string& call, const std::string&) {
         return call == "remove" ? 70 : 0;
@@ -204,8 +117,7 @@ TEST(Rescue, FullDiskIsTriedAgainAndDisturbsNobody) {
 TEST(Rescue, FailingWriteLeavesTheOlderFile) {
     Machine machine;
     Running program(machine, "a");
-    program.edit(6);
-    program.wait(seconds(1));
+    program.keep(6);
     for (const std::string failing : {"create", "write", "flush", "close", "replace"}) {
         machine.disk.fault = [&](const std::string& call, const std::string&) {
             return call == failing ? 57 : 0;
@@ -224,12 +136,10 @@ TEST(Rescue, KilledProgramIsOfferedAtTheNextStart) {
         program.rescued.savedTo = "C:\\arbete\\HUS1.IND";
         program.rescued.caseSaved = true;
         program.shownTitle = "Hus 1";
-        program.edit(6);
-        program.wait(seconds(1));
+        program.keep(6);
     }
     Running next(machine, "b");
-    next.boxes.answers = {MessageAnswer::yes};
-    next.rescue.offer();
+    next.offer(MessageAnswer::yes);
     ASSERT_EQ(next.boxes.shown.size(), 1u);
     const auto& box = next.boxes.shown.front();
     EXPECT_EQ(box.style, msgQuestionYesNoCancel);
@@ -241,8 +151,7 @@ TEST(Rescue, KilledProgramIsOfferedAtTheNextStart) {
     EXPECT_TRUE(next.opened.front().caseSaved);
 
     EXPECT_EQ(lengthIn(machine, "a"), 6) << "not saved yet, so it is still kept";
-    next.edit(8);
-    next.wait(seconds(1));
+    next.keep(8);
     EXPECT_EQ(lengthIn(machine, "a"), 8) << "in the file that was taken over";
     next.dataChanged = false;
     next.rescue.look();
@@ -253,17 +162,14 @@ TEST(Rescue, AcceptedCaseSurvivesTheNextKillToo) {
     Machine machine;
     {
         Running program(machine, "a");
-        program.edit(6);
-        program.wait(seconds(1));
+        program.keep(6);
     }
     {
         Running second(machine, "b");
-        second.boxes.answers = {MessageAnswer::yes};
-        second.rescue.offer();
+        second.offer(MessageAnswer::yes);
     }
     Running third(machine, "c");
-    third.boxes.answers = {MessageAnswer::yes};
-    third.rescue.offer();
+    third.offer(MessageAnswer::yes);
     ASSERT_EQ(third.opened.size(), 1u);
     EXPECT_EQ(third.opened.front().designCase.spv(1), 6);
 }
@@ -272,20 +178,17 @@ TEST(Rescue, NoThrowsItAwayAndCancelAsksAgain) {
     Machine machine;
     {
         Running program(machine, "a");
-        program.edit(6);
-        program.wait(seconds(1));
+        program.keep(6);
     }
     {
         Running second(machine, "b");
-        second.boxes.answers = {MessageAnswer::cancel};
-        second.rescue.offer();
+        second.offer(MessageAnswer::cancel);
         EXPECT_TRUE(second.opened.empty());
     }
     EXPECT_EQ(lengthIn(machine, "a"), 6);
     {
         Running third(machine, "c");
-        third.boxes.answers = {MessageAnswer::no};
-        third.rescue.offer();
+        third.offer(MessageAnswer::no);
         EXPECT_TRUE(third.opened.empty());
     }
     EXPECT_TRUE(machine.disk.content.empty());
@@ -300,11 +203,9 @@ TEST(Rescue, LastChangeIsOfferedFirstAndTheOthersWait) {
         Running a(machine, "a");
         Running b(machine, "b");
         Running c(machine, "c");
-        c.edit(1);
-        c.wait(seconds(1));
+        c.keep(1);
         a.edit(3);
-        b.edit(2);
-        b.wait(seconds(1));
+        b.keep(2);
         machine.now += seconds(5);
         a.rescue.look();
     }
@@ -321,13 +222,11 @@ TEST(Rescue, LastChangeIsOfferedFirstAndTheOthersWait) {
 TEST(Rescue, RunningProgramsAreNotOffered) {
     Machine machine;
     Running a(machine, "a");
-    a.edit(6);
-    a.wait(seconds(1));
+    a.keep(6);
     Running b(machine, "b");
     b.rescue.offer();
     EXPECT_TRUE(b.boxes.shown.empty());
-    b.edit(7);
-    b.wait(seconds(1));
+    b.keep(7);
     EXPECT_EQ(lengthIn(machine, "a"), 6);
     EXPECT_EQ(lengthIn(machine, "b"), 7);
     b.dataChanged = false;
@@ -339,8 +238,7 @@ TEST(Rescue, FileIsOfferedByOneOfTwoThatStartTogether) {
     Machine machine;
     {
         Running program(machine, "a");
-        program.edit(6);
-        program.wait(seconds(1));
+        program.keep(6);
     }
     Running first(machine, "b");
     Running second(machine, "c");
@@ -352,10 +250,10 @@ TEST(Rescue, FileIsOfferedByOneOfTwoThatStartTogether) {
 }
 
 TEST(Rescue, CaseThatStandsInItsFileIsNotOffered) {
-    const CaseFile saved = testing::sampleCase();
+    const CaseFile saved = sampleCase();
     for (const bool freeLoads : {false, true}) {
         Machine machine;
-        machine.disk.content["C:\\arbete\\HUS1.IND"] = testing::writtenCase(saved);
+        machine.disk.content["C:\\arbete\\HUS1.IND"] = writtenCase(saved);
         {
             Running program(machine, "a");
             program.rescued.designCase = saved.designCase;
@@ -367,8 +265,7 @@ TEST(Rescue, CaseThatStandsInItsFileIsNotOffered) {
             program.wait(seconds(1));
         }
         Running next(machine, "b");
-        next.boxes.answers = {MessageAnswer::cancel};
-        next.rescue.offer();
+        next.offer(MessageAnswer::cancel);
         EXPECT_EQ(next.boxes.shown.size(), freeLoads ? 1u : 0u);
         EXPECT_EQ(machine.disk.content.size(), freeLoads ? 2u : 1u) << "worth nothing, so it is gone";
     }
@@ -376,7 +273,8 @@ TEST(Rescue, CaseThatStandsInItsFileIsNotOffered) {
 
 TEST(Rescue, DamagedFileIsNeitherOfferedNorRemoved) {
     Machine machine;
-    machine.disk.content[std::string(folder) + "\\x.raddning"] = "varno raddning 2\r\nett nyare program";
+    machine.disk.content[std::string(rescueFolder) + "\\x.raddning"] =
+        "varno raddning 2\r\nett nyare program";
     Running program(machine, "a");
     program.rescue.offer();
     EXPECT_TRUE(program.boxes.shown.empty());
@@ -387,50 +285,39 @@ TEST(Rescue, CaseThatCannotBeOpenedIsKept) {
     Machine machine;
     {
         Running program(machine, "a");
-        program.edit(6);
-        program.wait(seconds(1));
+        program.keep(6);
     }
     Running next(machine, "b");
     next.openError = 9;
     next.boxes.answers = {MessageAnswer::yes};
-    EXPECT_EQ(testing::errorOf([&] { next.rescue.offer(); }), 9);
+    EXPECT_EQ(errorOf([&] { next.rescue.offer(); }), 9);
     next.wait(seconds(5));
     EXPECT_EQ(lengthIn(machine, "a"), 6);
 }
 
-TEST(Rescue, FallingProgramWritesAtOnce) {
+// A program that ends with a change which is not on the disk yet; the title that the next one is offered.
+std::string titleAfter(void (*end)(Rescue&)) {
     Machine machine;
     {
         Running program(machine, "a");
         program.shownTitle = "Före";
-        program.edit(6);
-        program.wait(seconds(1));
+        program.keep(6);
         program.edit(7);
-        program.shownTitle = "En fallen ruta svarar inte";
-        program.rescue.atOnce();
+        program.shownTitle = "Nyss skriven";
+        end(program.rescue);
     }
     EXPECT_EQ(lengthIn(machine, "a"), 7);
     Running next(machine, "b");
-    next.boxes.answers = {MessageAnswer::yes};
-    next.rescue.offer();
-    EXPECT_EQ(next.shownTitle, "Före");
+    next.offer(MessageAnswer::yes);
+    return next.shownTitle;
+}
+
+TEST(Rescue, FallingProgramWritesAtOnceAndAsksNoWindow) {
+    EXPECT_EQ(titleAfter([](Rescue& rescue) { rescue.atOnce(); }), "Före");
 }
 
 TEST(Rescue, EndOfTheSessionWritesAtOnceWithTheTitle) {
-    Machine machine;
-    {
-        Running program(machine, "a");
-        program.edit(6);
-        program.wait(seconds(1));
-        program.edit(7);
-        program.shownTitle = "Nyss skriven";
-        program.rescue.sessionEnds();
-    }
-    EXPECT_EQ(lengthIn(machine, "a"), 7);
-    Running next(machine, "b");
-    next.boxes.answers = {MessageAnswer::yes};
-    next.rescue.offer();
-    EXPECT_EQ(next.shownTitle, "Nyss skriven");
+    EXPECT_EQ(titleAfter([](Rescue& rescue) { rescue.sessionEnds(); }), "Nyss skriven");
 }
 
 TEST(Rescue, FallOfAnUnchangedProgramLeavesNothing) {
@@ -441,4 +328,4 @@ TEST(Rescue, FallOfAnUnchangedProgramLeavesNothing) {
 }
 
 } // namespace
-} // namespace varno
+} // namespace varno::testing
