@@ -2,9 +2,7 @@
 
 #include <array>
 
-#include "controls/control_ids.h"
 #include "win32/dialog_window.h"
-#include "win32/list_rows.h"
 
 namespace varno {
 
@@ -43,20 +41,12 @@ int DeletionWindow::entryCount() const {
     return static_cast<int>(SendMessageW(item(idFileList), LB_GETCOUNT, 0, 0));
 }
 
-std::string DeletionWindow::entry(int position) const {
-    return win32::rowText(item(idFileList), position);
-}
-
 bool DeletionWindow::isSelected(int position) const {
     return SendMessageW(item(idFileList), LB_GETSEL, static_cast<WPARAM>(position), 0) > 0;
 }
 
 void DeletionWindow::select(int position, bool selected) {
     SendMessageW(item(idFileList), LB_SETSEL, selected ? TRUE : FALSE, position);
-}
-
-bool DeletionWindow::confirming() const {
-    return IsDlgButtonChecked(handle(), idConfirm) == BST_CHECKED;
 }
 
 void DeletionWindow::setConfirming(bool confirming) {

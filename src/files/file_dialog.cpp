@@ -11,14 +11,6 @@ constexpr const char* savingNote =
 
 } // namespace
 
-bool FileDialog::ask(const FileDialogUse& use) {
-    return ask(use, use.dialogForSaving == 1 ? "test" : "");
-}
-
-bool FileDialog::askAgain(const FileDialogUse& use) {
-    return ask(use, typedName);
-}
-
 bool FileDialog::ask(const FileDialogUse& use, const std::string& name) {
     setPattern(use.pattern);
     dialogAnswer_ = 1;

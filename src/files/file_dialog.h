@@ -39,9 +39,9 @@ class FileDialog : public FileChooser {
 
     // The caller's side.
     /// Shows the dialog, modally; true for "OK": `typedName` is then the name.
-    bool ask(const FileDialogUse& use);
+    bool ask(const FileDialogUse& use) { return ask(use, use.dialogForSaving == 1 ? "test" : ""); }
     /// The same with the name that was typed last, to be changed.
-    bool askAgain(const FileDialogUse& use);
+    bool askAgain(const FileDialogUse& use) { return ask(use, typedName); }
     std::string typedName; ///< the name accepted with "OK"
     /// The dialog's current directory & "\" & `name`.
     std::string path(const std::string& name) { return directory() + "\\" + name; }

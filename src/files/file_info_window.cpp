@@ -2,9 +2,7 @@
 
 #include <array>
 
-#include "controls/control_ids.h"
 #include "win32/list_rows.h"
-#include "win32/strings.h"
 
 namespace varno {
 
@@ -45,24 +43,9 @@ void FileInfoWindow::run() {
     runModal();
 }
 
-void FileInfoWindow::setCaption(const std::string& caption) {
-    win32::setText(handle(), caption);
-}
-
-std::string FileInfoWindow::name() const {
-    return win32::textOf(item(idFileName));
-}
-void FileInfoWindow::setName(const std::string& name) {
-    win32::setText(item(idFileName), name);
-}
-
 void FileInfoWindow::selectName() {
     SetFocus(item(idFileName));
     SendMessageW(item(idFileName), EM_SETSEL, 0, -1);
-}
-
-void FileInfoWindow::setNote(const std::string& note) {
-    win32::setText(item(idNote), note);
 }
 
 void FileInfoWindow::onCommand(int id, int notification) {
@@ -84,10 +67,6 @@ void FileInfoWindow::onCommand(int id, int notification) {
     default:
         FileChooserWindow::onCommand(id, notification);
     }
-}
-
-void FileInfoWindow::onCloseBox() {
-    dialog_->cancelled();
 }
 
 } // namespace varno

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "controls/control_ids.h"
 #include "files/file_chooser_window.h"
 #include "files/file_dialog.h"
+#include "win32/strings.h"
 
 namespace varno {
 
@@ -13,18 +15,18 @@ class FileInfoWindow : public FileChooserWindow, public FileDialogView {
     void create(HWND owner);
     void listen(FileDialog& dialog);
 
-    void setCaption(const std::string& caption) override;
-    std::string name() const override;
-    void setName(const std::string& name) override;
+    void setCaption(const std::string& caption) override { win32::setText(handle(), caption); }
+    std::string name() const override { return win32::textOf(item(idFileName)); }
+    void setName(const std::string& name) override { win32::setText(item(idFileName), name); }
     void selectName() override;
-    void setNote(const std::string& note) override;
+    void setNote(const std::string& note) override { win32::setText(item(idNote), note); }
     void refreshLists() override { showLists(); }
     void run() override;
     void close() override { closeForm(); }
 
   protected:
     void onCommand(int id, int notification) override;
-    void onCloseBox() override;
+    void onCloseBox() override { dialog_->cancelled(); }
 
   private:
     FileDialog* dialog_ = nullptr;

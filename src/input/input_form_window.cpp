@@ -34,21 +34,9 @@ void InputFormWindow::create(HWND mdiClient) {
     layOut();
 }
 
-SIZE InputFormWindow::naturalSize() const {
-    return {px(formWidth), px(formHeight)};
-}
-
 void InputFormWindow::changeDpi(int dpi) {
     setDpi(dpi);
     layOut();
-}
-
-std::string InputFormWindow::text(Control control) const {
-    return win32::textOf(window(control));
-}
-
-void InputFormWindow::setText(Control control, const std::string& text) {
-    setBoxText(controlId(control), text);
 }
 
 void InputFormWindow::setVisible(Control control, bool visible) {
@@ -56,10 +44,6 @@ void InputFormWindow::setVisible(Control control, bool visible) {
     // The number above a column comes and goes with it.
     if (control.field == Field::spv)
         ShowWindow(item(spanHeadId(control.index)), visible ? SW_SHOWNA : SW_HIDE);
-}
-
-void InputFormWindow::setEnabled(Control control, bool enabled) {
-    EnableWindow(window(control), enabled);
 }
 
 void InputFormWindow::setCaption(Control control, const std::string& caption) {
@@ -74,7 +58,7 @@ void InputFormWindow::showRows(Field list, std::span<const std::string_view> row
     if (selected < 0 || selected >= static_cast<int>(rows.size())) return;
     showRow(controlId({list}), selected);
     // Windows tells nothing of a row that the program chose; the change rule runs for it all the same.
-    if (rules_ != nullptr) guarded([&] { rules_->changed({list}); });
+    if (rules_ != nullptr) host().guarded([&] { rules_->changed({list}); });
 }
 
 int InputFormWindow::selectedRow(Field list) const {

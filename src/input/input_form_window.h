@@ -1,9 +1,11 @@
 #pragma once
 
 #include "controls/control_ids.h"
+#include "input/form_layout.h"
 #include "input/input_form.h"
 #include "win32/balloon.h"
 #include "win32/form_window.h"
+#include "win32/strings.h"
 
 namespace varno {
 
@@ -16,7 +18,7 @@ class InputFormWindow : public win32::FormWindow, public FormView {
     /// From here on what happens in the form goes to its rules.
     void listen(InputForm& rules) { rules_ = &rules; }
     /// The size the form needs, in pixels at its resolution.
-    SIZE naturalSize() const;
+    SIZE naturalSize() const { return {px(formWidth), px(formHeight)}; }
     /// Handles the keys of one message: Tab and Enter go through the form in its order, the arrow keys up and
     /// down stay in a column of the grid and step the span count in `nfack`. False when the message is none
     /// of them.
@@ -26,10 +28,10 @@ class InputFormWindow : public win32::FormWindow, public FormView {
     /// Lays the form out at another resolution.
     void changeDpi(int dpi);
 
-    std::string text(Control control) const override;
-    void setText(Control control, const std::string& text) override;
+    std::string text(Control control) const override { return win32::textOf(window(control)); }
+    void setText(Control control, const std::string& text) override { setBoxText(controlId(control), text); }
     void setVisible(Control control, bool visible) override;
-    void setEnabled(Control control, bool enabled) override;
+    void setEnabled(Control control, bool enabled) override { EnableWindow(window(control), enabled); }
     void setCaption(Control control, const std::string& caption) override;
     void showRows(Field list, std::span<const std::string_view> rows, int selected) override;
     int selectedRow(Field list) const override;

@@ -4,11 +4,10 @@
 
 #include "base/run_time_error.h"
 #include "controls/control_ids.h"
-#include "files/file_deletion.h"
-#include "shell/application_parts.h"
+#include "files/deletion_window.h"
+#include "results/result_viewer.h"
 #include "shell/help_contexts.h"
 #include "win32/dpi.h"
-#include "win32/printer_fonts.h"
 #include "win32/user_locale.h"
 
 namespace varno {
@@ -19,16 +18,12 @@ constexpr const char* errorTitle = "Varno";
 
 } // namespace
 
-InputContext Application::inputContext() {
-    return {case_, state_, form_, main_, filler_, sketch_};
-}
-
 Application::Application()
     : locale_(win32::userNumberLocale()), files_(systemFileCalls(), boxes_), fileInfo_(*this),
       fileDialog_(folders_, boxes_, fileInfo_), leftovers_(folders_, systemFileCalls()),
       main_(*this, picture_), form_(*this),
       sketch_(case_, picture_.loadPicture, picture_.slabStrip, picture_, [this] { main_.sketchChanged(); }),
-      filler_(case_, form_, main_, locale_), input_(inputContext()),
+      filler_(case_, form_, main_, locale_), input_({case_, state_, form_, main_, filler_, sketch_}),
       document_(case_, state_, filler_, form_, main_, files_, fileDialog_, boxes_, *this),
       printing_(files_, boxes_, main_, printer_, fileDialog_), diagram_(case_, sketch_) {
     main_.listen(*this);
@@ -36,8 +31,7 @@ Application::Application()
     helpSystem_.setOwner(main_.handle());
     fileInfo_.create(main_.handle());
     fileInfo_.listen(fileDialog_);
-    results_ = std::make_unique<Results>(host(), main_.handle(), settings_.resultFontName, files_, printer_,
-                                         fileDialog_);
+    results_ = std::make_unique<Results>(*this);
 }
 
 Application::~Application() {
@@ -60,21 +54,13 @@ int Application::run() {
 }
 
 void Application::offerLeftovers() {
-    try {
-        LeftoverQuestions(leftovers_, boxes_).ask(fileDialog_.directory());
-    } catch (const RunTimeError& error) {
-        report(error);
-    }
+    guarded([&] { LeftoverQuestions(leftovers_, boxes_).ask(fileDialog_.directory()); });
 }
 
 void Application::offerRescued() {
     rescue_.start(rescueFolder(), rescueInstance());
-    rescueWindow_ = std::make_unique<RescueWindow>(host(), rescue_);
-    try {
-        rescue_.offer();
-    } catch (const RunTimeError& error) {
-        report(error);
-    }
+    rescueWindow_ = std::make_unique<RescueWindow>(*this, rescue_);
+    guarded([&] { rescue_.offer(); });
 }
 
 // What the windows ask of the program
@@ -91,13 +77,8 @@ bool Application::translate(MSG& message) {
     if (TranslateMDISysAccel(main_.mdiClient(), &message)) return true;
     const bool inForm = message.hwnd == form_.handle() || IsChild(form_.handle(), message.hwnd);
     if (!inForm) return translateFlagKey(message);
-    bool taken = false;
-    try {
-        taken = form_.translateKey(message);
-    } catch (const RunTimeError& error) {
-        report(error);
-        return true;
-    }
+    bool taken = true;
+    guarded([&] { taken = form_.translateKey(message); });
     return taken || IsDialogMessageW(form_.handle(), &message);
 }
 
@@ -172,9 +153,6 @@ void Application::runCommand(int id) {
     }
 }
 
-void Application::endTyping() {
-    form_.focus({Field::rubrik});
-}
 void Application::activated() {
     if (IsWindowVisible(form_.handle())) input_.focusTitle();
 }
@@ -213,10 +191,6 @@ bool Application::closing() {
     return ended_;
 }
 
-void Application::dpiChanged(int dpi) {
-    form_.changeDpi(dpi);
-}
-
 void Application::clientResized(int width, int height) {
     if (!form_.exists()) return;
     // A window too small for the form scrolls it; a larger one gives it the room.
@@ -237,10 +211,54 @@ void Application::showRunTimeError() {
     boxes_.show(error.message(), MB_OK | MB_ICONERROR, errorTitle);
 }
 
+// Results, files and line loads
+
+void Application::calculate() {
+    CalculationRun(files_, boxes_, processes_, main_, results_->viewer)
+        .run(state_, settings_.workFolder, settings_.resultFontName);
+}
+
+void Application::showResult() {
+    showResults(files_, boxes_, main_, results_->viewer, state_, settings_.resultFontName);
+}
+
+void Application::showImportant() {
+    if (!important_) important_ = std::make_unique<DisclaimerWindow>(*this, main_.handle());
+    important_->bringForward();
+}
+
+void Application::setUpPrinter() {
+    if (printerThere(printer_, boxes_)) printer_.setUp(main_.handle());
+}
+
+void Application::deleteFiles(const char* pattern) {
+    DeletionWindow window(*this, main_.handle());
+    FileDeletion deletion(folders_, systemFileCalls(), boxes_, window);
+    window.listen(deletion);
+    deletion.open(pattern, fileDialog_.directory());
+}
+
+void Application::showMoments() {
+    if (!moments_) moments_ = std::make_unique<Moments>(*this);
+    moments_->commands.moment();
+}
+
+void Application::openLineLoads(std::unique_ptr<LineLoads>& editor, const LineLoadSet& set) {
+    const BusyPointer busy(main_);
+    if (!editor) editor = std::make_unique<LineLoads>(*this, set);
+    editor->rules.opened();
+}
+
 // Document
 
+void Application::caseOpened() {
+    if (lineLoads_) lineLoads_->rules.caseRead();
+    if (freeLoads_) freeLoads_->rules.caseRead();
+    sketch_.fullRefresh();
+}
+
 SaveAnswer Application::askToSave(const std::string& caption, const std::string& text, bool cancelOffered) {
-    return varno::askToSave(host(), main_.handle(), caption, text, cancelOffered);
+    return varno::askToSave(*this, main_.handle(), caption, text, cancelOffered);
 }
 
 void Application::endProgram() {
@@ -251,29 +269,10 @@ void Application::endProgram() {
 
 // Start-up
 
-void Application::showMainWindow() {
-    main_.show(form_.naturalSize());
-}
-
-bool Application::showVersionNotice() {
-    return askVersionNotice(host(), main_.handle());
-}
-
-void Application::showDisclaimer() {
-    DisclaimerWindow(host(), main_.handle()).runModal();
-}
-
 void Application::showInputForm() {
     form_.listen(input_);
     ShowWindow(form_.handle(), SW_SHOW);
     form_.focus({Field::rubrik});
-}
-
-std::string Application::printerFontName() {
-    return win32::printerFontName();
-}
-void Application::setResultFont(const std::string& face) {
-    results_->viewer.setFont(face);
 }
 
 } // namespace varno

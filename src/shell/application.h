@@ -3,7 +3,8 @@
 #include <deque>
 #include <memory>
 
-#include "diagram/moment_diagram.h"
+#include "diagram/diagram_commands.h"
+#include "diagram/diagram_window.h"
 #include "files/file_info_window.h"
 #include "files/leftovers.h"
 #include "help/help_viewer.h"
@@ -13,7 +14,9 @@
 #include "input/sketch_picture.h"
 #include "lineloads/line_load_window.h"
 #include "results/calculation_run.h"
+#include "results/font_chooser_window.h"
 #include "results/result_printing.h"
+#include "results/result_viewer_window.h"
 #include "shell/document.h"
 #include "shell/main_window.h"
 #include "shell/prompt_window.h"
@@ -22,12 +25,13 @@
 #include "win32/crash_guard.h"
 #include "win32/gdi_printer.h"
 #include "win32/help.h"
+#include "win32/printer_fonts.h"
 
 namespace varno {
 
 /// The program: owns the one design case, the document state, the settings and every window, and hands
 /// references down. It wires events to rules and holds no rule of its own.
-class Application : private win32::WindowHost, private MainEvents, private DocumentView, private StartUpView {
+class Application : public win32::WindowHost, private MainEvents, private DocumentView, private StartUpView {
   public:
     Application();
     ~Application() override;
@@ -42,13 +46,13 @@ class Application : private win32::WindowHost, private MainEvents, private Docum
 
     // MainEvents
     void command(int id) override;
-    void endTyping() override;
+    void endTyping() override { form_.focus({Field::rubrik}); }
     void activated() override;
     void flagClicked(int flag) override;
     void flagMenu(POINT place) override;
     void loadPictureMenu(POINT place) override;
     bool closing() override;
-    void dpiChanged(int dpi) override;
+    void dpiChanged(int dpi) override { form_.changeDpi(dpi); }
     void clientResized(int width, int height) override;
     void showRunTimeError() override;
     void helpRequested(const HELPINFO& request) override;
@@ -59,14 +63,13 @@ class Application : private win32::WindowHost, private MainEvents, private Docum
     void caseOpened() override;
 
     // StartUpView
-    void showMainWindow() override;
-    bool showVersionNotice() override;
-    void showDisclaimer() override;
+    void showMainWindow() override { main_.show(form_.naturalSize()); }
+    bool showVersionNotice() override { return askVersionNotice(*this, main_.handle()); }
+    void showDisclaimer() override { DisclaimerWindow(*this, main_.handle()).runModal(); }
     void showInputForm() override;
-    std::string printerFontName() override;
-    void setResultFont(const std::string& face) override;
+    std::string printerFontName() override { return win32::printerFontName(); }
+    void setResultFont(const std::string& face) override { results_->viewer.setFont(face); }
 
-    win32::WindowHost& host() { return *this; }
     void runCommand(int id);
     bool translateFlagKey(const MSG& message);
     bool translateHelpKey(const MSG& message);
@@ -78,14 +81,41 @@ class Application : private win32::WindowHost, private MainEvents, private Docum
     void setUpPrinter();
     void deleteFiles(const char* pattern);
     void showMoments();
-    /// The windows that need their rules as those need them.
-    struct Results;
-    struct Moments;
-    /// A line load editor with its window, made on first use.
-    struct LineLoads;
+
+    // The windows that need their rules as those need them. The moment diagram and the line load editors are made on
+    // first use.
+    struct Results {
+        explicit Results(Application& app)
+            : viewer(app, app.main_.handle()), chooser(app, viewer.handle()),
+              fonts(app.settings_.resultFontName, app.files_, app.printer_, app.fileDialog_, viewer,
+                    chooser) {
+            viewer.listen(fonts);
+            chooser.listen(fonts);
+        }
+        ResultViewerWindow viewer;
+        FontChooserWindow chooser;
+        FontChoice fonts;
+    };
+    struct Moments {
+        explicit Moments(Application& app)
+            : window(app, app.main_.handle()),
+              commands(app.diagram_, app.files_, app.boxes_, app.main_, app.printer_, window) {
+            window.listen(commands);
+        }
+        DiagramWindow window;
+        DiagramCommands commands;
+    };
+    struct LineLoads {
+        LineLoads(Application& app, const LineLoadSet& set)
+            : window(app, app.main_.handle(), set),
+              rules(set, {app.case_, app.state_, app.main_, app.sketch_, app.form_, window}, app.locale_) {
+            window.listen(rules);
+        }
+        LineLoadWindow window;
+        LineLoadEditor rules;
+    };
     void openLineLoads(std::unique_ptr<LineLoads>& editor, const LineLoadSet& set);
     void offerRescued();
-    InputContext inputContext();
 
     NumberLocale locale_;
     DesignCase case_;

@@ -22,10 +22,6 @@ Document::Document(DesignCase& designCase, DocumentState& state, CaseFormFiller&
     : case_(designCase), state_(state), filler_(filler), form_(form), window_(window), files_(files),
       dialog_(dialog), boxes_(boxes), view_(view) {}
 
-std::string Document::caption() const {
-    return upperCase(state_.currentFileName) + ".IND";
-}
-
 std::string Document::saveQuestion() const {
     return "Vill Du spara ändringarna i " + state_.currentFileName + ".IND" + " ?";
 }
@@ -56,10 +52,6 @@ void Document::commit(const CaseFile& opened, bool asSaved) {
     } catch (const RunTimeError& error) {
         view_.report(error);
     }
-}
-
-void Document::readDefaultCase(const std::string& workFolder) {
-    read(workFolder + "\\varno.def", false);
 }
 
 // False when the case was to be saved but was not, because the file-name dialog was cancelled: the command
@@ -189,10 +181,6 @@ void Document::exit() {
 }
 
 // Rescue
-
-std::string Document::title() const {
-    return form_.text({Field::rubrik});
-}
 
 RescuedCase Document::toKeep() {
     RescuedCase kept;

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/open_file.h"
+#include "base/text.h"
 #include "files/file_dialog.h"
 #include "input/form_filling.h"
 #include "model/design_case.h"
@@ -49,17 +50,17 @@ class Document : public RescueSource {
     void exit();
 
     /// Opens the default case of the work folder, as start-up and New do.
-    void readDefaultCase(const std::string& workFolder);
+    void readDefaultCase(const std::string& workFolder) { read(workFolder + "\\varno.def", false); }
 
     // RescueSource. The editors of line loads change the record without marking the case, as they are meant to;
     // what they changed is kept all the same.
     bool changed() const override { return state_.dataChanged || case_ != settledCase_; }
-    std::string title() const override;
+    std::string title() const override { return form_.text({Field::rubrik}); }
     RescuedCase toKeep() override;
     void restore(const RescuedCase& rescued) override;
 
     /// The upper-cased case name and ".IND": the main window's caption, and the name that Save writes to.
-    std::string caption() const;
+    std::string caption() const { return upperCase(state_.currentFileName) + ".IND"; }
     /// The question of the save-changes prompts.
     std::string saveQuestion() const;
 

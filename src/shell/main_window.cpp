@@ -45,10 +45,6 @@ MainWindow::~MainWindow() {
     destroy();
 }
 
-int MainWindow::px(int twips) const {
-    return win32::pixels(twips, dpi_);
-}
-
 HMENU MainWindow::buildMenu() {
     const HMENU bar = CreateMenu();
     HMENU menu = nullptr;
@@ -127,14 +123,10 @@ void MainWindow::setDpi(int dpi) {
     slabStrip_.setDpi(dpi);
 }
 
-int MainWindow::bandHeight() const {
-    return px(bandEnd);
-}
-
 void MainWindow::show(SIZE form) {
     if (!shown_) {
         shown_ = true;
-        RECT frame{0, 0, form.cx, form.cy + bandHeight()};
+        RECT frame{0, 0, form.cx, form.cy + px(bandEnd)};
         AdjustWindowRectExForDpi(&frame, static_cast<DWORD>(GetWindowLongPtrW(handle(), GWL_STYLE)), TRUE,
                                  static_cast<DWORD>(GetWindowLongPtrW(handle(), GWL_EXSTYLE)),
                                  static_cast<UINT>(dpi_));
@@ -175,7 +167,7 @@ void MainWindow::layOut() {
     }
     put(flagLabel_, flagLabelX, flagY + raster(9), raster(170), raster(34));
     placeSupportButtons();
-    const int top = bandHeight();
+    const int top = px(bandEnd);
     const int height = std::max(0, static_cast<int>(client.bottom) - top);
     // The scroll bars take room themselves; they come back by themselves when the form does not fit without
     // them.
@@ -209,10 +201,6 @@ void MainWindow::sketchChanged() {
 
 void MainWindow::postRunTimeError() {
     PostMessageW(handle(), showErrorMessage, 0, 0);
-}
-
-void MainWindow::setCaption(const std::string& caption) {
-    win32::setText(handle(), caption);
 }
 
 void MainWindow::setBusy(bool busy) {

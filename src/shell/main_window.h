@@ -4,7 +4,9 @@
 #include "controls/main_view.h"
 #include "input/sketch_picture.h"
 #include "shell/toolbar_window.h"
+#include "win32/dpi.h"
 #include "win32/picture_window.h"
+#include "win32/strings.h"
 #include "win32/unique.h"
 #include "win32/window.h"
 
@@ -57,7 +59,7 @@ class MainWindow : public win32::Window, public MainView {
     /// Later, when the current event is over, MainEvents::showRunTimeError is called.
     void postRunTimeError();
 
-    void setCaption(const std::string& caption) override;
+    void setCaption(const std::string& caption) override { win32::setText(handle(), caption); }
     void setBusy(bool busy) override;
     void setDiagramEnabled(bool enabled) override;
     void showFlag(int flag) override;
@@ -72,8 +74,7 @@ class MainWindow : public win32::Window, public MainView {
     HMENU buildMenu();
     void layOut();
     void setDpi(int dpi);
-    int px(int twips) const;
-    int bandHeight() const;
+    int px(int twips) const { return win32::pixels(twips, dpi_); }
     void placeSupportButtons();
     void drawFlag(const DRAWITEMSTRUCT& item) const;
     LRESULT onActivate(WPARAM wParam, LPARAM lParam);

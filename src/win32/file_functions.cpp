@@ -7,34 +7,6 @@
 
 namespace varno::win32 {
 
-HANDLE FileFunctions::open(const std::wstring& path, DWORD access, DWORD share, DWORD disposition) {
-    return CreateFileW(path.c_str(), access, share, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
-}
-
-bool FileFunctions::isDisk(HANDLE file) {
-    return GetFileType(file) == FILE_TYPE_DISK;
-}
-
-bool FileFunctions::read(HANDLE file, void* bytes, DWORD size, DWORD& done) {
-    return ReadFile(file, bytes, size, &done, nullptr) != FALSE;
-}
-
-bool FileFunctions::write(HANDLE file, const void* bytes, DWORD size, DWORD& done) {
-    return WriteFile(file, bytes, size, &done, nullptr) != FALSE;
-}
-
-bool FileFunctions::flush(HANDLE file) {
-    return FlushFileBuffers(file) != FALSE;
-}
-
-bool FileFunctions::close(HANDLE file) {
-    return CloseHandle(file) != FALSE;
-}
-
-DWORD FileFunctions::attributes(const std::wstring& path) {
-    return GetFileAttributesW(path.c_str());
-}
-
 std::wstring FileFunctions::truePath(const std::wstring& path) {
     constexpr DWORD share = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     const HANDLE handle =
@@ -53,16 +25,8 @@ bool FileFunctions::lastWritten(const std::wstring& path, FILETIME& time) {
     return true;
 }
 
-bool FileFunctions::remove(const std::wstring& path) {
-    return DeleteFileW(path.c_str()) != FALSE;
-}
-
 bool FileFunctions::moveOver(const std::wstring& from, const std::wstring& to) {
     return MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
-}
-
-void FileFunctions::pause(DWORD milliseconds) {
-    Sleep(milliseconds);
 }
 
 bool FileFunctions::copyAttributes(const std::wstring& from, const std::wstring& to) {

@@ -179,10 +179,6 @@ void FormWindow::adopt(HWND control, RECT twips, FontRole role) {
     setFont(control, role);
 }
 
-HFONT FormWindow::font(FontRole role) const {
-    return fonts_[static_cast<int>(role)].get();
-}
-
 void FormWindow::setFont(HWND control, FontRole role) {
     SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font(role)), TRUE);
     if (classOf(control) != "Edit" || (GetWindowLongPtrW(control, GWL_STYLE) & ES_RIGHT) == 0) return;
@@ -253,7 +249,7 @@ void FormWindow::sizeAndCentre(int width, int height, HWND over) {
 
 void FormWindow::leaveKept(int field) {
     const int notification = classOf(item(field)) == "Edit" ? EN_KILLFOCUS : CBN_KILLFOCUS;
-    guarded([&] { onCommand(field, notification); });
+    host().guarded([&] { onCommand(field, notification); });
 }
 
 void FormWindow::controlTold(HWND control, int notification) {

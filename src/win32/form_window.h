@@ -82,7 +82,7 @@ class FormWindow : public Window, private FieldWindow {
     void returnTo(HWND box);
     void drawItem(const DRAWITEMSTRUCT& item);
     void drawSymbol(const DRAWITEMSTRUCT& item);
-    HFONT font(FontRole role) const;
+    HFONT font(FontRole role) const { return fonts_[static_cast<int>(role)].get(); }
     void setFont(HWND control, FontRole role);
 
     std::vector<Placed> placed_;

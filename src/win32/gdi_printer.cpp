@@ -60,10 +60,6 @@ UniqueDc GdiPrinter::createDc() const {
     return UniqueDc(CreateDCW(L"WINSPOOL", name.c_str(), nullptr, nullptr));
 }
 
-bool GdiPrinter::available() const {
-    return dc_ != nullptr || createDc() != nullptr;
-}
-
 void GdiPrinter::setUp(HWND owner) {
     if (showSetUp(owner) || CommDlgExtendedError() == 0) return;
     // The dialog does not come with a printer that has been removed since; it does with the default one.

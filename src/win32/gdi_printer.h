@@ -21,7 +21,7 @@ class GdiPrinter : public Printer {
     GdiPrinter(const GdiPrinter&) = delete;
     GdiPrinter& operator=(const GdiPrinter&) = delete;
 
-    bool available() const override;
+    bool available() const override { return dc_ != nullptr || createDc() != nullptr; }
     std::vector<std::string> fonts() const override { return printerFonts(); }
     /// The platform's set-up dialog: printer, orientation and copies. What is chosen applies to the next document.
     void setUp(HWND owner);

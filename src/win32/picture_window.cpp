@@ -16,10 +16,6 @@ void PictureWindow::setDpi(int dpi) {
     redraw();
 }
 
-void PictureWindow::redraw() {
-    InvalidateRect(handle(), nullptr, FALSE);
-}
-
 void PictureWindow::paint() {
     PAINTSTRUCT paint{};
     const HDC screen = BeginPaint(handle(), &paint);

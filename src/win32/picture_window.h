@@ -15,7 +15,7 @@ class PictureWindow : public Window {
     void create(HWND parent, int id, const std::string& name, const RecordingCanvas& picture);
     void setDpi(int dpi);
     /// Paints the drawing as it is now.
-    void redraw();
+    void redraw() { InvalidateRect(handle(), nullptr, FALSE); }
 
   protected:
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;

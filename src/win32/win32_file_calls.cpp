@@ -129,7 +129,12 @@ std::unique_ptr<FileCalls::Output> WindowsFileCalls::create(const std::string& p
 void WindowsFileCalls::replace(const std::string& from, const std::string& to) {
     const std::wstring draft = systemPath(from);
     const std::wstring target = systemPath(to);
-    if (windows_.attributes(target) != INVALID_FILE_ATTRIBUTES) carryOver(target, draft);
+    if (windows_.attributes(target) != INVALID_FILE_ATTRIBUTES) {
+        // As far as it goes: a case that cannot keep a mark of its file is saved without it. The rights come last, as
+        // they may forbid the rest.
+        windows_.copyAttributes(target, draft);
+        windows_.copyRights(target, draft);
+    }
     // A virus scanner or an indexer holds a file for a moment when it has just been written.
     for (const DWORD wait : {10UL, 20UL, 40UL, 80UL, 0UL}) {
         if (windows_.moveOver(draft, target)) return;
@@ -139,13 +144,6 @@ void WindowsFileCalls::replace(const std::string& from, const std::string& to) {
         if (!held || wait == 0) failWith(code);
         windows_.pause(wait);
     }
-}
-
-// As far as it goes: a case that cannot keep a mark of its file is saved without it. The rights come last, as they may
-// forbid the rest.
-void WindowsFileCalls::carryOver(const std::wstring& from, const std::wstring& to) {
-    windows_.copyAttributes(from, to);
-    windows_.copyRights(from, to);
 }
 
 void WindowsFileCalls::remove(const std::string& path) {

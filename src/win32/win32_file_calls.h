@@ -14,24 +14,30 @@ class FileFunctions {
   public:
     virtual ~FileFunctions() = default;
     /// INVALID_HANDLE_VALUE when it fails.
-    virtual HANDLE open(const std::wstring& path, DWORD access, DWORD share, DWORD disposition);
-    virtual bool isDisk(HANDLE file);
-    virtual bool read(HANDLE file, void* bytes, DWORD size, DWORD& done);
-    virtual bool write(HANDLE file, const void* bytes, DWORD size, DWORD& done);
-    virtual bool flush(HANDLE file);
-    virtual bool close(HANDLE file);
+    virtual HANDLE open(const std::wstring& path, DWORD access, DWORD share, DWORD disposition) {
+        return CreateFileW(path.c_str(), access, share, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
+    }
+    virtual bool isDisk(HANDLE file) { return GetFileType(file) == FILE_TYPE_DISK; }
+    virtual bool read(HANDLE file, void* bytes, DWORD size, DWORD& done) {
+        return ReadFile(file, bytes, size, &done, nullptr) != FALSE;
+    }
+    virtual bool write(HANDLE file, const void* bytes, DWORD size, DWORD& done) {
+        return WriteFile(file, bytes, size, &done, nullptr) != FALSE;
+    }
+    virtual bool flush(HANDLE file) { return FlushFileBuffers(file) != FALSE; }
+    virtual bool close(HANDLE file) { return CloseHandle(file) != FALSE; }
     /// INVALID_FILE_ATTRIBUTES when it fails.
-    virtual DWORD attributes(const std::wstring& path);
+    virtual DWORD attributes(const std::wstring& path) { return GetFileAttributesW(path.c_str()); }
     /// Where a file really lies: whole, with its long names, whatever drive letter or letter case led to it. Empty
     /// when there is none.
     virtual std::wstring truePath(const std::wstring& path);
     virtual bool lastWritten(const std::wstring& path, FILETIME& time);
-    virtual bool remove(const std::wstring& path);
+    virtual bool remove(const std::wstring& path) { return DeleteFileW(path.c_str()) != FALSE; }
 
     /// Renames over a file that is there, in one step.
     virtual bool moveOver(const std::wstring& from, const std::wstring& to);
     /// Lets some time pass before a rename is tried again.
-    virtual void pause(DWORD milliseconds);
+    virtual void pause(DWORD milliseconds) { Sleep(milliseconds); }
 
     /// What a user gave a file beside its content, from one file to another.
     virtual bool copyAttributes(const std::wstring& from, const std::wstring& to);
@@ -53,8 +59,6 @@ class WindowsFileCalls : public FileCalls {
     std::int64_t lastWritten(const std::string& path) override;
 
   private:
-    void carryOver(const std::wstring& from, const std::wstring& to);
-
     FileFunctions& windows_;
 };
 

@@ -97,12 +97,9 @@ LRESULT CALLBACK Window::proc(HWND window, UINT message, WPARAM wParam, LPARAM l
         self->handle_ = nullptr;
         return result;
     }
-    try {
-        return self->onMessage(message, wParam, lParam);
-    } catch (const RunTimeError& error) {
-        self->host_.report(error);
-        return 0;
-    }
+    LRESULT result = 0;
+    self->host_.guarded([&] { result = self->onMessage(message, wParam, lParam); });
+    return result;
 }
 
 } // namespace varno::win32

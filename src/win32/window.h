@@ -21,6 +21,15 @@ class WindowHost {
     virtual bool translate(MSG& message) = 0;
     /// Which of the program's windows is the active one.
     Activation& activation() { return activation_; }
+    /// Runs one event's rules; a run-time error stops it and is reported.
+    template <typename Event>
+    void guarded(Event event) {
+        try {
+            event();
+        } catch (const RunTimeError& error) {
+            report(error);
+        }
+    }
 
   private:
     Activation activation_;
@@ -63,15 +72,6 @@ class Window {
     bool activationChanged(WPARAM wParam, LPARAM lParam);
     /// Gives the focus to the control that had it when the window was left; Windows gives it to the window itself.
     bool restoreFocus();
-    /// Runs one event's rules; a run-time error stops it and is reported.
-    template <typename Event>
-    void guarded(Event event) {
-        try {
-            event();
-        } catch (const RunTimeError& error) {
-            host_.report(error);
-        }
-    }
 
   private:
     static void registerClass(const wchar_t* className);
