@@ -12,38 +12,22 @@ std::string folderOf(const std::string& path) {
 
 } // namespace
 
-std::vector<std::string> HelpViewer::folders(const std::string& workFolder) {
-    std::vector<std::string> places{folderOf(registeredHelpFile)};
-    if (!workFolder.empty()) places.push_back(workFolder);
-    places.push_back(system_.programFolder());
-    return places;
-}
-
-bool HelpViewer::showFile(std::string_view topic, const std::vector<std::string>& folders) {
-    for (const std::string& folder : folders) {
-        const std::string file = folder + "\\Varno.HLP";
-        if (!system_.exists(file)) continue;
-        if (!system_.winHelp(file, helpContext(topic))) return false;
-        shown_ = file;
-        return true;
-    }
-    return false;
-}
-
-// A page of its own for each topic leads to the place in the one long page: Windows drops what stands behind "#" when
-// it is asked to open a file.
-std::string HelpViewer::twinPage(std::string_view topic, const std::vector<std::string>& folders) {
-    for (const std::string& folder : folders) {
-        std::string page = folder + "\\help\\amnen\\" + std::string(topic) + ".html";
-        if (system_.exists(page)) return page;
+std::string HelpViewer::find(const std::string& file, const std::string& workFolder) {
+    for (const std::string& folder : {folderOf(registeredHelpFile), workFolder, system_.programFolder()}) {
+        if (!folder.empty() && system_.exists(folder + file)) return folder + file;
     }
     return {};
 }
 
 void HelpViewer::show(std::string_view topic, const std::string& workFolder) {
-    const auto places = folders(workFolder);
-    if (showFile(topic, places)) return;
-    const std::string page = twinPage(topic, places);
+    const std::string file = find("\\Varno.HLP", workFolder);
+    if (!file.empty() && system_.winHelp(file, helpContext(topic))) {
+        shown_ = file;
+        return;
+    }
+    // A page of its own for each topic leads to the place in the one long page: Windows drops what stands behind "#"
+    // when it is asked to open a file.
+    const std::string page = find("\\help\\amnen\\" + std::string(topic) + ".html", workFolder);
     if (page.empty()) {
         boxes_.tell(helpMissing);
     } else if (!system_.openDocument(page)) {

@@ -2,7 +2,6 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "base/help_system.h"
 #include "base/message_boxes.h"
@@ -33,9 +32,8 @@ class HelpViewer {
     void close();
 
   private:
-    std::vector<std::string> folders(const std::string& workFolder);
-    bool showFile(std::string_view topic, const std::vector<std::string>& folders);
-    std::string twinPage(std::string_view topic, const std::vector<std::string>& folders);
+    /// The path of a help file in the first place that has it, empty when none has.
+    std::string find(const std::string& file, const std::string& workFolder);
 
     HelpSystem& system_;
     MessageBoxes& boxes_;

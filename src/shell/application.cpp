@@ -195,8 +195,8 @@ void Application::clientResized(int width, int height) {
     if (!form_.exists()) return;
     // A window too small for the form scrolls it; a larger one gives it the room.
     const SIZE natural = form_.naturalSize();
-    SetWindowPos(form_.handle(), nullptr, 0, 0, std::max<int>(width, natural.cx),
-                 std::max<int>(height, natural.cy), SWP_NOZORDER | SWP_NOACTIVATE);
+    win32::setPlace(form_.handle(), 0, 0, std::max<int>(width, natural.cx),
+                    std::max<int>(height, natural.cy));
 }
 
 void Application::helpRequested(const HELPINFO& request) {

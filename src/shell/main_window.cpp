@@ -92,25 +92,16 @@ void MainWindow::createParts() {
     toolbar_.create(handle());
     loadPicture_.create(handle(), idLoadPicture, "Lastbild", sketch_.loadPicture);
     slabStrip_.create(handle(), idSlabStrip, "Plattremsa", sketch_.slabStrip);
-    for (int i = 0; i < buttonCount; ++i) {
-        CreateWindowExW(0, L"BUTTON", L"", WS_CHILD | BS_PUSHBUTTON, 0, 0, 0, 0, slabStrip_.handle(),
-                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(idSupportButton + i)),
-                        win32::programInstance(), nullptr);
-    }
-    for (int flag = 0; flag < flagCount; ++flag) {
-        CreateWindowExW(0, L"BUTTON", win32::wide(flagName(flag)).c_str(), WS_CHILD | BS_OWNERDRAW, 0, 0, 0,
-                        0, handle(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(idFlag + flag)),
-                        win32::programInstance(), nullptr);
-    }
-    flagLabel_ = CreateWindowExW(0, L"STATIC", L"", WS_CHILD | WS_VISIBLE | SS_LEFT | SS_NOPREFIX, 0, 0, 0, 0,
-                                 handle(), nullptr, win32::programInstance(), nullptr);
+    for (int i = 0; i < buttonCount; ++i)
+        win32::createControl(slabStrip_.handle(), idSupportButton + i, L"BUTTON", "", BS_PUSHBUTTON);
+    for (int flag = 0; flag < flagCount; ++flag)
+        win32::createControl(handle(), idFlag + flag, L"BUTTON", flagName(flag), BS_OWNERDRAW);
+    flagLabel_ = win32::createControl(handle(), 0, L"STATIC", "", WS_VISIBLE | SS_LEFT | SS_NOPREFIX);
     CLIENTCREATESTRUCT client{};
     client.idFirstChild = idFirstMdiChild;
-    mdiClient_ = CreateWindowExW(
-        0, L"MDICLIENT", nullptr,
-        WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | WS_VSCROLL | WS_HSCROLL | MDIS_ALLCHILDSTYLES, 0, 0, 0, 0,
-        handle(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(idMdiClient)), win32::programInstance(),
-        &client);
+    mdiClient_ = win32::createControl(
+        handle(), idMdiClient, L"MDICLIENT", "",
+        WS_VISIBLE | WS_CLIPCHILDREN | WS_VSCROLL | WS_HSCROLL | MDIS_ALLCHILDSTYLES, 0, &client);
 }
 
 void MainWindow::setDpi(int dpi) {
@@ -136,9 +127,8 @@ void MainWindow::show(SIZE form) {
         const RECT& work = monitor.rcWork;
         const int width = std::min(frame.right - frame.left, work.right - work.left);
         const int height = std::min(frame.bottom - frame.top, work.bottom - work.top);
-        SetWindowPos(handle(), nullptr, work.left + (work.right - work.left - width) / 2,
-                     work.top + (work.bottom - work.top - height) / 2, width, height,
-                     SWP_NOZORDER | SWP_NOACTIVATE);
+        win32::setPlace(handle(), work.left + (work.right - work.left - width) / 2,
+                        work.top + (work.bottom - work.top - height) / 2, width, height);
         layOut();
         ShowWindow(handle(), SW_SHOW);
         UpdateWindow(handle());
@@ -149,15 +139,11 @@ void MainWindow::show(SIZE form) {
 
 void MainWindow::layOut() {
     const auto put = [this](HWND window, int x, int y, int width, int height) {
-        const int left = px(x);
-        const int top = px(y);
-        SetWindowPos(window, nullptr, left, top, px(x + width) - left, px(y + height) - top,
-                     SWP_NOZORDER | SWP_NOACTIVATE);
+        win32::setPlace(window, {px(x), px(y), px(x + width), px(y + height)});
     };
     RECT client{};
     GetClientRect(handle(), &client);
-    SetWindowPos(toolbar_.handle(), nullptr, 0, 0, client.right, px(toolbarHeight),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+    win32::setPlace(toolbar_.handle(), 0, 0, client.right, px(toolbarHeight));
     put(loadPicture_.handle(), loadX, loadY, static_cast<int>(loadPictureWidth) + edge,
         static_cast<int>(loadPictureHeight));
     put(slabStrip_.handle(), stripX, stripY, static_cast<int>(slabStripWidth),
@@ -172,7 +158,7 @@ void MainWindow::layOut() {
     // The scroll bars take room themselves; they come back by themselves when the form does not fit without
     // them.
     ShowScrollBar(mdiClient_, SB_BOTH, FALSE);
-    SetWindowPos(mdiClient_, nullptr, 0, top, client.right, height, SWP_NOZORDER | SWP_NOACTIVATE);
+    win32::setPlace(mdiClient_, 0, top, client.right, height);
     events_->clientResized(client.right, height);
 }
 
@@ -183,12 +169,10 @@ void MainWindow::placeSupportButtons() {
     for (int i = 0; i < buttonCount; ++i) {
         const HWND button = GetDlgItem(slabStrip_.handle(), idSupportButton + i);
         const SketchPicture::Button& state = sketch_.button(i);
-        if (!state.visible) {
-            ShowWindow(button, SW_HIDE);
-            continue;
-        }
-        SetWindowPos(button, nullptr, toPixels(state.left), toPixels(state.top), toPixels(supportButtonWidth),
-                     toPixels(supportButtonHeight), SWP_NOZORDER | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+        if (state.visible)
+            win32::setPlace(button, toPixels(state.left), toPixels(state.top), toPixels(supportButtonWidth),
+                            toPixels(supportButtonHeight));
+        ShowWindow(button, state.visible ? SW_SHOWNA : SW_HIDE);
     }
 }
 
@@ -223,11 +207,6 @@ void MainWindow::showFlag(int flag) {
         ShowWindow(GetDlgItem(handle(), idFlag + other), other == flag ? SW_SHOWNA : SW_HIDE);
     }
     win32::setText(flagLabel_, flagName(flag));
-}
-
-void MainWindow::drawFlag(const DRAWITEMSTRUCT& item) const {
-    paintFlag(item.hDC, item.rcItem, static_cast<int>(item.CtlID) - idFlag,
-              (item.itemState & ODS_SELECTED) != 0, (item.itemState & ODS_FOCUS) != 0);
 }
 
 LRESULT MainWindow::onActivate(WPARAM wParam, LPARAM lParam) {
@@ -295,7 +274,8 @@ LRESULT MainWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_DRAWITEM: {
         const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
         if (item.CtlType != ODT_BUTTON) break;
-        drawFlag(item);
+        paintFlag(item.hDC, item.rcItem, static_cast<int>(item.CtlID) - idFlag,
+                  (item.itemState & ODS_SELECTED) != 0, (item.itemState & ODS_FOCUS) != 0);
         return TRUE;
     }
     case WM_SIZE:
@@ -308,15 +288,12 @@ LRESULT MainWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return TRUE;
     case WM_ACTIVATE:
         return onActivate(wParam, lParam);
-    case WM_DPICHANGED: {
+    case WM_DPICHANGED:
         setDpi(win32::dpiOf(handle()));
         events_->dpiChanged(dpi_);
-        const auto& box = *reinterpret_cast<const RECT*>(lParam);
-        SetWindowPos(handle(), nullptr, box.left, box.top, box.right - box.left, box.bottom - box.top,
-                     SWP_NOZORDER | SWP_NOACTIVATE);
+        win32::setPlace(handle(), *reinterpret_cast<const RECT*>(lParam));
         layOut();
         return 0;
-    }
     case WM_CLOSE:
         events_->closing();
         return 0;

@@ -76,7 +76,6 @@ class MainWindow : public win32::Window, public MainView {
     void setDpi(int dpi);
     int px(int twips) const { return win32::pixels(twips, dpi_); }
     void placeSupportButtons();
-    void drawFlag(const DRAWITEMSTRUCT& item) const;
     LRESULT onActivate(WPARAM wParam, LPARAM lParam);
     LRESULT onCommand(WPARAM wParam, LPARAM lParam);
     void sendHelpKey();

@@ -12,11 +12,9 @@
 namespace varno {
 
 void Toolbar::create(HWND parent) {
-    handle_ = CreateWindowExW(0, TOOLBARCLASSNAMEW, L"Verktyg",
-                              WS_CHILD | WS_VISIBLE | TBSTYLE_FLAT | TBSTYLE_LIST | TBSTYLE_TOOLTIPS |
-                                  CCS_NODIVIDER | CCS_NOPARENTALIGN | CCS_NORESIZE,
-                              0, 0, 0, 0, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(idToolbar)),
-                              win32::programInstance(), nullptr);
+    handle_ = win32::createControl(parent, idToolbar, TOOLBARCLASSNAMEW, "Verktyg",
+                                   WS_VISIBLE | TBSTYLE_FLAT | TBSTYLE_LIST | TBSTYLE_TOOLTIPS |
+                                       CCS_NODIVIDER | CCS_NOPARENTALIGN | CCS_NORESIZE);
     SendMessageW(handle_, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
     // The texts are not shown: they are the buttons' tips and their names for screen readers.
     SendMessageW(handle_, TB_SETEXTENDEDSTYLE, 0, TBSTYLE_EX_MIXEDBUTTONS);

@@ -153,24 +153,19 @@ void FormWindow::returnTo(HWND box) {
     SendMessageW(box, EM_SETSEL, 0, -1);
 }
 
-HWND FormWindow::createControl(const ControlSpec& spec) {
-    const KindStyle& kind = *std::ranges::find(styles, spec.kind, &KindStyle::kind);
-    const HWND control = CreateWindowExW(
-        kind.exStyle, kind.className, wide(spec.text).c_str(), WS_CHILD | WS_VISIBLE | kind.style, 0, 0, 0, 0,
-        handle(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(spec.id)), programInstance(), nullptr);
-    if (spec.kind == ControlKind::memo) SendMessageW(control, EM_SETLIMITTEXT, 0, 0);
-    // Of itself a spin button's range runs from 100 down to 0, and its upper arrow counts down.
-    if (spec.kind == ControlKind::spin) SendMessageW(control, UDM_SETRANGE32, 0, 100);
-    if (spec.kind == ControlKind::dropDown) passWheelOn(control);
-    return control;
-}
-
 void FormWindow::addControls(std::span<const ControlSpec> controls) {
     if (!fonts_[0]) setDpi(dpiOf(handle()));
     for (const ControlSpec& spec : controls) {
+        const KindStyle& kind = *std::ranges::find(styles, spec.kind, &KindStyle::kind);
+        const HWND control = createControl(handle(), spec.id, kind.className, spec.text,
+                                           WS_VISIBLE | kind.style, kind.exStyle);
+        if (spec.kind == ControlKind::memo) SendMessageW(control, EM_SETLIMITTEXT, 0, 0);
+        // Of itself a spin button's range runs from 100 down to 0, and its upper arrow counts down.
+        if (spec.kind == ControlKind::spin) SendMessageW(control, UDM_SETRANGE32, 0, 100);
+        if (spec.kind == ControlKind::dropDown) passWheelOn(control);
         // A drop-down list's height is that of its open list.
         const int open = spec.kind == ControlKind::dropDown ? raster(220) : 0;
-        adopt(createControl(spec), {spec.x, spec.y, spec.right(), spec.bottom() + open});
+        adopt(control, {spec.x, spec.y, spec.right(), spec.bottom() + open});
     }
 }
 
@@ -219,8 +214,7 @@ void FormWindow::layOut() {
         // Both edges are rounded, not the size: neighbours that touch in twips touch in pixels.
         const int left = px(placed.twips.left);
         const int top = px(placed.twips.top);
-        SetWindowPos(placed.control, nullptr, left, top, px(placed.twips.right) - left,
-                     px(placed.twips.bottom) - top, SWP_NOZORDER | SWP_NOACTIVATE);
+        setPlace(placed.control, {left, top, px(placed.twips.right), px(placed.twips.bottom)});
     }
 }
 
@@ -240,10 +234,8 @@ void FormWindow::sizeAndCentre(int width, int height, HWND over) {
     const auto middle = [](LONG low, LONG high, int size, LONG least, LONG most) {
         return std::max<LONG>(least, std::min<LONG>(low + (high - low - size) / 2, most - size));
     };
-    SetWindowPos(handle(), nullptr,
-                 middle(around.left, around.right, w, monitor.rcWork.left, monitor.rcWork.right),
-                 middle(around.top, around.bottom, h, monitor.rcWork.top, monitor.rcWork.bottom), w, h,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+    setPlace(handle(), middle(around.left, around.right, w, monitor.rcWork.left, monitor.rcWork.right),
+             middle(around.top, around.bottom, h, monitor.rcWork.top, monitor.rcWork.bottom), w, h);
     layOut();
 }
 
@@ -327,14 +319,11 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             if (first != nullptr) SetFocus(first);
         }
         return 0;
-    case WM_DPICHANGED: {
+    case WM_DPICHANGED:
         setDpi(dpiOf(handle()));
-        const auto* box = reinterpret_cast<const RECT*>(lParam);
-        SetWindowPos(handle(), nullptr, box->left, box->top, box->right - box->left, box->bottom - box->top,
-                     SWP_NOZORDER | SWP_NOACTIVATE);
+        setPlace(handle(), *reinterpret_cast<const RECT*>(lParam));
         layOut();
         return 0;
-    }
     default:
         return defaultProc(message, wParam, lParam);
     }

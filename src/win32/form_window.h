@@ -78,7 +78,6 @@ class FormWindow : public Window, private FieldWindow {
     };
     void leaveKept(int field) override;
     void controlTold(HWND control, int notification);
-    HWND createControl(const ControlSpec& spec);
     void returnTo(HWND box);
     void drawItem(const DRAWITEMSTRUCT& item);
     void drawSymbol(const DRAWITEMSTRUCT& item);

@@ -20,21 +20,13 @@ constexpr int charactersOnLine = 80;
 constexpr int largestFont = 100; // tenths of a point
 constexpr int smallestFont = 40;
 
-class LockedGlobal {
-  public:
-    explicit LockedGlobal(HGLOBAL memory)
-        : memory_(memory), data_(memory != nullptr ? GlobalLock(memory) : nullptr) {}
-    ~LockedGlobal() {
-        if (data_ != nullptr) GlobalUnlock(memory_);
-    }
-    LockedGlobal(const LockedGlobal&) = delete;
-    LockedGlobal& operator=(const LockedGlobal&) = delete;
-    void* get() const { return data_; }
-
-  private:
-    HGLOBAL memory_;
-    void* data_;
+struct Unlocker {
+    HGLOBAL memory;
+    void operator()(void*) const { GlobalUnlock(memory); }
 };
+std::unique_ptr<void, Unlocker> locked(HGLOBAL memory) {
+    return {memory != nullptr ? GlobalLock(memory) : nullptr, {memory}};
+}
 
 } // namespace
 
@@ -45,9 +37,9 @@ GdiPrinter::~GdiPrinter() {
 }
 
 UniqueDc GdiPrinter::createDc() const {
-    const LockedGlobal mode(mode_.get());
-    const LockedGlobal names(names_.get());
-    if (names.get() != nullptr) {
+    const auto mode = locked(mode_.get());
+    const auto names = locked(names_.get());
+    if (names) {
         const auto* devNames = static_cast<const DEVNAMES*>(names.get());
         const auto* texts = static_cast<const wchar_t*>(names.get());
         UniqueDc chosen(CreateDCW(L"WINSPOOL", texts + devNames->wDeviceOffset, nullptr,

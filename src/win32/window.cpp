@@ -9,6 +9,16 @@ HINSTANCE programInstance() {
     return GetModuleHandleW(nullptr);
 }
 
+HWND createControl(HWND parent, int id, const wchar_t* className, std::string_view text, DWORD style,
+                   DWORD exStyle, void* parameter) {
+    return CreateWindowExW(exStyle, className, wide(text).c_str(), WS_CHILD | style, 0, 0, 0, 0, parent,
+                           reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), programInstance(), parameter);
+}
+
+void setPlace(HWND window, int x, int y, int width, int height) {
+    SetWindowPos(window, nullptr, x, y, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 void dispatch(WindowHost& host, MSG& message) {
     if (host.translate(message)) return;
     TranslateMessage(&message);

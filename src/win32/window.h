@@ -85,4 +85,13 @@ class Window {
 /// The instance of the program.
 HINSTANCE programInstance();
 
+/// A control of a class of Windows, not placed yet.
+HWND createControl(HWND parent, int id, const wchar_t* className, std::string_view text, DWORD style,
+                   DWORD exStyle = 0, void* parameter = nullptr);
+/// Moves and sizes a window and does nothing else with it.
+void setPlace(HWND window, int x, int y, int width, int height);
+inline void setPlace(HWND window, const RECT& box) {
+    setPlace(window, box.left, box.top, box.right - box.left, box.bottom - box.top);
+}
+
 } // namespace varno::win32
