@@ -10,16 +10,8 @@
 
 namespace varno {
 
-/// A menu item under "Ta bort" and the files that it offers.
-struct DeletionMenuItem {
-    const char* name;
-    const char* pattern;
-};
-inline constexpr std::array deletionMenu{
-    DeletionMenuItem{"del1", "*.RES"},
-    DeletionMenuItem{"del2", "*.IND"},
-    DeletionMenuItem{"del3", "*.IND;*.RES"},
-};
+/// The files that the menu items under "Ta bort" offer: `del1` to `del3`.
+inline constexpr std::array deletionPatterns{"*.RES", "*.IND", "*.IND;*.RES"};
 
 inline constexpr const char* deletionCaption = "Ta bort Filer";
 inline constexpr const char* confirmationCaption = "Bekräfta";

@@ -84,17 +84,17 @@ void Leftovers::restore(const Leftover& leftover) {
     });
 }
 
-void LeftoverQuestions::ask(const std::string& folder) {
-    for (const Leftover& leftover : leftovers_.findIn(folder)) {
+void askAboutLeftovers(Leftovers& leftovers, MessageBoxes& boxes, const std::string& folder) {
+    for (const Leftover& leftover : leftovers.findIn(folder)) {
         const std::string offer = leftover.caseExists
                                       ? " och är nyare än filen.\n\nVill Du ersätta filen med det ?"
                                       : ", men filen saknas.\n\nVill Du lägga det på filens plats ?";
         const MessageAnswer answer =
-            boxes_.show("Programmet avslutades medan " + leftover.casePath +
+            boxes.show("Programmet avslutades medan " + leftover.casePath +
                             " sparades. Det som skulle sparas ligger kvar som " + leftover.path + offer +
                             " Svarar Du Nej ligger det kvar.",
                         leftover.caseExists ? msgYesNoDefaultNo : msgYesNo, "Avbruten lagring");
-        if (answer == MessageAnswer::yes) leftovers_.restore(leftover);
+        if (answer == MessageAnswer::yes) leftovers.restore(leftover);
     }
 }
 

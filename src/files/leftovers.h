@@ -39,15 +39,7 @@ class Leftovers {
 };
 
 /// Asks about every leftover of a folder whether it is to take its case's place; "Nej" lets it lie.
-class LeftoverQuestions {
-  public:
-    LeftoverQuestions(Leftovers& leftovers, MessageBoxes& boxes) : leftovers_(leftovers), boxes_(boxes) {}
-    /// \throws RunTimeError when one that was asked for could not be put in its place.
-    void ask(const std::string& folder);
-
-  private:
-    Leftovers& leftovers_;
-    MessageBoxes& boxes_;
-};
+/// \throws RunTimeError when one that was asked for could not be put in its place.
+void askAboutLeftovers(Leftovers& leftovers, MessageBoxes& boxes, const std::string& folder);
 
 } // namespace varno

@@ -55,11 +55,7 @@ void SlabSketch::fullRefresh() {
     const AtEnd shown(shown_);
     computeGeometry();
     drawSlabStrip();
-    drawSpanLoads();
-    float largest = 0;
-    maxLineLoad(largest);
-    drawLineLoads(largest);
-    drawFreeLineLoads(largest);
+    drawLoads();
 }
 
 void SlabSketch::geometryRefresh() {
@@ -70,6 +66,10 @@ void SlabSketch::geometryRefresh() {
 
 void SlabSketch::lineLoadRefresh() {
     const AtEnd shown(shown_);
+    drawLoads();
+}
+
+void SlabSketch::drawLoads() {
     drawSpanLoads();
     float largest = 0;
     maxLineLoad(largest);

@@ -83,6 +83,7 @@ class SlabSketch : public SketchRefresh {
         double width; ///< what the hatching divides
     };
 
+    void drawLoads();
     void drawMark(int support);
     Block blockOf(int span) const;
     void hatch(const Block& block, double height);

@@ -54,7 +54,7 @@ int Application::run() {
 }
 
 void Application::offerLeftovers() {
-    guarded([&] { LeftoverQuestions(leftovers_, boxes_).ask(fileDialog_.directory()); });
+    guarded([&] { askAboutLeftovers(leftovers_, boxes_, fileDialog_.directory()); });
 }
 
 void Application::offerRescued() {
@@ -143,7 +143,7 @@ void Application::runCommand(int id) {
     case idDeleteResults:
     case idDeleteInputs:
     case idDeleteBoth:
-        return deleteFiles(deletionMenu[static_cast<std::size_t>(id - idDeleteResults)].pattern);
+        return deleteFiles(deletionPatterns[static_cast<std::size_t>(id - idDeleteResults)]);
     case idMoment:
         return showMoments();
     case idImportant:

@@ -50,17 +50,6 @@ constexpr KindStyle styles[]{
     {ControlKind::picture, L"STATIC", SS_OWNERDRAW},
 };
 
-enum class FocusChange { none, got, lost };
-
-// The numbers mean something else with every kind of control.
-FocusChange focusChange(HWND control, int notification) {
-    const bool edit = classOf(control) == "Edit";
-    if (!edit && classOf(control) != "ComboBox") return FocusChange::none;
-    if (notification == (edit ? EN_SETFOCUS : CBN_SETFOCUS)) return FocusChange::got;
-    if (notification == (edit ? EN_KILLFOCUS : CBN_KILLFOCUS)) return FocusChange::lost;
-    return FocusChange::none;
-}
-
 // Every other window of the program, disabled for as long as a modal window runs.
 class DisabledOthers {
   public:
@@ -246,10 +235,14 @@ void FormWindow::leaveKept(int field) {
 
 void FormWindow::controlTold(HWND control, int notification) {
     const int id = GetDlgCtrlID(control);
-    const FocusChange focus = focusChange(control, notification);
+    // The numbers mean something else with every kind of control.
+    const std::string kind = classOf(control);
+    const bool edit = kind == "Edit";
     Activation& activation = host().activation();
-    if (focus == FocusChange::lost && !activation.leaves(*this, id)) return;
-    if (focus == FocusChange::got && !activation.enters(*this, id)) return;
+    if (edit || kind == "ComboBox") {
+        if (notification == (edit ? EN_KILLFOCUS : CBN_KILLFOCUS) && !activation.leaves(*this, id)) return;
+        if (notification == (edit ? EN_SETFOCUS : CBN_SETFOCUS) && !activation.enters(*this, id)) return;
+    }
     if (const auto heard = dropDowns_.heard(control, notification)) onCommand(id, *heard);
 }
 

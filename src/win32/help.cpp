@@ -2,8 +2,6 @@
 
 #include <shellapi.h>
 
-#include <optional>
-
 #include "win32/strings.h"
 
 namespace varno::win32 {
@@ -23,16 +21,11 @@ bool hasViewer() {
     return data.nFileSizeHigh > 0 || data.nFileSizeLow >= leastViewerSize;
 }
 
-// The path in the letters of the ANSI functions; nothing when it has others.
-std::optional<std::string> ansiPath(const std::wstring& path) {
+// The path in the letters of the ANSI functions; empty when it has others.
+std::string ansiPath(const std::wstring& path) {
     BOOL lost = FALSE;
-    const int length = static_cast<int>(path.size());
-    std::string out(path.size() * 2, '\0');
-    const int used = WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, path.data(), length, out.data(),
-                                         static_cast<int>(out.size()), nullptr, &lost);
-    if (used == 0 || lost != 0) return std::nullopt;
-    out.resize(static_cast<std::size_t>(used));
-    return out;
+    const std::string out = ansi(path, WC_NO_BEST_FIT_CHARS, &lost);
+    return lost != FALSE ? std::string() : out;
 }
 
 std::wstring shortPath(const std::wstring& path) {
@@ -59,9 +52,9 @@ bool WindowsHelp::winHelp(const std::string& file, unsigned context) {
     if (!hasViewer()) return false;
     // The viewer's own interface is ANSI.
     const std::wstring path = wide(file);
-    auto name = ansiPath(path);
-    if (!name) name = ansiPath(shortPath(path));
-    return name && WinHelpA(owner_, name->c_str(), HELP_CONTEXT, context) != 0;
+    std::string name = ansiPath(path);
+    if (name.empty()) name = ansiPath(shortPath(path));
+    return !name.empty() && WinHelpA(owner_, name.c_str(), HELP_CONTEXT, context) != 0;
 }
 
 void WindowsHelp::quitWinHelp(const std::string& file) {

@@ -6,17 +6,6 @@ namespace varno {
 
 namespace {
 
-std::string ansi(const std::string& utf8) {
-    const std::wstring text = win32::wide(utf8);
-    const int length = static_cast<int>(text.size());
-    std::string out(static_cast<std::size_t>(
-                        WideCharToMultiByte(CP_ACP, 0, text.c_str(), length, nullptr, 0, nullptr, nullptr)),
-                    '\0');
-    WideCharToMultiByte(CP_ACP, 0, text.c_str(), length, out.data(), static_cast<int>(out.size()), nullptr,
-                        nullptr);
-    return out;
-}
-
 // A program with a console takes the foreground for its window. When that goes, Windows picks the window below
 // it, and what this program shows next would come up behind. Asking for the foreground back is granted as long
 // as the user's last key or click went to this program; one who works in another by then only sees the button in
@@ -49,7 +38,7 @@ class WindowsProcesses : public ProcessStarter {
         start.cb = sizeof start;
         static_assert(sizeof start == 68, "the size that 32-bit Windows documents");
         PROCESS_INFORMATION process{};
-        std::string line = ansi(commandLine);
+        std::string line = win32::ansi(win32::wide(commandLine));
         DWORD exitCode =
             static_cast<DWORD>(CreateProcessA(nullptr, line.data(), nullptr, nullptr, TRUE,
                                               NORMAL_PRIORITY_CLASS, nullptr, nullptr, &start, &process));

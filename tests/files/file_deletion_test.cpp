@@ -87,13 +87,13 @@ class FileDeletionTest : public ::testing::Test {
 using Names = std::vector<std::string>;
 
 TEST_F(FileDeletionTest, EachMenuItemOffersItsFiles) {
-    ASSERT_EQ(deletionMenu.size(), 3u);
+    ASSERT_EQ(deletionPatterns.size(), 3u);
     const Names expected[] = {
         {"B.RES", "a.res", "d.res", "å.res"}, {"c.ind"}, {"B.RES", "a.res", "c.ind", "d.res", "å.res"}};
-    for (std::size_t i = 0; i < deletionMenu.size(); ++i) {
+    for (std::size_t i = 0; i < deletionPatterns.size(); ++i) {
         view.bekr = false;
-        open(deletionMenu[i].pattern);
-        EXPECT_EQ(view.entries, expected[i]) << deletionMenu[i].name;
+        open(deletionPatterns[i]);
+        EXPECT_EQ(view.entries, expected[i]) << deletionPatterns[i];
         EXPECT_TRUE(view.bekr);
     }
 }
@@ -193,8 +193,8 @@ TEST_F(FileDeletionTest, EveryErrorNamesItsFileAndEndsWithItsNumber) {
         const std::string& text = boxes.shown[0].text;
         EXPECT_NE(text.find("C:\\arbete\\B.RES"), std::string::npos) << text;
         EXPECT_NE(text.find("\nFilen har inte tagits bort; "), std::string::npos) << text;
-        EXPECT_TRUE(text.ends_with("\n\nRun-time error '" + std::to_string(error) +
-                                   "': " + runTimeErrorText(error)))
+        EXPECT_TRUE(
+            text.ends_with("\n\nRun-time error '" + std::to_string(error) + "': " + runTimeErrorText(error)))
             << text;
         EXPECT_EQ(view.selected, (std::vector<bool>{true, false, false, false}));
     }

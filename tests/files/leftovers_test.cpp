@@ -138,19 +138,19 @@ TEST_F(LeftoverFiles, AreAskedAboutAndTakeTheirPlace) {
     write(casePath, caseOf("1"), 4);
     write(draftPath, caseOf("2"), 5);
     boxes.answers = {MessageAnswer::yes};
-    LeftoverQuestions(leftovers, boxes).ask(folder);
+    askAboutLeftovers(leftovers, boxes, folder);
     ASSERT_EQ(boxes.shown.size(), 1u);
     EXPECT_EQ(boxes.shown[0].style, msgYesNoDefaultNo);
     EXPECT_NE(boxes.shown[0].text.find(casePath), std::string::npos);
     EXPECT_EQ(files.content, (std::map<std::string, Bytes>{{casePath, caseOf("2")}}));
-    LeftoverQuestions(leftovers, boxes).ask(folder);
+    askAboutLeftovers(leftovers, boxes, folder);
     EXPECT_EQ(boxes.shown.size(), 1u);
 }
 
 TEST_F(LeftoverFiles, StayAfterNo) {
     write(draftPath, caseOf("2"), 5);
     boxes.answers = {MessageAnswer::no};
-    LeftoverQuestions(leftovers, boxes).ask(folder);
+    askAboutLeftovers(leftovers, boxes, folder);
     EXPECT_EQ(files.content, (std::map<std::string, Bytes>{{draftPath, caseOf("2")}}));
 }
 
@@ -163,8 +163,7 @@ TEST_F(LeftoverFiles, ThatCannotTakeTheirPlaceChangeNothing) {
             return call == failing ? errPathFileAccess : 0;
         };
         boxes.answers = {MessageAnswer::yes};
-        EXPECT_EQ(testing::errorOf([&] { LeftoverQuestions(leftovers, boxes).ask(folder); }),
-                  errPathFileAccess);
+        EXPECT_EQ(testing::errorOf([&] { askAboutLeftovers(leftovers, boxes, folder); }), errPathFileAccess);
         EXPECT_EQ(files.content, before) << failing;
     }
 }
