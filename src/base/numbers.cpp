@@ -5,6 +5,8 @@
 #include <cmath>
 #include <iterator>
 #include <limits>
+#include <locale>
+#include <sstream>
 #include <system_error>
 
 #include "base/run_time_error.h"
@@ -215,26 +217,13 @@ std::string leadingNumber(std::string_view text) {
     return number;
 }
 
-// from_chars leaves the value alone when it is out of range; which side it left on follows from the power of
-// ten of the first digit that is not zero.
+// from_chars does not say on which side a number left the range; the streams give 0 below it, and fail above.
 double outOfRange(const std::string& number) {
-    const bool negative = number.front() == '-';
-    const auto e = number.find('e');
-    const auto mantissa = std::string_view(number).substr(0, e).substr(negative ? 1 : 0);
-    const auto first = mantissa.find_first_not_of("0.");
-    if (first == std::string_view::npos) return 0;
-    const auto point = std::min(mantissa.find('.'), mantissa.size());
-    const auto power = static_cast<long long>(point) - static_cast<long long>(first);
-
-    constexpr long long beyondAll = 1'000'000'000;
-    long long exponent = 0;
-    if (e != std::string::npos) {
-        const char* end = number.data() + number.size();
-        const bool fits = std::from_chars(number.data() + e + 1, end, exponent).ec == std::errc();
-        if (!fits) exponent = number[e + 1] == '-' ? -beyondAll : beyondAll;
-    }
-    if (power + exponent < 0) return 0;
-    return negative ? -HUGE_VAL : HUGE_VAL;
+    std::istringstream in(number);
+    in.imbue(std::locale::classic());
+    double value = 0;
+    in >> value;
+    return in.fail() ? std::copysign(HUGE_VAL, value) : 0;
 }
 
 } // namespace

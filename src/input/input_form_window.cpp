@@ -150,11 +150,7 @@ bool InputFormWindow::moveOn(HWND from, bool backwards) {
 
 bool InputFormWindow::moveInColumn(Control from, int rows) {
     if (from.field == Field::nfack) {
-        if (rows < 0) {
-            rules_->spinUp();
-        } else {
-            rules_->spinDown();
-        }
+        rows < 0 ? rules_->spinUp() : rules_->spinDown();
         enter(window({Field::nfack}));
         return true;
     }
@@ -208,11 +204,7 @@ LRESULT InputFormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         const auto& header = *reinterpret_cast<const NMHDR*>(lParam);
         if (header.code != UDN_DELTAPOS || rules_ == nullptr) break;
         const auto& step = *reinterpret_cast<const NMUPDOWN*>(lParam);
-        if (step.iDelta > 0) {
-            rules_->spinUp();
-        } else {
-            rules_->spinDown();
-        }
+        step.iDelta > 0 ? rules_->spinUp() : rules_->spinDown();
         // The control's own position means nothing; it must not run into its end.
         return TRUE;
     }

@@ -157,26 +157,19 @@ void Document::saveAs() {
 }
 
 void Document::exit() {
-    if (!state_.dataChanged) {
+    if (state_.dataChanged) {
+        const SaveAnswer answer = view_.askToSave("Avsluta", saveQuestion(), true);
+        if (answer == SaveAnswer::cancel) return;
+        if (answer == SaveAnswer::yes) save();
+        if (answer == SaveAnswer::yes && state_.dataChanged) return;
+    } else {
+        // Only the clean exit deletes the temporary file.
         try {
             files_.calls().remove(temporaryInputFile);
         } catch (const RunTimeError&) {
             // No calculation was run, or its copy cannot be deleted: neither keeps the program from ending.
         }
-        view_.endProgram();
-        return;
     }
-    switch (view_.askToSave("Avsluta", saveQuestion(), true)) {
-    case SaveAnswer::cancel:
-        return;
-    case SaveAnswer::yes:
-        save();
-        if (state_.dataChanged) return;
-        break;
-    case SaveAnswer::no:
-        break;
-    }
-    // Only the clean exit deletes the temporary file.
     view_.endProgram();
 }
 

@@ -50,32 +50,19 @@ HMENU MainWindow::buildMenu() {
     HMENU menu = nullptr;
     HMENU submenu = nullptr;
     for (const MenuEntry& entry : menuTree) {
-        const std::wstring caption = win32::wide(entry.caption);
-        const auto id = static_cast<UINT_PTR>(entry.id);
-        switch (entry.kind) {
-        case MenuEntry::menu:
-            menu = CreatePopupMenu();
-            if (fileMenu_ == nullptr) fileMenu_ = menu;
-            AppendMenuW(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(menu), caption.c_str());
-            break;
-        case MenuEntry::item:
-            AppendMenuW(menu, MF_STRING, id, caption.c_str());
-            break;
-        case MenuEntry::separator:
-            AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
-            break;
-        case MenuEntry::submenu:
-            submenu = CreatePopupMenu();
-            AppendMenuW(menu, MF_POPUP, reinterpret_cast<UINT_PTR>(submenu), caption.c_str());
-            break;
-        case MenuEntry::submenuItem:
-            AppendMenuW(submenu, MF_STRING, id, caption.c_str());
-            break;
-        case MenuEntry::plainItem:
-            AppendMenuW(bar, MF_STRING, id, caption.c_str());
-            break;
+        const bool inBar = entry.kind == MenuEntry::menu || entry.kind == MenuEntry::plainItem;
+        const HMENU parent = inBar ? bar : entry.kind == MenuEntry::submenuItem ? submenu : menu;
+        UINT flags = entry.kind == MenuEntry::separator ? MF_SEPARATOR : MF_STRING;
+        auto id = static_cast<UINT_PTR>(entry.id);
+        if (entry.kind == MenuEntry::menu || entry.kind == MenuEntry::submenu) {
+            HMENU& popup = inBar ? menu : submenu;
+            popup = CreatePopupMenu();
+            flags = MF_POPUP;
+            id = reinterpret_cast<UINT_PTR>(popup);
         }
+        AppendMenuW(parent, flags, id, win32::wide(entry.caption).c_str());
     }
+    fileMenu_ = GetSubMenu(bar, 0);
     return bar;
 }
 

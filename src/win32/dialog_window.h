@@ -14,7 +14,6 @@ class DialogWindow : public FormWindow {
     /// Modally, the focus first on the control `focus` or the first of the window; the ID of the button that closed
     /// it. Esc and the close box are idCancelButton; where neither that button nor "OK" is seen, they do nothing.
     int ask(int focus = 0);
-    using FormWindow::setFontRole;
 
   protected:
     void onCommand(int id, int notification) override;

@@ -154,13 +154,9 @@ void FormWindow::addControls(std::span<const ControlSpec> controls) {
         if (spec.kind == ControlKind::dropDown) passWheelOn(control);
         // A drop-down list's height is that of its open list.
         const int open = spec.kind == ControlKind::dropDown ? raster(220) : 0;
-        adopt(control, {spec.x, spec.y, spec.right(), spec.bottom() + open});
+        placed_.push_back({control, {spec.x, spec.y, spec.right(), spec.bottom() + open}});
+        setFont(control, FontRole::text);
     }
-}
-
-void FormWindow::adopt(HWND control, RECT twips, FontRole role) {
-    placed_.push_back({control, twips, role});
-    setFont(control, role);
 }
 
 void FormWindow::setFont(HWND control, FontRole role) {
@@ -189,13 +185,6 @@ void FormWindow::setDpi(int dpi) {
     for (const Placed& placed : placed_)
         setFont(placed.control, placed.role);
     fontsChanged();
-}
-
-void FormWindow::place(int id, int x, int y, int width, int height) {
-    const HWND control = item(id);
-    for (Placed& placed : placed_) {
-        if (placed.control == control) placed.twips = {x, y, x + width, y + height};
-    }
 }
 
 void FormWindow::layOut() {
@@ -279,14 +268,6 @@ void FormWindow::drawSymbol(const DRAWITEMSTRUCT& item) {
              static_cast<int>(text.size() - split - 1));
 }
 
-void FormWindow::drawItem(const DRAWITEMSTRUCT& item) {
-    if (textOf(item.hwndItem).empty()) {
-        drawPicture(item);
-    } else {
-        drawSymbol(item);
-    }
-}
-
 LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_COMMAND:
@@ -302,9 +283,11 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case returnToBox:
         returnTo(item(static_cast<int>(wParam)));
         return 0;
-    case WM_DRAWITEM:
-        drawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+    case WM_DRAWITEM: {
+        const auto& drawn = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+        textOf(drawn.hwndItem).empty() ? drawPicture(drawn) : drawSymbol(drawn);
         return TRUE;
+    }
     case WM_ACTIVATE:
         activationChanged(wParam, lParam);
         if (LOWORD(wParam) != WA_INACTIVE && !restoreFocus()) {

@@ -25,6 +25,7 @@ class FormWindow : public Window, private FieldWindow {
     void runModal();
 
     HWND item(int id) const { return GetDlgItem(handle(), id); }
+    void setFontRole(int id, FontRole role);
 
   protected:
     /// The window itself, with a frame that cannot be resized; without a close box where `closeBox` is 0.
@@ -32,9 +33,6 @@ class FormWindow : public Window, private FieldWindow {
                       DWORD closeBox = WS_SYSMENU);
     /// Creates the controls of the table in its order, which is the tab order.
     void addControls(std::span<const ControlSpec> controls);
-    /// A control that the window made itself takes part in layout and fonts. `twips` as in the table.
-    void adopt(HWND control, RECT twips, FontRole role = FontRole::text);
-
     /// Gives the client area this size in twips at the window's resolution and centres it over `over` (or the
     /// work area of its monitor).
     void sizeAndCentre(int width, int height, HWND over);
@@ -43,11 +41,9 @@ class FormWindow : public Window, private FieldWindow {
     void showRow(int id, int row) { dropDowns_.show(item(id), row); }
     void clearRows(int id) { dropDowns_.clear(item(id)); }
 
-    void setFontRole(int id, FontRole role);
     /// Places the controls; a window that can be resized overrides it. Called after a change of resolution
     /// too.
     virtual void layOut();
-    void place(int id, int x, int y, int width, int height);
 
     /// The system fonts were given to the controls again; a window with fonts of its own sets them now.
     virtual void fontsChanged() {}
@@ -68,18 +64,17 @@ class FormWindow : public Window, private FieldWindow {
     int dpi() const { return dpi_; }
     int px(int twips) const { return pixels(twips, dpi_); }
     void setDpi(int dpi);
-    virtual void drawPicture(const DRAWITEMSTRUCT& item);
+    void drawPicture(const DRAWITEMSTRUCT& item);
 
   private:
     struct Placed {
         HWND control;
         RECT twips;
-        FontRole role;
+        FontRole role = FontRole::text;
     };
     void leaveKept(int field) override;
     void controlTold(HWND control, int notification);
     void returnTo(HWND box);
-    void drawItem(const DRAWITEMSTRUCT& item);
     void drawSymbol(const DRAWITEMSTRUCT& item);
     HFONT font(FontRole role) const { return fonts_[static_cast<int>(role)].get(); }
     void setFont(HWND control, FontRole role);

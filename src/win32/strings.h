@@ -23,7 +23,7 @@ inline std::string narrow(std::wstring_view text) {
 /// In the letters of the ANSI functions, '?' for those that they lack; `lost` tells of one.
 inline std::string ansi(std::wstring_view text, DWORD flags = 0, BOOL* lost = nullptr) {
     const int length = static_cast<int>(text.size());
-    std::string out(2 * text.size(), '\0');
+    std::string out(3 * text.size(), '\0');
     out.resize(static_cast<std::size_t>(WideCharToMultiByte(CP_ACP, flags, text.data(), length, out.data(),
                                                             static_cast<int>(out.size()), nullptr, lost)));
     return out;
