@@ -280,13 +280,33 @@ TEST_F(LineLoadEditing, OpenEditorFollowsTheCaseBeingRead) {
     close(editor);
 }
 
+TEST_F(LineLoadEditing, DamagedCaseIsDrawnBehindAnOpenEditor) {
+    open(threeLoads());
+    const Editor editor = openEditor();
+    Bytes damaged = withLine(scene().read("varno.def"), 1, "SKADAT");
+    damaged = withLine(withLine(damaged, 5, "2"), 6, cells({"4.000", "4.000"}));
+    scene().write("SKADAT.IND", withLine(damaged, 32, "7"));
+    program().command(idOpen);
+    program().chooseFile("SKADAT.IND");
+    // That a sixth load cannot be drawn comes over what is wrong with the file.
+    program().until([&] { return program().message().text.ends_with("Subscript out of range"); });
+    EXPECT_EQ(program().answerError().text, "Run-time error '9': Subscript out of range");
+    EXPECT_NE(program().answer().text.find("Rad 32"), std::string::npos);
+    expectCaption(program(), "SKADAT.IND");
+    expectBox(editor, nllast, 0, "7");
+    for (int support = 0; support <= 3; ++support)
+        EXPECT_EQ(slabStrip().item(idSupportButton + support).visible(), support <= 2) << support;
+    close(editor);
+}
+
 TEST_F(LineLoadEditing, ErrorOfASpanNumberIsToldOnce) {
     open(threeLoads());
     const Editor editor = openEditor();
     type(editor.box(llfnr, 2), "-99999");
     keyboard::press(VK_TAB);
     const Message said = program().answer();
-    EXPECT_TRUE(said.text.starts_with("Talet i fältet \"Fack nr, linjelast 2\" är för stort.\n")) << said.text;
+    EXPECT_TRUE(said.text.starts_with("Talet i fältet \"Fack nr, linjelast 2\" är för stort.\n"))
+        << said.text;
     EXPECT_TRUE(said.text.ends_with("\nRun-time error '6': Overflow")) << said.text;
     settle();
     EXPECT_FALSE(program().shows(messageBoxClass));
