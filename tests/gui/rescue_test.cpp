@@ -136,7 +136,7 @@ TEST_F(Rescues, NoThrowsItAway) {
     kill();
     start(true);
     answerOffer(IDNO);
-    EXPECT_TRUE(rescueFiles().empty());
+    expectNoRescue();
     EXPECT_EQ(program->field(Field::rubrik).text(), "Nytt bjälklag");
     kill();
     start(false);
