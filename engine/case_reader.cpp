@@ -1,40 +1,44 @@
 #include "engine/case_reader.h"
 
-#include <algorithm>
-#include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 #include <optional>
-#include <utility>
+#include <type_traits>
 
 #include "base/sequential_text.h"
 #include "engine/columns.h"
 #include "model/design_input_file.h"
+#include "model/record_fields.h"
+#include "model/strict_number.h"
 
 namespace varno::engine {
 
 namespace {
 
-// What the lines up to 32 hold, as messages call it.
-constexpr std::string_view fieldNames[] = {
-    "name",   "title", "loadCode",      "safetyClass", "nfack",    "spv",          "ptjl",      "upl",
-    "lokt",   "",      "lastkomb",      "plast",       "flast",    "konsv",        "konsh",     "btg",
-    "aok",    "dok",   "kavko",         "ktack",       "auk",      "duk",          "duarm",     "brandk",
-    "brandb", "kutak", "reservedValue", "overhojning", "initiell", "tillkommande", "brukskomb", "nllast"};
+// A line load may stand this far outside the slab (m): its position is a sum of rounded lengths.
+constexpr double lengthTolerance = 1e-5;
 
-// Whole numbers that the case has no room for outside these. Every message holds each Swedish letter at most once: see
-// pages.h.
-struct Limits {
-    std::int16_t DesignCase::*field;
-    const char* caption;
-    int first, last;
-};
-constexpr Limits limits[] = {
-    {&DesignCase::loadCode, "lastregler", 0, maxLoadCode},
-    {&DesignCase::nfack, "antal fack", 1, maxSpans},
-    {&DesignCase::lokt, "lastkategori", 0, maxLoadCategory},
-    {&DesignCase::nllast, "antal linjelaster", 0, maxLineLoads},
-};
+// Every message holds each Swedish letter at most once; see pages.h.
+[[noreturn]] void refuse(int line, const std::string& reason) {
+    throw CaseError("Rad " + std::to_string(line) + ": " + reason);
+}
+[[noreturn]] void refuse(int line, const std::string& field, double value, const std::string& rule) {
+    refuse(line, field + " = " + fitted(value, 12, 3) + " " + rule);
+}
+
+void checkRange(int line, const std::string& field, int value, int first, int last) {
+    if (value < first || value > last)
+        refuse(line, field + " = " + std::to_string(value) + " ska vara " + std::to_string(first) + " till " +
+                         std::to_string(last) + ".");
+}
+
+// Of the fields whose numbers have a range.
+std::string captionOf(std::int16_t DesignCase::*field) {
+    if (field == &DesignCase::loadCode) return "lastregler ";
+    if (field == &DesignCase::nfack) return "antal fack ";
+    return field == &DesignCase::lokt ? "lastkategori " : "antal linjelaster ";
+}
 
 // Foreign bytes stay out of the message: they would upset the repair of its letters.
 std::string quoted(std::string_view text) {
@@ -45,130 +49,110 @@ std::string quoted(std::string_view text) {
     return shown + (text.size() > longest ? "...\"" : "\"");
 }
 
-// The number that a text is, blanks around it allowed; nothing when it is anything else or out of range.
+// The number that a cell is, blanks around it allowed; nothing when it is anything else or out of range.
 template <typename Number>
 std::optional<Number> numberIn(std::string_view cell) {
     std::string text = trimBlanks(cell);
     if (const auto comma = text.find(','); comma != std::string::npos) text[comma] = '.';
-    std::ranges::replace_if(
-        text, [](char c) { return c == 'd' || c == 'D'; }, 'e');
-    // Only these: from_chars would take "inf" and "nan" for numbers.
-    if (text.find_first_not_of("0123456789+-.eE") != std::string::npos || text.starts_with("+-")) return {};
-    const char* const end = text.data() + text.size();
-    Number value = 0;
-    const auto read = std::from_chars(text.data() + (text.starts_with('+') ? 1 : 0), end, value);
-    if (read.ec != std::errc() || read.ptr != end) return {};
-    return value;
+    std::conditional_t<std::is_same_v<Number, float>, float, double> value = 0;
+    if (readStrictly(text, value) != std::errc()) return {};
+    if constexpr (std::is_same_v<Number, std::int16_t>) {
+        using Limit = std::numeric_limits<std::int16_t>;
+        if (value != std::floor(value) || value < Limit::min() || value > Limit::max()) return {};
+    }
+    return static_cast<Number>(value);
 }
 
-std::optional<std::int16_t> wholeIn(std::string_view cell) {
-    using Limit = std::numeric_limits<std::int16_t>;
-    const auto value = numberIn<double>(cell);
-    if (!value || *value != std::floor(*value) || *value < Limit::min() || *value > Limit::max()) return {};
-    return static_cast<std::int16_t>(*value);
+void readLine(int number, const CaseLine& line, const Bytes& text, CaseOnFile& target) {
+    DesignCase& c = target.values;
+    if (std::holds_alternative<CaseNameLine>(line)) target.name = text;
+    if (std::holds_alternative<TitleLine>(line)) target.title = text;
+    std::size_t place = 0;
+    forEachNumber(line, c, [&](CellFormat format, auto field, std::optional<int> element, auto at) {
+        using Number = NumberAt<decltype(at)>;
+        // Nothing is left where an editor has cut the trailing blanks of a line.
+        const Bytes found = place < text.size() ? text.substr(place, format.width) : Bytes();
+        place += format.width;
+        const std::string name(recordFieldName(field));
+        const bool optional = name == "ksi" || name.starts_with("psi") ||
+                              (std::holds_alternative<LineLoadLine>(line) && *element > c.nllast);
+        const std::optional<Number> value = numberIn<Number>(found);
+        if (!value && !optional)
+            refuse(number, (element ? indexed(name, *element) : name) + " = " + quoted(found) +
+                               " är inte ett " + (std::is_integral_v<Number> ? "heltal." : "tal."));
+        at(c) = value.value_or(Number());
+    });
+    if (const auto* integer = std::get_if<IntegerLine>(&line))
+        checkRange(number, captionOf(integer->field) + std::string(recordFieldName(integer->field)),
+                   c.*integer->field, integer->first, integer->last);
+    holdEndSupports(line, c);
 }
 
-class LineReader {
-  public:
-    explicit LineReader(CaseOnFile& target) : target_(target), case_(target.values) {}
+void checkGeometry(const DesignCase& c) {
+    for (int i = 1; i <= c.nfack; ++i) {
+        if (!(c.spv(i) > 0)) refuse(6, "spännvidd " + indexed("spv", i), c.spv(i), "m ska vara positiv.");
+    }
+    for (int i = 0; i <= c.nfack; ++i) {
+        const std::string width = "upplagsbredd " + indexed("upl", i);
+        if (!(c.upl(i) >= 0)) refuse(8, width, c.upl(i), "m ska inte vara negativ.");
+        if (i < c.nfack && !(c.upl(i) < c.spv(i + 1)))
+            refuse(8, width, c.upl(i), "m ska vara mindre än " + indexed("spv", i + 1) + ".");
+    }
+    if (!(c.konsv >= 0)) refuse(14, "konsol till vänster konsv", c.konsv, "m ska inte vara negativ.");
+    if (!(c.konsh >= 0)) refuse(15, "konsol till höger konsh", c.konsh, "m ska inte vara negativ.");
+}
 
-    void read(int number, const CaseLine& line, Bytes text) {
-        number_ = number;
-        text_ = std::move(text);
-        place_ = 0;
-        std::visit(*this, line);
-    }
+void checkFactor(const char* name, const Factor& factor) {
+    if (!(factor >= 0.0))
+        refuse(10, std::string("partialkoefficient ") + name, factor.value_or(0), "ska inte vara negativ.");
+}
 
-    void operator()(CaseNameLine) { target_.name = text_; }
-    void operator()(TitleLine) { target_.title = text_; }
-    void operator()(IntegerLine line) {
-        const auto value = required(wholeIn(text_), name(), text_);
-        for (const Limits& limit : limits) {
-            if (limit.field == line.field && (value < limit.first || value > limit.last))
-                refuse(std::string(limit.caption) + " " + std::string(name()) + " = " +
-                       std::to_string(value) + " ska vara " + std::to_string(limit.first) + " till " +
-                       std::to_string(limit.last) + ".");
-        }
-        case_.*line.field = value;
+void checkLineLoads(const DesignCase& c) {
+    for (int i = 1; i <= c.nllast; ++i) {
+        const int line = 32 + i;
+        checkRange(line, "linjelastens fack " + indexed("llfnr", i), c.llfnr(i), 1, c.nfack);
+        const double x = lineLoadPosition(c, i);
+        if (!(x >= -lengthTolerance && x <= totalLength(c) + lengthTolerance))
+            refuse(line, "linjelastens " + indexed("avst", i), c.avst(i), "m hamnar utanför plattan.");
     }
-    void operator()(SafetyClassLine) {
-        case_.safetyClass(case_.loadCode) = required(wholeIn(text_), name(), text_);
-    }
-    void operator()(RealLine line) { case_.*line.field = required(numberIn<float>(text_), name(), text_); }
-    void operator()(const SpanCellsLine& line) {
-        for (int i = line.first; i <= case_.nfack; ++i)
-            (case_.*line.field)(i) = real<float>(line.cell, indexed(name(), i));
-        if (line.field != &DesignCase::upl) return;
-        // The front-end holds the end supports at 0 whatever the file says, and draws the moment curves accordingly.
-        case_.upl(0) = 0;
-        case_.upl(case_.nfack) = 0;
-    }
-    void operator()(const FactorCellsLine& line) {
-        const int ruleSet = case_.loadCode;
-        case_.lambdaG(ruleSet) = real<double>(line.cell, "lambdaG");
-        case_.ksi(ruleSet) = numberIn<double>(next(line.cell));
-        case_.lambdaQ(ruleSet) = real<double>(line.cell, "lambdaQ");
-        for (FactorPerCategory* table : {&case_.psi0, &case_.psi1, &case_.psi2})
-            (*table)(ruleSet, case_.lokt) = numberIn<double>(next(line.cell));
-    }
-    void operator()(LineLoadLine line) {
-        const int i = line.index;
-        const Bytes span = next(numberCell), distance = next(spanCell), load = next(spanCell);
-        if (i <= case_.nllast) {
-            case_.llfnr(i) = required(wholeIn(span), indexed("llfnr", i), span);
-            case_.avst(i) = required(numberIn<float>(distance), indexed("avst", i), distance);
-            case_.lllast(i) = required(numberIn<float>(load), indexed("lllast", i), load);
-        } else {
-            case_.llfnr(i) = wholeIn(span).value_or(std::int16_t{0});
-            case_.avst(i) = numberIn<float>(distance).value_or(0.0f);
-            case_.lllast(i) = numberIn<float>(load).value_or(0.0f);
-        }
-    }
+}
 
-  private:
-    std::string_view name() const { return fieldNames[number_ - 1]; }
-    // Nothing is left where an editor has cut the trailing blanks of a line.
-    Bytes next(CellFormat cell) {
-        const auto from = std::min(std::exchange(place_, place_ + cell.width), text_.size());
-        return text_.substr(from, cell.width);
-    }
-    template <typename Number>
-    Number real(CellFormat cell, std::string_view field) {
-        const Bytes text = next(cell);
-        return required(numberIn<Number>(text), field, text);
-    }
-    template <typename Number>
-    Number required(std::optional<Number> value, std::string_view field, std::string_view text) const {
-        if (!value)
-            refuse(std::string(field) + " = " + quoted(text) + " är inte ett " +
-                   (std::is_integral_v<Number> ? "heltal." : "tal."));
-        return *value;
-    }
-    [[noreturn]] void refuse(const std::string& reason) const {
-        throw CaseError("Rad " + std::to_string(number_) + ": " + reason);
-    }
-
-    CaseOnFile& target_;
-    DesignCase& case_;
-    int number_ = 0;
-    Bytes text_;
-    std::size_t place_ = 0;
-};
+// From the slab's left end to the right end of a span.
+double lengthThrough(const DesignCase& c, int span) {
+    double length = c.konsv;
+    for (int i = 1; i <= span; ++i)
+        length += c.spv(i);
+    return length;
+}
 
 } // namespace
 
 CaseOnFile readCase(const Bytes& bytes) {
     CaseOnFile found;
     SequentialText text(bytes);
-    LineReader reader(found);
     int number = 0;
     for (const CaseLine& line : caseLines) {
         ++number;
         if (text.atEnd())
             throw CaseError("Indatafilen är avkortad: rad " + std::to_string(number) + " av 37 saknas.");
-        reader.read(number, line, text.readLine());
+        readLine(number, line, text.readLine(), found);
     }
     return found;
+}
+
+double totalLength(const DesignCase& c) {
+    return lengthThrough(c, c.nfack) + c.konsh;
+}
+
+double lineLoadPosition(const DesignCase& c, int load) {
+    return lengthThrough(c, c.llfnr(load) - 1) + c.avst(load);
+}
+
+void checkCase(const DesignCase& c) {
+    checkGeometry(c);
+    checkFactor("lambdaG", c.lambdaG(c.loadCode));
+    checkFactor("lambdaQ", c.lambdaQ(c.loadCode));
+    checkLineLoads(c);
 }
 
 } // namespace varno::engine

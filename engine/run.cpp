@@ -6,7 +6,7 @@
 
 #include "base/run_time_error.h"
 #include "base/sequential_text.h"
-#include "engine/case_check.h"
+#include "engine/case_reader.h"
 #include "engine/moment_file.h"
 #include "engine/result_text.h"
 

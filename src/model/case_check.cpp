@@ -10,6 +10,7 @@
 #include "base/byte_files.h"
 #include "base/numbers.h"
 #include "base/run_time_error.h"
+#include "model/strict_number.h"
 
 namespace varno {
 
@@ -39,80 +40,20 @@ std::string textOf(std::int16_t value) {
 }
 // The shortest text that reads back as the same number, without an exponent: "1e+07" says little to a reader.
 template <typename Real>
-std::string realText(Real value) {
+std::string textOf(Real value) {
     std::array<char, 400> text;
     const auto end =
         std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed).ptr;
     return {text.data(), end};
 }
-std::string textOf(float value) {
-    return realText(value);
-}
-std::string textOf(const Factor& value) {
-    return realText(value.value_or(0));
-}
-bool same(std::int16_t a, std::int16_t b) {
-    return a == b;
-}
-bool same(float a, float b) {
-    return a == b;
-}
-bool same(const Factor& a, const Factor& b) {
-    return a.value_or(0) == b.value_or(0);
-}
 
-// Compares two records line by line, as far as a file holds them.
-class Comparison {
-  public:
-    Comparison(const DesignCase& kept, const DesignCase& read, std::vector<LostValue>& lost)
-        : kept_(kept), read_(read), lost_(lost) {}
-
-    void line(int number, const CaseLine& content) {
-        place_ = {number, 0};
-        std::visit(*this, content);
-    }
-
-    void operator()(CaseNameLine) {}
-    void operator()(TitleLine) {}
-    void operator()(IntegerLine line) { compare(kept_.*line.field, read_.*line.field); }
-    void operator()(SafetyClassLine) {
-        compare(kept_.safetyClass(kept_.loadCode), read_.safetyClass(kept_.loadCode));
-    }
-    void operator()(RealLine line) { compare(kept_.*line.field, read_.*line.field); }
-    void operator()(const SpanCellsLine& line) {
-        for (int i = line.first; i <= kept_.nfack; ++i)
-            cell((kept_.*line.field)(i), (read_.*line.field)(i));
-    }
-    void operator()(const FactorCellsLine&) {
-        const int ruleSet = kept_.loadCode;
-        const int category = kept_.lokt;
-        for (const auto table : {&DesignCase::lambdaG, &DesignCase::ksi, &DesignCase::lambdaQ})
-            cell((kept_.*table)(ruleSet), (read_.*table)(ruleSet));
-        for (const auto table : {&DesignCase::psi0, &DesignCase::psi1, &DesignCase::psi2})
-            cell((kept_.*table)(ruleSet, category), (read_.*table)(ruleSet, category));
-    }
-    void operator()(LineLoadLine line) {
-        cell(kept_.llfnr(line.index), read_.llfnr(line.index));
-        cell(kept_.avst(line.index), read_.avst(line.index));
-        cell(kept_.lllast(line.index), read_.lllast(line.index));
-    }
-
-  private:
-    template <typename Value>
-    void cell(const Value& kept, const Value& read) {
-        ++place_.cell;
-        compare(kept, read);
-    }
-    template <typename Value>
-    void compare(const Value& kept, const Value& read) {
-        if (!same(kept, read)) lost_.push_back({place_, textOf(kept), textOf(read)});
-    }
-
-    const DesignCase& kept_;
-    const DesignCase& read_;
-    std::vector<LostValue>& lost_;
-    CasePlace place_;
-};
+double plain(const Factor& value) {
+    return value.value_or(0);
+}
+template <typename Number>
+Number plain(Number value) {
+    return value;
+}
 
 } // namespace
 
@@ -130,10 +71,16 @@ SavedCheck checkSaved(const CaseFile& caseFile, const Bytes& written) {
     if (title != caseFile.title) check.lost.push_back({{2, 0}, caseFile.title, title});
     if (!numbers) return check;
 
-    Comparison comparison(caseFile.designCase, numbers->designCase, check.lost);
-    int number = 0;
-    for (const CaseLine& content : caseLines)
-        comparison.line(++number, content);
+    CasePlace place;
+    for (const CaseLine& line : caseLines) {
+        place = {place.line + 1, 0};
+        forEachNumber(line, caseFile.designCase, [&](CellFormat cell, auto, auto, auto at) {
+            if (cell.isColumn()) ++place.cell;
+            const auto kept = plain(at(caseFile.designCase));
+            const auto read = plain(at(numbers->designCase));
+            if (kept != read) check.lost.push_back({place, textOf(kept), textOf(read)});
+        });
+    }
     return check;
 }
 
@@ -143,209 +90,117 @@ namespace {
 
 using Kind = FileFault::Kind;
 
-Bytes trimmed(std::string_view text) {
-    return trimBlanks(text);
-}
-
 // The whole of the text is one number, as a person would read it; the reader takes less.
-bool isNumber(std::string_view text) {
-    std::size_t at = 0;
-    const auto digits = [&] {
-        const std::size_t begin = at;
-        while (at < text.size() && text[at] >= '0' && text[at] <= '9')
-            ++at;
-        return at - begin;
-    };
-    const auto sign = [&] {
-        if (at < text.size() && (text[at] == '+' || text[at] == '-')) ++at;
-    };
-    sign();
-    std::size_t count = digits();
-    if (at < text.size() && text[at] == '.') {
-        ++at;
-        count += digits();
-    }
-    if (count == 0) return false;
-    if (at < text.size() && std::string_view("EeDd").find(text[at]) != std::string_view::npos) {
-        ++at;
-        sign();
-        if (digits() == 0) return false;
-    }
-    return at == text.size();
-}
-
-struct Range {
-    int first;
-    int last;
-};
-
-constexpr Range anyInteger{-32768, 32767};
-
-// What a whole number may be: outside it the reader stops, or the form has no place for it.
-Range rangeOf(std::int16_t DesignCase::*field) {
-    if (field == &DesignCase::loadCode) return {0, maxLoadCode};
-    if (field == &DesignCase::lokt) return {0, maxLoadCategory};
-    if (field == &DesignCase::nfack) return {1, maxSpans};
-    if (field == &DesignCase::nllast) return {0, maxLineLoads};
-    return anyInteger;
+bool isNumber(const std::string& text) {
+    double number = 0;
+    return readStrictly(text, number) != std::errc::invalid_argument;
 }
 
 class LineCheck {
   public:
-    explicit LineCheck(std::vector<FileFault>& faults) : faults_(faults) {}
+    explicit LineCheck(std::vector<FileFault>& faults) : faults_(faults) {
+        // Without a number of spans nobody knows how many cells there should be.
+        counts_.nfack = -1;
+    }
 
     void line(int number, const CaseLine& content, const Bytes& text) {
         place_ = {number, 0};
-        line_ = text;
-        if (oneValue()) std::visit(*this, content);
+        // Rule set 0 has no factors.
+        const bool unused = std::holds_alternative<FactorCellsLine>(content) && ruleSet_ == "0";
+        if (const std::optional<Bytes> value = valueIn(text); value && !unused)
+            numbers(content, text, *value);
     }
-    int spans() const { return spans_; }
     bool open() const { return open_; }
 
-    void operator()(CaseNameLine) {}
-    void operator()(TitleLine) {}
-    void operator()(IntegerLine line) {
-        const bool spanCount = line.field == &DesignCase::nfack;
-        if (whole(value_, rangeOf(line.field)) && spanCount) {
-            spans_ = static_cast<int>(VARNO1::parseNumber(value_));
-        }
-        ruleSet_ = line.field == &DesignCase::loadCode ? trimmed(value_) : ruleSet_;
-    }
-    void operator()(SafetyClassLine) { whole(value_, anyInteger); }
-    void operator()(RealLine) { number(value_); }
-    void operator()(const SpanCellsLine& line) {
-        // Without a number of spans nobody knows how many cells there should be.
-        if (spans_ > 0)
-            cells(std::vector<CellFormat>(static_cast<std::size_t>(spans_ - line.first + 1), line.cell));
-    }
-    void operator()(const FactorCellsLine& line) {
-        // Rule set 0 has no factors.
-        if (ruleSet_ != "0") cells(std::vector<CellFormat>(6, line.cell));
-    }
-    void operator()(LineLoadLine) { cells({numberCell, spanCell, spanCell}); }
-
   private:
-    void add(Kind kind, const Bytes& found, Range range = {0, 0}) {
+    void add(Kind kind, const Bytes& found, IntegerLine range = {nullptr, 0, 0}) {
         faults_.push_back({.kind = kind,
                            .place = place_,
                            .found = decodeWindows1252(found.substr(0, 40)),
-                           .number = 0,
                            .first = range.first,
                            .last = range.last});
     }
 
-    // Takes the one value of the line.
-    bool oneValue() {
-        if (line_.empty()) {
-            value_.clear();
-            return true;
-        }
-        const auto begin = line_.find_first_not_of(' ');
-        open_ = begin != Bytes::npos && line_[begin] == '"' && line_.find('"', begin + 1) == Bytes::npos;
-        if (open_) {
-            add(Kind::openQuote, line_);
-            return false;
-        }
-        SequentialText text(line_);
-        value_ = text.readField();
+    // The one value of a line.
+    std::optional<Bytes> valueIn(const Bytes& line) {
+        if (line.empty()) return line;
+        const auto begin = line.find_first_not_of(' ');
+        open_ = begin != Bytes::npos && line[begin] == '"' && line.find('"', begin + 1) == Bytes::npos;
+        SequentialText text(line);
+        const Bytes value = text.readField();
         // A comma that ends the line begins another value, which the next line end closes.
-        if (!text.atEnd() || line_.ends_with(',')) {
-            add(Kind::severalValues, line_);
-            return false;
-        }
-        return true;
-    }
-
-    bool number(const Bytes& text) {
-        if (isNumber(trimmed(text))) return true;
-        add(Kind::notANumber, trimmed(text));
-        return false;
-    }
-
-    bool whole(const Bytes& text, Range range) {
-        if (!number(text)) return false;
-        const double value = VARNO1::parseNumber(text);
-        if (value != std::floor(value)) {
-            add(Kind::notWhole, trimmed(text));
-            return false;
-        }
-        if (value < range.first || value > range.last) {
-            add(Kind::outOfRange, trimmed(text), range);
-            return false;
-        }
-        return true;
+        if (!open_ && text.atEnd() && !line.ends_with(',')) return value;
+        add(open_ ? Kind::openQuote : Kind::severalValues, line);
+        return std::nullopt;
     }
 
     // What stands behind the last cell is no fault: nobody reads it.
-    void cells(const std::vector<CellFormat>& formats) {
-        if (line_.starts_with(' ')) {
-            add(Kind::blanksAhead, line_);
-            return;
-        }
+    void numbers(const CaseLine& content, const Bytes& line, const Bytes& value) {
+        struct Cell {
+            CellFormat format;
+            bool whole;
+        };
+        std::vector<Cell> cells;
+        forEachNumber(content, counts_, [&](CellFormat format, auto, auto, auto at) {
+            cells.push_back({format, std::is_same_v<NumberAt<decltype(at)>, std::int16_t>});
+        });
+        const auto* const integer = std::get_if<IntegerLine>(&content);
         std::size_t at = 0;
-        for (const CellFormat& format : formats) {
-            ++place_.cell;
-            if (at >= value_.size()) {
-                add(Kind::cellMissing, value_);
-                return;
+        for (const auto& [format, whole] : cells) {
+            if (format.isColumn()) {
+                if (line.starts_with(' ')) return add(Kind::blanksAhead, line);
+                ++place_.cell;
+                if (at >= value.size()) return add(Kind::cellMissing, value);
             }
-            const Bytes text = value_.substr(at, format.width);
+            const bool good = number(value.substr(at, format.width), whole, integer ? *integer : anyInteger);
             at += format.width;
-            if (format.pattern == numberCell.pattern)
-                whole(text, anyInteger);
-            else
-                number(text);
+            if (good && integer && integer->field == &DesignCase::nfack)
+                counts_.nfack = toInteger(VARNO1::parseNumber(value));
         }
+        if (integer && integer->field == &DesignCase::loadCode) ruleSet_ = trimBlanks(value);
     }
+
+    bool number(const Bytes& text, bool whole, IntegerLine range) {
+        const Bytes found = trimBlanks(text);
+        const double value = VARNO1::parseNumber(found);
+        if (!isNumber(found))
+            add(Kind::notANumber, found);
+        else if (whole && value != std::floor(value))
+            add(Kind::notWhole, found);
+        else if (whole && (value < range.first || value > range.last))
+            add(Kind::outOfRange, found, range);
+        else
+            return true;
+        return false;
+    }
+
+    static constexpr IntegerLine anyInteger{nullptr};
 
     std::vector<FileFault>& faults_;
     CasePlace place_;
-    Bytes line_;
-    Bytes value_;
     Bytes ruleSet_;
-    int spans_ = 0;
+    DesignCase counts_; // only the number of spans
     bool open_ = false;
 };
-
-// The first lines of a file, and how many it has.
-struct Lines {
-    std::vector<Bytes> first;
-    int count = 0;
-};
-
-Lines linesOf(const Bytes& bytes) {
-    Lines lines;
-    for (std::size_t at = 0; at < bytes.size(); ++lines.count) {
-        const auto end = std::min(bytes.find_first_of("\r\n", at), bytes.size());
-        if (lines.first.size() < caseLines.size()) lines.first.push_back(bytes.substr(at, end - at));
-        const bool both = end + 1 < bytes.size() && bytes[end] == '\r' && bytes[end + 1] == '\n';
-        at = end + (both ? 2 : 1);
-    }
-    return lines;
-}
 
 } // namespace
 
 std::vector<FileFault> checkFile(const Bytes& bytes) {
     std::vector<FileFault> faults;
-    const Lines lines = linesOf(bytes);
-    const auto ofTheWhole = [&](Kind kind, int line) {
-        FileFault fault;
-        fault.kind = kind;
-        fault.place.line = line;
-        fault.number = lines.count;
-        faults.push_back(fault);
-    };
-    const int expected = static_cast<int>(caseLines.size());
-    if (lines.count == 0)
-        ofTheWhole(Kind::empty, 1);
-    else if (lines.count < expected)
-        ofTheWhole(Kind::tooFewLines, lines.count);
-    else if (lines.count > expected)
-        ofTheWhole(Kind::tooManyLines, expected + 1);
     LineCheck check(faults);
-    for (std::size_t i = 0; i < lines.first.size() && !check.open(); ++i)
-        check.line(static_cast<int>(i) + 1, caseLines[i], lines.first[i]);
+    SequentialText text(bytes);
+    const int expected = static_cast<int>(caseLines.size());
+    int count = 0;
+    while (!text.atEnd()) {
+        const Bytes line = text.readLine();
+        const int number = ++count;
+        if (number <= expected && !check.open())
+            check.line(number, caseLines[static_cast<std::size_t>(number - 1)], line);
+    }
+    if (count == expected) return faults;
+    FileFault ofTheWhole{.place = {count < expected ? std::max(count, 1) : expected + 1, 0}, .number = count};
+    if (count > 0) ofTheWhole.kind = count < expected ? Kind::tooFewLines : Kind::tooManyLines;
+    faults.insert(faults.begin(), ofTheWhole);
     return faults;
 }
 

@@ -54,7 +54,7 @@ struct FileFault {
     };
     Kind kind = Kind::empty;
     CasePlace place;
-    std::string found; ///< UTF-8, as it stands in the file
+    std::string found = {}; ///< UTF-8, as it stands in the file
     int number = 0;
     int first = 0;
     int last = 0;

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <string_view>
 #include <tuple>
+#include <type_traits>
 
 #include "model/design_case.h"
 
@@ -15,8 +17,10 @@ struct RecordField {
 template <typename Type>
 RecordField(const char*, Type DesignCase::*) -> RecordField<Type>;
 
-/// Every field of the record, for what keeps the whole of it and not only what a design input file holds.
-inline constexpr std::tuple recordFields{
+/// The fields of the record that a design input file knows.
+inline constexpr std::tuple fileFields{
+    RecordField{"loadCode", &DesignCase::loadCode},
+    RecordField{"safetyClass", &DesignCase::safetyClass},
     RecordField{"nfack", &DesignCase::nfack},
     RecordField{"spv", &DesignCase::spv},
     RecordField{"ptjl", &DesignCase::ptjl},
@@ -25,8 +29,6 @@ inline constexpr std::tuple recordFields{
     RecordField{"flast", &DesignCase::flast},
     RecordField{"konsv", &DesignCase::konsv},
     RecordField{"konsh", &DesignCase::konsh},
-    RecordField{"loadCode", &DesignCase::loadCode},
-    RecordField{"safetyClass", &DesignCase::safetyClass},
     RecordField{"lokt", &DesignCase::lokt},
     RecordField{"lambdaG", &DesignCase::lambdaG},
     RecordField{"ksi", &DesignCase::ksi},
@@ -55,6 +57,10 @@ inline constexpr std::tuple recordFields{
     RecordField{"llfnr", &DesignCase::llfnr},
     RecordField{"avst", &DesignCase::avst},
     RecordField{"lllast", &DesignCase::lllast},
+};
+
+/// The others, for what keeps the whole of the record.
+inline constexpr std::tuple freeLineLoadFields{
     RecordField{"nllastf", &DesignCase::nllastf},
     RecordField{"llfnrf", &DesignCase::llfnrf},
     RecordField{"avstf", &DesignCase::avstf},
@@ -63,8 +69,24 @@ inline constexpr std::tuple recordFields{
 
 /// Calls `visit(name, member)` for each field in turn.
 template <typename Visitor>
+constexpr void forEachField(const auto& fields, Visitor visit) {
+    std::apply([&](const auto&... field) { (visit(field.name, field.field), ...); }, fields);
+}
+template <typename Visitor>
 constexpr void forEachRecordField(Visitor visit) {
-    std::apply([&](const auto&... field) { (visit(field.name, field.field), ...); }, recordFields);
+    forEachField(fileFields, visit);
+    forEachField(freeLineLoadFields, visit);
+}
+
+template <typename Type>
+constexpr std::string_view recordFieldName(Type DesignCase::*wanted) {
+    std::string_view name;
+    forEachRecordField([&](const char* candidate, auto field) {
+        if constexpr (std::is_same_v<decltype(field), Type DesignCase::*>) {
+            if (field == wanted) name = candidate;
+        }
+    });
+    return name;
 }
 
 } // namespace varno

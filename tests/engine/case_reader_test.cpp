@@ -1,6 +1,5 @@
 #include "engine/case_reader.h"
 
-#include "engine/case_check.h"
 #include "tests/engine/support.h"
 
 #include <algorithm>
