@@ -7,18 +7,10 @@ namespace varno::tool {
 
 namespace {
 
-std::string jsonOf(std::int16_t value) {
-    return std::to_string(value);
-}
+using tool::jsonOf;
 
-std::string jsonOf(const std::string& utf8) {
-    return jsonText(utf8);
-}
-std::string jsonOf(float value) {
-    return jsonNumber(value);
-}
 std::string jsonOf(const Factor& factor) {
-    return factor ? jsonNumber(*factor) : "null";
+    return factor ? jsonOf(*factor) : "null";
 }
 
 template <typename T, int First, int Last>
@@ -32,36 +24,22 @@ std::string jsonOf(const BoundedArray<T, First, Last>& array) {
 
 std::string jsonOf(const FactorPerCategory& table) {
     std::string out;
-    for (int ruleSet = 0; ruleSet <= maxLoadCode; ++ruleSet) {
-        out += ruleSet == 0 ? "\n    [" : ",\n    [";
-        for (int category = 0; category <= maxLoadCategory; ++category)
-            out += (category == 0 ? "" : ", ") + jsonOf(table(ruleSet, category));
-        out += "]";
-    }
+    for (int ruleSet = 0; ruleSet <= maxLoadCode; ++ruleSet)
+        out += (out.empty() ? "\n    " : ",\n    ") + jsonOf(table(ruleSet));
     return "[" + out + "\n  ]";
 }
-
-class JsonObject {
-  public:
-    template <typename Value>
-    void add(const char* key, const Value& value) {
-        text_ += text_.empty() ? "{\n  " : ",\n  ";
-        text_ += jsonOf(std::string(key)) + ": " + jsonOf(value);
-    }
-    std::string text() const { return text_ + "\n}\n"; }
-
-  private:
-    std::string text_;
-};
 
 } // namespace
 
 std::string caseJson(const CaseFile& loaded) {
-    JsonObject json;
-    json.add("currentFileName", loaded.name);
-    json.add("rubrik", loaded.title);
-    forEachField(fileFields, [&](const char* name, auto field) { json.add(name, loaded.designCase.*field); });
-    return json.text();
+    std::string members;
+    const auto add = [&](const char* name, const auto& value) {
+        members += (members.empty() ? "" : ",\n  ") + jsonOf(std::string(name)) + ": " + jsonOf(value);
+    };
+    add("currentFileName", loaded.name);
+    add("rubrik", loaded.title);
+    forEachField(fileFields, [&](const char* name, auto field) { add(name, loaded.designCase.*field); });
+    return "{\n  " + members + "\n}\n";
 }
 
 } // namespace varno::tool

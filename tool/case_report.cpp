@@ -1,20 +1,19 @@
 #include "tool/case_report.h"
 
 #include <algorithm>
-#include <array>
+#include <string>
+#include <vector>
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "controls/rule_sets.h"
 #include "input/field_table.h"
-#include "tool/case_words.h"
-#include "tool/text_table.h"
 
 namespace varno::tool {
 
 namespace {
 
 const NumberLocale swedish{.decimal = ",", .thousands = "\u00A0"};
-constexpr std::size_t indent = 2;
 
 // Two decimals, and the third when there is one: "6,00 " stands right above "6,125".
 template <typename Number>
@@ -24,157 +23,181 @@ std::string aligned(Number value) {
     return text;
 }
 
+std::string thickness(float value) {
+    return formatNumber(value, "0.000", swedish);
+}
+
+std::string withoutTrailingBlanks(std::string text) {
+    text.erase(text.find_last_not_of(' ') + 1);
+    return text;
+}
+
 template <typename Number>
 std::string plain(Number value) {
     return withoutTrailingBlanks(aligned(value));
-}
-
-std::string thickness(float value) {
-    return formatNumber(value, "0.000", swedish);
 }
 
 std::string factorText(const Factor& factor) {
     return factor ? plain(*factor) : "–";
 }
 
-// A section: its heading, and lines of "caption   value" with the values under each other.
-class Section {
-  public:
-    explicit Section(const std::string& heading) : text_("\n" + heading + "\n") {}
+using Row = std::vector<std::string>;
 
+class Report {
+  public:
+    explicit Report(const CaseFile& loaded) {
+        const std::string name = loaded.name + ".IND";
+        text_ = name + "\n" + std::string(characterCount(name), '=') + "\n" +
+                withoutTrailingBlanks(loaded.title) + "\n";
+    }
+    void heading(const std::string& caption) { text_ += "\n" + caption + "\n"; }
+
+    /// "caption   value", the values of a section under each other.
     void add(const std::string& caption, const std::string& value) {
         constexpr std::size_t captionWidth = 30;
         const std::size_t width = characterCount(caption);
-        const std::size_t gap = width < captionWidth ? captionWidth - width : 1;
-        text_ += withoutTrailingBlanks(std::string(indent, ' ') + caption + std::string(gap, ' ') + value);
-        text_ += '\n';
+        line(caption + std::string(width < captionWidth ? captionWidth - width : 1, ' ') + value);
     }
-    void add(const TextTable& table) { text_ += table.text(indent); }
-    void say(const std::string& line) { text_ += std::string(indent, ' ') + line + '\n'; }
+    /// Columns as wide as their widest cell, right-aligned, two blanks between them.
+    void add(const std::vector<Row>& table) {
+        std::vector<std::size_t> widths(table.front().size());
+        for (const Row& row : table) {
+            for (std::size_t column = 0; column < row.size(); ++column)
+                widths[column] = std::max(widths[column], characterCount(row[column]));
+        }
+        for (const Row& row : table) {
+            std::string cells;
+            for (std::size_t column = 0; column < row.size(); ++column)
+                cells += std::string(column == 0 ? 0 : 2, ' ') +
+                         std::string(widths[column] - characterCount(row[column]), ' ') + row[column];
+            line(cells);
+        }
+    }
+    void line(const std::string& text) { text_ += withoutTrailingBlanks("  " + text) + "\n"; }
     const std::string& text() const { return text_; }
 
   private:
     std::string text_;
 };
 
-std::string heading(const CaseFile& loaded) {
-    const std::string name = loaded.name + ".IND";
-    return name + "\n" + std::string(characterCount(name), '=') + "\n" + withoutTrailingBlanks(loaded.title) +
-           "\n";
+// A number that no list and no option group has is shown as the number.
+std::string choiceWords(Field field, const DesignCase& designCase) {
+    const ChoiceField& row = *choiceField(field);
+    const auto options = field == Field::brandb ? fireOptions(designCase.brandk) : row.options;
+    const int number = designCase.*row.place;
+    const int place = number - row.firstNumber;
+    if (place < 0 || place >= static_cast<int>(options.size())) return std::to_string(number);
+    std::string words = trimBlanks(options[static_cast<std::size_t>(place)]);
+    // The rows of the form are padded, some within.
+    const auto pad = words.find("  ");
+    return pad == std::string::npos ? words : words.erase(pad, 1);
 }
 
-void addChoice(Section& section, const DesignCase& c, Field field) {
-    section.add(plainCaption(field), choiceWords(field, c));
+void addChoice(Report& report, const DesignCase& c, Field field) {
+    report.add(plainCaption(field), choiceWords(field, c));
 }
 
-std::string rules(const DesignCase& c) {
-    Section section("Lastförutsättningar");
-    section.add("Lastregler", ruleSetWords(c.loadCode));
-    section.add(classCaption(c.loadCode), classWords(c.loadCode, c.safetyClass(c.loadCode)));
-    addChoice(section, c, Field::lokt);
-    addChoice(section, c, Field::lastkomb);
-    section.add("Partialkoefficient γG", factorText(c.lambdaG(c.loadCode)));
-    section.add("Reduktionsfaktor ξ", factorText(c.ksi(c.loadCode)));
-    section.add("Partialkoefficient γQ", factorText(c.lambdaQ(c.loadCode)));
-    section.add("Lastfaktorer ψ0, ψ1, ψ2", factorText(c.psi0(c.loadCode, c.lokt)) + "  " +
-                                               factorText(c.psi1(c.loadCode, c.lokt)) + "  " +
-                                               factorText(c.psi2(c.loadCode, c.lokt)));
-    return section.text();
+void addRuleSet(Report& report, const DesignCase& c) {
+    const RuleSet* const known = ruleSetWith(&RuleSet::number, c.loadCode);
+    const RuleSet& classes = known == nullptr ? ruleSets.front() : *known;
+    const int option = c.safetyClass(c.loadCode);
+    const bool named = option >= 1 && option <= static_cast<int>(classes.classes.size());
+    report.add("Lastregler", known == nullptr ? std::to_string(c.loadCode) : known->name);
+    report.add(classes.frame,
+               named ? classes.classes[static_cast<std::size_t>(option - 1)] : std::to_string(option));
 }
 
-std::string spans(const DesignCase& c) {
-    Section section(std::string(spanHeading) + " (" + std::to_string(c.nfack) + ")");
-    TextTable table;
-    std::vector<std::string> captions{std::string(spanHeading)};
-    std::vector<std::string> units{""};
+void addRules(Report& report, const DesignCase& c) {
+    report.heading("Lastförutsättningar");
+    addRuleSet(report, c);
+    addChoice(report, c, Field::lokt);
+    addChoice(report, c, Field::lastkomb);
+    report.add("Partialkoefficient γG", factorText(c.lambdaG(c.loadCode)));
+    report.add("Reduktionsfaktor ξ", factorText(c.ksi(c.loadCode)));
+    report.add("Partialkoefficient γQ", factorText(c.lambdaQ(c.loadCode)));
+    report.add("Lastfaktorer ψ0, ψ1, ψ2", factorText(c.psi0(c.loadCode, c.lokt)) + "  " +
+                                              factorText(c.psi1(c.loadCode, c.lokt)) + "  " +
+                                              factorText(c.psi2(c.loadCode, c.lokt)));
+}
+
+void addSpans(Report& report, const DesignCase& c) {
+    report.heading(std::string(spanHeading) + " (" + std::to_string(c.nfack) + ")");
+    std::vector<Row> table{{std::string(spanHeading)}, {""}};
     for (const Field column : {Field::spv, Field::ptjl, Field::plast, Field::flast}) {
-        captions.push_back(plainCaption(column));
-        units.push_back(unitOf(column));
+        table[0].push_back(plainCaption(column));
+        table[1].push_back(unitOf(column));
     }
-    table.addRow(captions);
-    table.addRow(units);
     for (int span = 1; span <= c.nfack; ++span) {
-        table.addRow({std::to_string(span), aligned(c.spv(span)), thickness(c.ptjl(span)),
-                      aligned(c.plast(span)), aligned(c.flast(span))});
+        table.push_back({std::to_string(span), aligned(c.spv(span)), thickness(c.ptjl(span)),
+                         aligned(c.plast(span)), aligned(c.flast(span))});
     }
-    section.add(table);
-    return section.text();
+    report.add(table);
 }
 
-std::string supports(const DesignCase& c) {
-    Section section("Upplag och konsoler");
-    TextTable table;
-    table.addRow({"Upplag", "Bredd"});
-    table.addRow({"", "m"});
+void addSupports(Report& report, const DesignCase& c) {
+    report.heading("Upplag och konsoler");
+    std::vector<Row> table{{"Upplag", "Bredd"}, {"", "m"}};
     for (int support = 0; support <= c.nfack; ++support)
-        table.addRow({std::to_string(support), thickness(c.upl(support))});
-    section.add(table);
+        table.push_back({std::to_string(support), thickness(c.upl(support))});
+    report.add(table);
     const auto length = [](float value) { return value == 0 ? "saknas" : plain(value) + " m"; };
-    section.add(plainCaption(Field::konsv), length(c.konsv));
-    section.add(plainCaption(Field::konsh), length(c.konsh));
-    return section.text();
+    report.add(plainCaption(Field::konsv), length(c.konsv));
+    report.add(plainCaption(Field::konsh), length(c.konsh));
 }
 
-std::string lineLoads(const DesignCase& c) {
-    Section section("Linjelaster (" + std::to_string(c.nllast) + ")");
-    if (c.nllast <= 0) {
-        section.say("Inga");
-        return section.text();
-    }
-    TextTable table;
-    table.addRow({"Nr", std::string(spanHeading), "Avstånd", "Last"});
-    table.addRow({"", "", "m", "kN/m"});
+void addLineLoads(Report& report, const DesignCase& c) {
+    report.heading("Linjelaster (" + std::to_string(c.nllast) + ")");
+    if (c.nllast <= 0) return report.line("Inga");
+    std::vector<Row> table{{"Nr", std::string(spanHeading), "Avstånd", "Last"}, {"", "", "m", "kN/m"}};
     for (int i = 1; i <= std::min<int>(c.nllast, maxLineLoads); ++i) {
-        table.addRow(
+        table.push_back(
             {std::to_string(i), std::to_string(c.llfnr(i)), aligned(c.avst(i)), aligned(c.lllast(i))});
     }
-    section.add(table);
-    return section.text();
+    report.add(table);
 }
 
 std::string millimetres(int value) {
     return std::to_string(value) + " mm";
 }
 
-std::string materials(const DesignCase& c) {
-    Section section("Betong och armering");
-    addChoice(section, c, Field::btg);
-    section.add("Överkant: stål fyk", choiceWords(Field::aok, c) + (c.aok >= 1 && c.aok <= 3 ? " MPa" : ""));
-    section.add("Överkant: stångdiameter", choiceWords(Field::dok, c));
-    section.add("Överkant: täckande skikt", millimetres(c.ktack));
-    section.add("Överkant: avkortning", c.kavko != 0 ? "ja" : "nej");
-    section.add("Underkant: stål fyk", choiceWords(Field::auk, c) + (c.auk >= 1 && c.auk <= 3 ? " MPa" : ""));
-    section.add("Underkant: stångdiameter", choiceWords(Field::duk, c));
-    section.add("Underkant: avst. tyngdpunkt", millimetres(c.duarm));
-    return section.text();
+void addMaterials(Report& report, const DesignCase& c) {
+    const auto steel = [&](Field field, int grade) {
+        return choiceWords(field, c) + (grade >= 1 && grade <= 3 ? " MPa" : "");
+    };
+    report.heading("Betong och armering");
+    addChoice(report, c, Field::btg);
+    report.add("Överkant: stål fyk", steel(Field::aok, c.aok));
+    report.add("Överkant: stångdiameter", choiceWords(Field::dok, c));
+    report.add("Överkant: täckande skikt", millimetres(c.ktack));
+    report.add("Överkant: avkortning", c.kavko != 0 ? "ja" : "nej");
+    report.add("Underkant: stål fyk", steel(Field::auk, c.auk));
+    report.add("Underkant: stångdiameter", choiceWords(Field::duk, c));
+    report.add("Underkant: avst. tyngdpunkt", millimetres(c.duarm));
 }
 
-std::string fire(const DesignCase& c) {
-    Section section("Brand");
-    section.add("Brandklass", choiceWords(Field::brandk, c));
-    addChoice(section, c, Field::brandb);
-    addChoice(section, c, Field::kutak);
-    return section.text();
-}
-
-std::string deformation(const DesignCase& c) {
-    Section section(plainCaption(Field::brukskomb));
+void addFireAndDeformation(Report& report, const DesignCase& c) {
+    report.heading("Brand");
+    report.add("Brandklass", choiceWords(Field::brandk, c));
+    addChoice(report, c, Field::brandb);
+    addChoice(report, c, Field::kutak);
+    report.heading(plainCaption(Field::brukskomb));
     const auto limit = [](int divisor) {
         return divisor == 0 ? std::string("anges ej") : "L / " + std::to_string(divisor);
     };
-    section.add("Laster", choiceWords(Field::brukskomb, c));
-    section.add(plainCaption(Field::initiell), limit(c.initiell));
-    section.add(plainCaption(Field::tillkommande), limit(c.tillkommande));
-    section.add(plainCaption(Field::overhojning), millimetres(c.overhojning));
-    return section.text();
+    report.add("Laster", choiceWords(Field::brukskomb, c));
+    report.add(plainCaption(Field::initiell), limit(c.initiell));
+    report.add(plainCaption(Field::tillkommande), limit(c.tillkommande));
+    report.add(plainCaption(Field::overhojning), millimetres(c.overhojning));
 }
 
 } // namespace
 
 std::string caseReport(const CaseFile& loaded) {
-    const DesignCase& c = loaded.designCase;
-    return heading(loaded) + rules(c) + spans(c) + supports(c) + lineLoads(c) + materials(c) + fire(c) +
-           deformation(c);
+    Report report(loaded);
+    for (const auto add :
+         {addRules, addSpans, addSupports, addLineLoads, addMaterials, addFireAndDeformation})
+        add(report, loaded.designCase);
+    return report.text();
 }
 
 } // namespace varno::tool

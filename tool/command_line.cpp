@@ -2,12 +2,10 @@
 
 #include <CLI/CLI.hpp>
 
-#include <functional>
 #include <ostream>
 
 #include "base/error_words.h"
 #include "tool/commands.h"
-#include "tool/drawing_commands.h"
 
 namespace varno::tool {
 
@@ -15,12 +13,40 @@ namespace {
 
 enum ExitCode { done = 0, runTimeError = 1, wrongUsage = 2 };
 
-struct Request {
-    std::string file;
-    std::string moments;
-    std::string target;
-    std::function<void(FileOpener&, std::ostream&)> run;
+struct Argument {
+    const char* name;
+    std::string Request::*path;
+    const char* description;
 };
+
+struct CommandRow {
+    const char* name;
+    const char* description;
+    std::vector<Argument> arguments;
+    Command* run;
+    bool draws = false; ///< a picture is either listed or drawn into a file
+};
+
+std::vector<CommandRow> commandTable() {
+    const Argument file{"FIL", &Request::file, "Filen som läses"};
+    return {
+        {"json", "Skriver en indatafil som JSON", {file}, printJson},
+        {"rewrite",
+         "Läser en indatafil och skriver den igen",
+         {{"IN", &Request::file, "Filen som läses"},
+          {"UT", &Request::target, "Filen som skrivs, gärna samma"}},
+         rewriteCase},
+        {"result", "Skriver texten i en resultatfil", {file}, printResult},
+        {"pages", "Skriver utskriftens sidor som JSON", {file}, printPages},
+        {"show", "Visar indata i läsbar form", {file}, printReport},
+        {"sketch", "Ritar skissen till en indatafil", {file}, drawSketch, true},
+        {"diagram",
+         "Ritar momentdiagrammet till en indatafil",
+         {{"FIL", &Request::file, "Indatafilen"}, {"MOMK", &Request::moments, "Filen med momentkurvorna"}},
+         drawDiagram,
+         true},
+    };
+}
 
 void speakSwedish(CLI::App& app) {
     app.set_help_flag("-h,--help", "Visar den här hjälpen");
@@ -36,82 +62,25 @@ void speakSwedish(CLI::App& app) {
     app.allow_windows_style_options(false);
 }
 
-CLI::App* addCommand(CLI::App& app, const char* name, const char* description) {
-    CLI::App* command = app.add_subcommand(name, description);
-    command->group("Kommandon");
-    speakSwedish(*command);
-    return command;
-}
-
-void addPath(CLI::App& command, const char* name, std::string& path, const char* description) {
-    command.add_option(name, path, description)->required()->type_name("");
-}
-
-void addFileCommand(CLI::App& app, Request& request, const char* name, const char* description,
-                    void (*action)(FileOpener&, const std::string&, std::ostream&)) {
-    CLI::App* command = addCommand(app, name, description);
-    addPath(*command, "FIL", request.file, "Filen som läses");
-    command->callback([&request, action] {
-        request.run = [&request, action](FileOpener& opener, std::ostream& out) {
-            action(opener, request.file, out);
-        };
-    });
-}
-
-using Action = std::function<void(FileOpener&, std::ostream&)>;
-
-// A picture is either listed or drawn into a file.
-void addPictureOptions(CLI::App& command, Request& request, const Action& list, const Action& draw) {
-    const std::string listDescription = "Skriver det som ritas, ett JSON-objekt per rad";
-    const CLI::Option* listed = command.add_flag("--list", listDescription)->group("Val");
-    const CLI::Option* drawn =
+// What the user asks for goes to `request` and `run`.
+void addCommand(CLI::App& app, const CommandRow& row, Request& request, Command*& run) {
+    CLI::App& command = *app.add_subcommand(row.name, row.description)->group("Kommandon");
+    speakSwedish(command);
+    for (const Argument& argument : row.arguments)
+        command.add_option(argument.name, request.*argument.path, argument.description)
+            ->required()
+            ->type_name("");
+    if (row.draws) {
+        const std::string list = "Skriver det som ritas, ett JSON-objekt per rad";
+        command.add_flag("--list", list)->group("Val");
         command.add_option("--svg", request.target, "Ritar till en SVG-fil")->type_name("UT")->group("Val");
-    command.callback([listed, drawn, list, draw, &request] {
-        if ((listed->count() != 0) == (drawn->count() != 0)) throw CLI::RequiredError("--list | --svg");
-        request.run = listed->count() != 0 ? list : draw;
+    }
+    command.callback([&row, &command, &request, &run] {
+        request.list = row.draws && command.count("--list") != 0;
+        if (row.draws && request.list == (command.count("--svg") != 0))
+            throw CLI::RequiredError("--list | --svg");
+        run = row.run;
     });
-}
-
-void addSketch(CLI::App& app, Request& request) {
-    CLI::App* sketch = addCommand(app, "sketch", "Ritar skissen till en indatafil");
-    addPath(*sketch, "FIL", request.file, "Filen som läses");
-    addPictureOptions(
-        *sketch, request,
-        [&request](FileOpener& opener, std::ostream& out) { listSketch(opener, request.file, out); },
-        [&request](FileOpener& opener, std::ostream&) { drawSketch(opener, request.file, request.target); });
-}
-
-void addDiagram(CLI::App& app, Request& request) {
-    CLI::App* diagram = addCommand(app, "diagram", "Ritar momentdiagrammet till en indatafil");
-    addPath(*diagram, "FIL", request.file, "Indatafilen");
-    addPath(*diagram, "MOMK", request.moments, "Filen med momentkurvorna");
-    addPictureOptions(
-        *diagram, request,
-        [&request](FileOpener& opener, std::ostream& out) {
-            listDiagram(opener, request.file, request.moments, out);
-        },
-        [&request](FileOpener& opener, std::ostream&) {
-            drawDiagram(opener, request.file, request.moments, request.target);
-        });
-}
-
-void addCommands(CLI::App& app, Request& request) {
-    speakSwedish(app);
-    app.require_subcommand(1);
-    addFileCommand(app, request, "json", "Skriver en indatafil som JSON", printJson);
-    CLI::App* rewrite = addCommand(app, "rewrite", "Läser en indatafil och skriver den igen");
-    addPath(*rewrite, "IN", request.file, "Filen som läses");
-    addPath(*rewrite, "UT", request.target, "Filen som skrivs, gärna samma");
-    rewrite->callback([&request] {
-        request.run = [&request](FileOpener& opener, std::ostream&) {
-            rewriteCase(opener, request.file, request.target);
-        };
-    });
-    addFileCommand(app, request, "result", "Skriver texten i en resultatfil", printResult);
-    addFileCommand(app, request, "pages", "Skriver utskriftens sidor som JSON", printPages);
-    addFileCommand(app, request, "show", "Visar indata i läsbar form", printReport);
-    addSketch(app, request);
-    addDiagram(app, request);
 }
 
 } // namespace
@@ -119,8 +88,13 @@ void addCommands(CLI::App& app, Request& request) {
 int runTool(const std::vector<std::string>& arguments, FileCalls& calls, std::ostream& out,
             std::ostream& err) {
     CLI::App app("Läser och skriver filerna till Varno. All text är UTF-8.", "varnotool");
+    speakSwedish(app);
+    app.require_subcommand(1);
+    const auto table = commandTable();
     Request request;
-    addCommands(app, request);
+    Command* run = nullptr;
+    for (const CommandRow& row : table)
+        addCommand(app, row, request, run);
     try {
         // The library takes the arguments from the back.
         app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
@@ -134,7 +108,7 @@ int runTool(const std::vector<std::string>& arguments, FileCalls& calls, std::os
     try {
         ConsoleBoxes boxes(err);
         FileOpener opener(calls, boxes);
-        request.run(opener, out);
+        run(opener, request, out);
         return done;
     } catch (const RunTimeError& error) {
         return tellRunTimeError(error, err);

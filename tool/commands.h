@@ -20,18 +20,33 @@ class ConsoleBoxes : public MessageBoxes {
     std::ostream& err_;
 };
 
-// The commands. Paths are UTF-8, output is UTF-8 with LF. \throws RunTimeError 52 for a file that did not
-// open, and what the readers raise.
+/// What a command works on. Paths are UTF-8.
+struct Request {
+    std::string file;         ///< that is read
+    std::string moments = {}; ///< the moment curve file
+    std::string target = {};  ///< the file that is written
+    bool list = false; ///< a drawing command prints its display list (`tool/drawing_list.h`), not an SVG file
+};
+
+/// A command prints UTF-8 with LF. \throws RunTimeError 52 for a file that did not open, and what the readers, the
+/// sketch and the diagram raise. A list is printed as far as it came, a file is not written then.
+using Command = void(FileOpener& opener, const Request& request, std::ostream& out);
+
+Command printJson;
+/// Reads a case and writes it again; both may be the same file.
+Command rewriteCase;
+/// The text of a result file as the result viewer shows it.
+Command printResult;
+/// The texts of the pages that a result file is printed on, as a JSON array.
+Command printPages;
+/// The case as a person would like to read it.
+Command printReport;
+/// A full refresh of the sketch: surfaces "strip" and "load".
+Command drawSketch;
+/// The curves of a moment curve file along the slab of a case: surface "diagram".
+Command drawDiagram;
 
 /// The case of a file, read over the presets as "Öppna" does.
 CaseFile loadCase(FileOpener& opener, const std::string& path);
-
-void printJson(FileOpener& opener, const std::string& path, std::ostream& out);
-/// Reads a case and writes it again; both may be the same file.
-void rewriteCase(FileOpener& opener, const std::string& from, const std::string& to);
-/// The text of a result file as the result viewer shows it.
-void printResult(FileOpener& opener, const std::string& path, std::ostream& out);
-/// The case as a person would like to read it.
-void printReport(FileOpener& opener, const std::string& path, std::ostream& out);
 
 } // namespace varno::tool

@@ -11,26 +11,19 @@ namespace {
 // One object of the list, printed when it is complete.
 class Entry {
   public:
-    Entry(const std::string& surface, const char* op) {
-        text("surface", surface);
-        text("op", op);
+    Entry(const std::string& surface, const std::string& op) {
+        add("surface", surface);
+        add("op", op);
     }
-    Entry& text(const char* key, const std::string& value) { return raw(key, jsonText(value)); }
-    Entry& number(const char* key, double value) { return raw(key, jsonNumber(value)); }
-    Entry& flag(const char* key, bool value) { return raw(key, value ? "true" : "false"); }
+    Entry& add(const std::string& key, const auto& value) {
+        text_ += (text_.empty() ? "{" : ",") + jsonOf(key) + ":" + jsonOf(value);
+        return *this;
+    }
     Entry& colour(Colour value) {
-        if (value.isForeground()) return text("colour", "fg");
-        int number = 0;
-        while (value != Colour::numbered(number))
-            ++number;
-        return raw("colour", std::to_string(number));
+        return value.isForeground() ? add("colour", std::string("fg")) : add("colour", value.number());
     }
     Entry& corners(Point one, Point two) {
-        return number("x1", one.x).number("y1", one.y).number("x2", two.x).number("y2", two.y);
-    }
-    Entry& raw(const char* key, const std::string& value) {
-        text_ += (text_.empty() ? "{" : ",") + jsonText(key) + ":" + value;
-        return *this;
+        return add("x1", one.x).add("y1", one.y).add("x2", two.x).add("y2", two.y);
     }
     void print(std::ostream& out) const { out << text_ << "}\n"; }
 
@@ -45,30 +38,23 @@ void ListCanvas::clear() {
 }
 
 void ListCanvas::line(Point from, Point to, Colour colour, int width) {
-    Entry(surface_, "line").corners(from, to).colour(colour).raw("width", std::to_string(width)).print(out_);
+    Entry(surface_, "line").corners(from, to).colour(colour).add("width", width).print(out_);
 }
 
 void ListCanvas::box(Point corner, Point opposite, Colour colour, Fill fill) {
-    Entry(surface_, "box")
-        .corners(corner, opposite)
-        .colour(colour)
-        .flag("filled", fill == Fill::solid)
-        .print(out_);
+    const bool filled = fill == Fill::solid;
+    Entry(surface_, "box").corners(corner, opposite).colour(colour).add("filled", filled).print(out_);
 }
 
 void ListCanvas::disc(Point centre, double radius, Colour rim, Colour) {
-    Entry(surface_, "circle")
-        .number("x", centre.x)
-        .number("y", centre.y)
-        .number("r", radius)
-        .colour(rim)
-        .print(out_);
+    Entry circle(surface_, "circle");
+    circle.add("x", centre.x).add("y", centre.y).add("r", radius).colour(rim).print(out_);
 }
 
 void ListButtons::setButton(int index, bool visible, double left, double top) {
     Entry entry("strip", "button");
-    entry.raw("index", std::to_string(index)).flag("visible", visible);
-    if (visible) entry.number("left", left).number("top", top);
+    entry.add("index", index).add("visible", visible);
+    if (visible) entry.add("left", left).add("top", top);
     entry.print(out_);
 }
 

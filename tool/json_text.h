@@ -1,14 +1,25 @@
 #pragma once
 
+#include <cmath>
 #include <string>
+#include <type_traits>
+
+#include "base/numbers.h"
 
 namespace varno::tool {
 
 /// A UTF-8 text as a JSON string, quotes included.
-std::string jsonText(const std::string& utf8);
+std::string jsonOf(const std::string& utf8);
 
-/// The shortest JSON number that reads back as the same value.
-std::string jsonNumber(float value);
-std::string jsonNumber(double value);
+/// A truth value, or the shortest number that reads back as the same value.
+template <typename Value>
+requires std::is_arithmetic_v<Value> std::string jsonOf(Value value) {
+    if constexpr (std::is_same_v<Value, bool>)
+        return value ? "true" : "false";
+    else if constexpr (std::is_integral_v<Value>)
+        return std::to_string(value);
+    else // the general form has no sign for a zero, a real may have one
+        return value == 0 && std::signbit(value) ? "-0.0" : generalForm(value);
+}
 
 } // namespace varno::tool

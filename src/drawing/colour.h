@@ -46,6 +46,7 @@ class Colour {
     }
 
     constexpr bool isForeground() const { return number_ < 0; }
+    constexpr int number() const { return number_; } ///< of the palette; below 0 for the foreground
     constexpr Rgb rgb(Rgb ofForeground) const {
         return isForeground() ? ofForeground : palette[static_cast<std::size_t>(number_)];
     }

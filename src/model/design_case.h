@@ -25,6 +25,7 @@ class FactorPerCategory {
   public:
     Factor& operator()(int ruleSet, int category) { return rows_(ruleSet)(category); }
     const Factor& operator()(int ruleSet, int category) const { return rows_(ruleSet)(category); }
+    const auto& operator()(int ruleSet) const { return rows_(ruleSet); }
     bool operator==(const FactorPerCategory&) const = default;
 
   private:

@@ -6,8 +6,6 @@
 
 #include "base/text.h"
 #include "support/case_files.h"
-#include "tool/case_words.h"
-#include "tool/text_table.h"
 
 namespace varno {
 
@@ -139,22 +137,21 @@ TEST(CaseReport, ShowsAllSpansAndNoMoreLineLoadsThanThereAre) {
     EXPECT_EQ(report.find("   6     0"), std::string::npos);
 }
 
-TEST(CaseWords, NameTheRuleSets) {
-    const char* names[] = {"0",
-                           "Svenska byggregler (BKR)",
-                           "Eurokod, Polen",
-                           "Eurokod, Sverige",
-                           "Eurokod, Finland",
-                           "Eurokod, Danmark",
-                           "Eurokod, allmänt",
-                           "7"};
-    const char* captions[] = {"Säkerhetsklass", "Säkerhetsklass",       "Säkerhetsklass", "Pålitlighetsklass",
-                              "Säkerhetsklass", "Konstruktionssklasse", "Säkerhetsklass", "Säkerhetsklass"};
-    const char* secondClass[] = {"2", "2", "RC2", "2", "RC2", "2", "RC2", "2"};
-    for (int ruleSet = 0; ruleSet <= 7; ++ruleSet) {
-        EXPECT_EQ(tool::ruleSetWords(ruleSet), names[ruleSet]);
-        EXPECT_EQ(tool::classCaption(ruleSet), captions[ruleSet]);
-        EXPECT_EQ(tool::classWords(ruleSet, 2), secondClass[ruleSet]);
+TEST(CaseReport, NamesTheRuleSetsAndTheirClasses) {
+    const char* lines[] = {
+        "Lastregler                    0\n  Säkerhetsklass                2",
+        "Lastregler                    Svenska byggregler (BKR)\n  Säkerhetsklass                2",
+        "Lastregler                    Eurokod, Polen\n  Säkerhetsklass                RC2",
+        "Lastregler                    Eurokod, Sverige\n  Pålitlighetsklass             2",
+        "Lastregler                    Eurokod, Finland\n  Säkerhetsklass                RC2",
+        "Lastregler                    Eurokod, Danmark\n  Konstruktionssklasse          2",
+        "Lastregler                    Eurokod, allmänt\n  Säkerhetsklass                RC2"};
+    for (int ruleSet = 0; ruleSet <= maxLoadCode; ++ruleSet) {
+        const std::string report = reportWith([&](DesignCase& c) {
+            c.loadCode = static_cast<std::int16_t>(ruleSet);
+            c.safetyClass(ruleSet) = 2;
+        });
+        expectLine(report, std::string("  ") + lines[ruleSet]);
     }
 }
 
@@ -178,13 +175,10 @@ TEST(CaseReport, NamesTheChoicesAsTheFormDoes) {
                "  Beräkningsmetod - Brand       100 MJ/m2");
 }
 
-TEST(TextTable, AlignsCharactersAndNotBytes) {
-    tool::TextTable table;
-    table.addRow({"Å", "bb"});
-    table.addRow({"ccc", "ö", ""});
-    EXPECT_EQ(table.text(1), "   Å  bb\n ccc   ö\n");
+TEST(CaseReport, AlignsCharactersAndNotBytes) {
+    const std::string report = reportWith([](DesignCase& c) { c.nllast = 1; });
+    expectLine(report, "  Nr  Fack  Avstånd   Last\n                  m   kN/m\n   1     1    2,50   10,00");
     EXPECT_EQ(characterCount("Åäö €"), 5u);
-    EXPECT_EQ(tool::TextTable().text(2), "");
 }
 
 } // namespace

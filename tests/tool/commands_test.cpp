@@ -35,17 +35,17 @@ TEST_F(Commands, LoadACaseOverThePresets) {
 TEST_F(Commands, PrintACase) {
     files.content["A.IND"] = testing::sampleFile();
     const CaseFile loaded = tool::loadCase(opener, "A.IND");
-    tool::printJson(opener, "A.IND", out);
+    tool::printJson(opener, {"A.IND"}, out);
     EXPECT_EQ(out.str(), tool::caseJson(loaded));
     out.str("");
-    tool::printReport(opener, "A.IND", out);
+    tool::printReport(opener, {"A.IND"}, out);
     EXPECT_EQ(out.str(), tool::caseReport(loaded));
 }
 
 TEST_F(Commands, RewriteGivesTheSameBytes) {
     files.content["A.IND"] = testing::sampleFile();
-    tool::rewriteCase(opener, "A.IND", "B.IND");
-    tool::rewriteCase(opener, "A.IND", "A.IND");
+    tool::rewriteCase(opener, {.file = "A.IND", .target = "B.IND"}, out);
+    tool::rewriteCase(opener, {.file = "A.IND", .target = "A.IND"}, out);
     EXPECT_EQ(files.content, (std::map<std::string, Bytes>{{"A.IND", testing::sampleFile()},
                                                            {"B.IND", testing::sampleFile()}}));
 }
@@ -53,14 +53,15 @@ TEST_F(Commands, RewriteGivesTheSameBytes) {
 TEST_F(Commands, RewriteBringsAForeignFileIntoShape) {
     files.content["A.IND"] =
         testing::textOf(testing::linesOf(testing::sampleFileWith(6, "6 12.5    .25")), "\n");
-    tool::rewriteCase(opener, "A.IND", "A.IND");
+    tool::rewriteCase(opener, {.file = "A.IND", .target = "A.IND"}, out);
     EXPECT_EQ(testing::linesOf(files.content["A.IND"])[5], "612.5000.250  0.000  ");
 }
 
 TEST_F(Commands, RewriteKeepsTheTargetWhenTheSourceIsDamaged) {
     files.content["A.IND"] = "short\r\n";
     files.content["B.IND"] = "old";
-    EXPECT_EQ(errorOf([&] { tool::rewriteCase(opener, "A.IND", "B.IND"); }), errInputPastEnd);
+    EXPECT_EQ(errorOf([&] { tool::rewriteCase(opener, {.file = "A.IND", .target = "B.IND"}, out); }),
+              errInputPastEnd);
     EXPECT_EQ(files.content["B.IND"], "old");
 }
 
@@ -69,20 +70,22 @@ TEST_F(Commands, RewriteKeepsTheTargetWhenTheDiskIsFull) {
     files.fault = [](const std::string& call, const std::string&) {
         return call == "write" ? errDiskFull : 0;
     };
-    EXPECT_EQ(errorOf([&] { tool::rewriteCase(opener, "A.IND", "A.IND"); }), errDiskFull);
+    EXPECT_EQ(errorOf([&] { tool::rewriteCase(opener, {.file = "A.IND", .target = "A.IND"}, out); }),
+              errDiskFull);
     EXPECT_EQ(files.content, (std::map<std::string, Bytes>{{"A.IND", testing::sampleFile()}}));
 }
 
 TEST_F(Commands, AMissingFileIsError52AtTheFirstRead) {
     for (const auto action : {tool::printJson, tool::printReport, tool::printResult})
-        EXPECT_EQ(errorOf([&] { action(opener, "A.IND", out); }), errBadFileNameOrNumber);
-    EXPECT_EQ(errorOf([&] { tool::rewriteCase(opener, "A.IND", "B.IND"); }), errBadFileNameOrNumber);
+        EXPECT_EQ(errorOf([&] { action(opener, {"A.IND"}, out); }), errBadFileNameOrNumber);
+    EXPECT_EQ(errorOf([&] { tool::rewriteCase(opener, {.file = "A.IND", .target = "B.IND"}, out); }),
+              errBadFileNameOrNumber);
     EXPECT_EQ(out.str() + err.str(), "");
 }
 
 TEST_F(Commands, PrintAResultAsTheViewerShowsIt) {
     files.content["A.res"] = "B\x84rl\xE4ggning\r\n\r\n  M = 12,5 kNm\xB2 \x80 \x81\r\n";
-    tool::printResult(opener, "A.res", out);
+    tool::printResult(opener, {"A.res"}, out);
     EXPECT_EQ(out.str(), "\r\nBärläggning\r\n\r\n  M = 12,5 kNm² € \u0081");
 }
 
@@ -91,7 +94,7 @@ TEST_F(Commands, EveryByteOfAResultBecomesACharacter) {
     for (int byte = 0x80; byte < 0x100; ++byte)
         high += static_cast<char>(byte);
     files.content["A.res"] = "\x8F\x8E\x99\x86\x84\x94\r\n" + high;
-    tool::printResult(opener, "A.res", out);
+    tool::printResult(opener, {"A.res"}, out);
     EXPECT_EQ(encodeWindows1252(out.str()).size(), 2 + 6 + 2 + 128u);
     EXPECT_EQ(encodeWindows1252(out.str()).find('?'), std::string::npos);
     EXPECT_TRUE(out.str().starts_with("\r\nÅÄÖåäö\r\n€"));

@@ -11,8 +11,6 @@
 #include "drawing/svg_check.h"
 #include "support/case_files.h"
 #include "support/memory_files.h"
-#include "tool/command_line.h"
-#include "tool/commands.h"
 #include "tool/drawing_list.h"
 
 namespace varno {
@@ -142,8 +140,7 @@ TEST_F(DrawingCommands, AFileThatCannotBeDrawnIsARunTimeErrorAndNoPicture) {
     testing::expectTold(err.str(), "Filen saknas.dat finns inte.", "52: Bad file name or number");
     files.content["noll.dat"] = testing::momentFileOf({testing::CurveSpan(1)}, {testing::CurveSpan(1)});
     EXPECT_EQ(run({"diagram", "A.IND", "noll.dat", "--svg", "D.svg"}), 1);
-    testing::expectTold(err.str(), "Alla moment i momk.dat är 0.",
-                        "11: Division by zero");
+    testing::expectTold(err.str(), "Alla moment i momk.dat är 0.", "11: Division by zero");
     files.content["kort.dat"] = "2,0.25,1";
     EXPECT_EQ(run({"diagram", "A.IND", "kort.dat", "--list"}), 1);
     testing::expectTold(
