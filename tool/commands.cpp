@@ -7,7 +7,6 @@
 #include "drawing/svg_canvas.h"
 #include "input/sketch_picture.h"
 #include "model/reference_tables.h"
-#include "results/result_pages.h"
 #include "results/result_text.h"
 #include "tool/case_json.h"
 #include "tool/case_report.h"

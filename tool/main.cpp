@@ -1,17 +1,82 @@
 #include <exception>
 #include <iostream>
+#include <string>
+#include <vector>
 
 #include "base/file_calls.h"
 #include "base/run_time_error.h"
 #include "tool/command_line.h"
-#include "tool/console.h"
+
+#ifdef _WIN32
+#include <windows.h>
+
+#include <shellapi.h>
+
+#include <fcntl.h>
+#include <io.h>
+
+#include <memory>
+
+#include "win32/strings.h"
+#endif
+
+namespace {
+
+#ifdef _WIN32
+
+struct LocalFreer {
+    void operator()(wchar_t** memory) const { LocalFree(memory); }
+};
+
+// The arguments without the program's name, as UTF-8: the narrow ones have lost every letter that the user's code page
+// lacks.
+std::vector<std::string> utf8Arguments(int, char**) {
+    int count = 0;
+    const std::unique_ptr<wchar_t*, LocalFreer> values(CommandLineToArgvW(GetCommandLineW(), &count));
+    std::vector<std::string> arguments;
+    for (int i = 1; values && i < count; ++i)
+        arguments.push_back(varno::win32::narrow(values.get()[i]));
+    return arguments;
+}
+
+// For as long as it lives, what is written to the standard output arrives byte for byte, and a console takes it for
+// UTF-8.
+class Utf8Output {
+  public:
+    Utf8Output() {
+        _setmode(_fileno(stdout), _O_BINARY);
+        SetConsoleOutputCP(CP_UTF8);
+    }
+    ~Utf8Output() {
+        std::cout.flush();
+        std::cerr.flush();
+        if (codePageBefore_ != 0) SetConsoleOutputCP(codePageBefore_);
+    }
+    Utf8Output(const Utf8Output&) = delete;
+    Utf8Output& operator=(const Utf8Output&) = delete;
+
+  private:
+    const UINT codePageBefore_ = GetConsoleOutputCP();
+};
+
+#else
+
+std::vector<std::string> utf8Arguments(int count, char** values) {
+    return count > 0 ? std::vector<std::string>(values + 1, values + count) : std::vector<std::string>();
+}
+
+// What is written arrives as it is.
+struct Utf8Output {};
+
+#endif
+
+} // namespace
 
 int main(int argc, char** argv) {
     using namespace varno;
     try {
-        const tool::Utf8Output output;
-        const int code =
-            tool::runTool(tool::utf8Arguments(argc, argv), systemFileCalls(), std::cout, std::cerr);
+        [[maybe_unused]] const Utf8Output output{};
+        const int code = tool::runTool(utf8Arguments(argc, argv), systemFileCalls(), std::cout, std::cerr);
         // Output that did not arrive (a full disk, a closed pipe) is not a success.
         if (!std::cout.flush()) throw RunTimeError(errDeviceIo);
         return code;

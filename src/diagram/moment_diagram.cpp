@@ -42,12 +42,62 @@ class Drawing {
     }
 
   private:
-    void drawCurve(Colour colour, Canvas& leftOrdinates);
-    void drawSpan(int span, Colour colour, Canvas& leftOrdinates);
-    void drawLeftCantilever(Colour colour, Canvas& ordinates);
-    void drawRightCantilever(Colour colour);
+    void drawCurve(Colour colour, Canvas& leftOrdinates) {
+        last_ = {slabStripStart + scale_ * case_.konsv, baseline};
+        for (int span = 1; inside(span); ++span)
+            drawSpan(span, colour, leftOrdinates);
+        if (file_.spans() < 1) return;
+        last_.x += case_.upl(file_.spans()) * scale_;
+        if (case_.konsh > shortestCantilever) drawRightCantilever(colour);
+    }
+
+    void drawSpan(int span, Colour colour, Canvas& leftOrdinates) {
+        const double spacing = file_.number() * scale_;
+        last_.y = heightOf(file_.number());
+        if (span == 1 && case_.konsv > shortestCantilever) drawLeftCantilever(colour, leftOrdinates);
+
+        // The moment is held level across the support.
+        const double supportEnd = last_.x + case_.upl(span - 1) * scale_;
+        surfaces_.surface.box(last_, {supportEnd, baseline}, Colour::foreground());
+        last_.x = supportEnd;
+        for (int k = 1; k <= lastMoment; ++k) {
+            const Point point{last_.x + spacing, heightOf(file_.number())};
+            surfaces_.surface.line(last_, point, colour);
+            surfaces_.surface.line(point, {point.x, baseline}, colour);
+            last_ = point;
+        }
+    }
+
+    // In a cantilever the moment is taken to fall in a straight line to 0 at the free end.
+    void drawLeftCantilever(Colour colour, Canvas& ordinates) {
+        const Point freeEnd{slabStripStart, baseline};
+        drawOrdinates(ordinates, colour, freeEnd, 1, case_.konsv * scale_, case_.spv(1) / intervals * scale_);
+        surfaces_.surface.line(freeEnd, last_, colour);
+    }
+
+    void drawRightCantilever(Colour colour) {
+        const Point freeEnd{slabEnd, baseline};
+        drawOrdinates(surfaces_.surface, colour, freeEnd, -1, case_.konsh * scale_,
+                      case_.spv(file_.spans()) / intervals * scale_);
+        surfaces_.surface.line(last_, freeEnd, colour);
+    }
+
+    // From the free end towards the support, whose moment is that of `last_`. Lengths that make no sense must not
+    // hold up the program: without a step there is but the first ordinate, what no paper is wide enough for is
+    // left out, and of those that stand within a twip of each other one is drawn.
     void drawOrdinates(Canvas& canvas, Colour colour, Point freeEnd, double towardsSupport, double length,
-                       double step) const;
+                       double step) const {
+        constexpr double widestPaper = 30000;
+        const bool steps = step > 0 && std::isfinite(step);
+        const double stride = steps && step < 1 ? std::ceil(1 / step) : 1;
+        for (double k = 0; k * step <= length && k * step <= widestPaper; k += stride) {
+            const double offset = k * step;
+            const double share = offset == 0 ? 0 : offset / length;
+            const double x = freeEnd.x + towardsSupport * offset;
+            canvas.line({x, baseline}, {x, baseline + (last_.y - baseline) * share}, colour);
+            if (!steps) break;
+        }
+    }
 
     double heightOf(float moment) const { return baseline + moment * momentScale_; }
     bool inside(int span) const { return span <= file_.spans(); }
@@ -59,63 +109,6 @@ class Drawing {
     const Surfaces surfaces_;
     Point last_{0, baseline}; // of the curve, as far as it is drawn
 };
-
-void Drawing::drawCurve(Colour colour, Canvas& leftOrdinates) {
-    last_ = {slabStripStart + scale_ * case_.konsv, baseline};
-    for (int span = 1; inside(span); ++span)
-        drawSpan(span, colour, leftOrdinates);
-    if (file_.spans() < 1) return;
-    last_.x += case_.upl(file_.spans()) * scale_;
-    if (case_.konsh > shortestCantilever) drawRightCantilever(colour);
-}
-
-void Drawing::drawSpan(int span, Colour colour, Canvas& leftOrdinates) {
-    const double spacing = file_.number() * scale_;
-    last_.y = heightOf(file_.number());
-    if (span == 1 && case_.konsv > shortestCantilever) drawLeftCantilever(colour, leftOrdinates);
-
-    // The moment is held level across the support.
-    const double supportEnd = last_.x + case_.upl(span - 1) * scale_;
-    surfaces_.surface.box(last_, {supportEnd, baseline}, Colour::foreground());
-    last_.x = supportEnd;
-    for (int k = 1; k <= lastMoment; ++k) {
-        const Point point{last_.x + spacing, heightOf(file_.number())};
-        surfaces_.surface.line(last_, point, colour);
-        surfaces_.surface.line(point, {point.x, baseline}, colour);
-        last_ = point;
-    }
-}
-
-// In a cantilever the moment is taken to fall in a straight line to 0 at the free end.
-void Drawing::drawLeftCantilever(Colour colour, Canvas& ordinates) {
-    const Point freeEnd{slabStripStart, baseline};
-    drawOrdinates(ordinates, colour, freeEnd, 1, case_.konsv * scale_, case_.spv(1) / intervals * scale_);
-    surfaces_.surface.line(freeEnd, last_, colour);
-}
-
-void Drawing::drawRightCantilever(Colour colour) {
-    const Point freeEnd{slabEnd, baseline};
-    drawOrdinates(surfaces_.surface, colour, freeEnd, -1, case_.konsh * scale_,
-                  case_.spv(file_.spans()) / intervals * scale_);
-    surfaces_.surface.line(last_, freeEnd, colour);
-}
-
-// From the free end towards the support, whose moment is that of `last_`. Lengths that make no sense must not
-// hold up the program: without a step there is but the first ordinate, what no paper is wide enough for is
-// left out, and of those that stand within a twip of each other one is drawn.
-void Drawing::drawOrdinates(Canvas& canvas, Colour colour, Point freeEnd, double towardsSupport,
-                            double length, double step) const {
-    constexpr double widestPaper = 30000;
-    const bool steps = step > 0 && std::isfinite(step);
-    const double stride = steps && step < 1 ? std::ceil(1 / step) : 1;
-    for (double k = 0; k * step <= length && k * step <= widestPaper; k += stride) {
-        const double offset = k * step;
-        const double share = offset == 0 ? 0 : offset / length;
-        const double x = freeEnd.x + towardsSupport * offset;
-        canvas.line({x, baseline}, {x, baseline + (last_.y - baseline) * share}, colour);
-        if (!steps) break;
-    }
-}
 
 } // namespace
 
@@ -134,9 +127,8 @@ void MomentDiagram::measure(File& file) {
 
 void MomentDiagram::draw(File& file, Canvas& picture) const {
     picture.clear();
-    MomentFile items(file);
-    const double momentScale = scaleFor(momentMax_);
-    Drawing(case_, sketch_.sketchScale(), items, momentScale, {picture, picture}).run();
+    plot(
+        file, [&]() -> Canvas& { return picture; }, picture);
 }
 
 void MomentDiagram::plot(File& file, const std::function<Canvas&()>& paper, Canvas& picture) const {

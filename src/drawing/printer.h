@@ -37,6 +37,11 @@ class Printer {
 };
 
 /// Without a printer it says so.
-bool printerThere(const Printer& printer, MessageBoxes& boxes);
+inline bool printerThere(const Printer& printer, MessageBoxes& boxes) {
+    if (printer.available()) return true;
+    boxes.tell(
+        "Det finns ingen skrivare att skriva ut på. Installera en skrivare i Windows och försök igen.");
+    return false;
+}
 
 } // namespace varno

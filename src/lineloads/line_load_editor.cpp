@@ -69,16 +69,21 @@ void LineLoadEditor::showRows(int last) {
     }
 }
 
-// An error names the box.
-template <typename Store>
-void LineLoadEditor::leave(LineLoadControl box, Store store) {
-    aboutField(accessibleName(box), [&] { boxes_.leave(box, store); });
+void LineLoadEditor::left(LineLoadControl box) {
+    DesignCase& designCase = context_.designCase;
+    // An error names the box.
+    aboutField(accessibleName(box), [&] {
+        if (box.box == LineLoadBox::llfnr) leaveSpanNumber(box, (designCase.*set_.span)(box.index));
+        if (box.box == LineLoadBox::avst) leaveReal(box, (designCase.*set_.distance)(box.index), realPattern);
+        if (box.box == LineLoadBox::lllast)
+            leaveReal(box, (designCase.*set_.load)(box.index), editedLoadPattern);
+        if (box.box == LineLoadBox::multiplier)
+            boxes_.leave(box, [&](double typed) { boxes_.put(box, typed, realPattern); });
+    });
 }
 
-void LineLoadEditor::spanNumberLeft(int row) {
-    const LineLoadControl box{LineLoadBox::llfnr, row};
-    std::int16_t& stored = (context_.designCase.*set_.span)(row);
-    leave(box, [&](double typed) {
+void LineLoadEditor::leaveSpanNumber(LineLoadControl box, std::int16_t& stored) {
+    boxes_.leave(box, [&](double typed) {
         const double number = std::min(typed, highestSpan);
         if (number == stored) {
             if (typed > highestSpan) boxes_.put(box, number, wholePattern);
@@ -91,16 +96,8 @@ void LineLoadEditor::spanNumberLeft(int row) {
     });
 }
 
-void LineLoadEditor::distanceLeft(int row) {
-    leaveReal({LineLoadBox::avst, row}, (context_.designCase.*set_.distance)(row), realPattern);
-}
-
-void LineLoadEditor::loadLeft(int row) {
-    leaveReal({LineLoadBox::lllast, row}, (context_.designCase.*set_.load)(row), editedLoadPattern);
-}
-
 void LineLoadEditor::leaveReal(LineLoadControl box, float& stored, const char* pattern) {
-    leave(box, [&](double typed) {
+    boxes_.leave(box, [&](double typed) {
         if (toSingle(typed) == stored) return;
         const double number = asShown(typed, pattern);
         stored = toSingle(number);
@@ -109,21 +106,9 @@ void LineLoadEditor::leaveReal(LineLoadControl box, float& stored, const char* p
     });
 }
 
-void LineLoadEditor::multiplierLeft(int multiplier) {
-    const LineLoadControl box{LineLoadBox::multiplier, multiplier};
-    leave(box, [&](double typed) { boxes_.put(box, typed, realPattern); });
-}
-
-void LineLoadEditor::spinUp() {
+void LineLoadEditor::spin(int step) {
     const double shown = VARNO1::parseNumber(context_.view.text(countBox));
-    if (shown >= maxLineLoads) return;
-    enterCount(shown + 1);
-}
-
-void LineLoadEditor::spinDown() {
-    const double shown = VARNO1::parseNumber(context_.view.text(countBox));
-    if (!(shown > 0)) return;
-    enterCount(shown - 1);
+    if (step > 0 ? shown < maxLineLoads : shown > 0) enterCount(shown + step);
 }
 
 // The count box takes any text, so a step can lead anywhere. A negative count, which only a file brings, can

@@ -47,14 +47,11 @@ class LineLoadEditor {
     /// The text of a box is another than before.
     void changed(LineLoadControl box) { boxes_.changed(box); }
     void entered(LineLoadControl box) { boxes_.entered(box); }
-    void spanNumberLeft(int row);
-    void distanceLeft(int row);
-    void loadLeft(int row);
-    /// Only rewrites the box (1..4): multipliers are not kept.
-    void multiplierLeft(int multiplier);
+    /// A box of a row is stored. A multiplier is only rewritten: they are not kept.
+    void left(LineLoadControl box);
 
-    void spinUp();
-    void spinDown();
+    void spinUp() { spin(1); }
+    void spinDown() { spin(-1); }
     void backgroundClicked();
 
   private:
@@ -64,9 +61,9 @@ class LineLoadEditor {
     void showRecord();
     void fillRow(int row);
     void showRows(int last);
-    template <typename Store>
-    void leave(LineLoadControl box, Store store);
+    void leaveSpanNumber(LineLoadControl box, std::int16_t& stored);
     void leaveReal(LineLoadControl box, float& stored, const char* pattern);
+    void spin(int step);
     int countFrom(double wanted) const;
     void enterCount(double typed);
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <array>
+#include <string>
+#include <string_view>
 
 #include "input/field_table.h"
 #include "lineloads/line_load_view.h"
@@ -69,6 +71,16 @@ inline constexpr std::array multiplierBoxes{
 };
 
 /// What a box is called where its place does not tell: by a screen reader, in a message.
-std::string accessibleName(LineLoadControl control);
+inline std::string accessibleName(LineLoadControl control) {
+    if (control.box == LineLoadBox::nllast)
+        return std::string(lineLoadCount).substr(0, std::string_view(lineLoadCount).find(':'));
+    if (control.box == LineLoadBox::multiplier)
+        return std::string(multiplierValue) + ", " +
+               multiplierBoxes.at(static_cast<std::size_t>(control.index - 1)).label;
+    const auto column = static_cast<std::size_t>(control.box) - static_cast<std::size_t>(LineLoadBox::llfnr);
+    const auto& [heading, unit] = lineLoadColumns.at(column);
+    return std::string(heading) + (*unit != '\0' ? " " : "") + unit + ", linjelast " +
+           std::to_string(control.index);
+}
 
 } // namespace varno

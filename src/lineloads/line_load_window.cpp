@@ -152,29 +152,6 @@ void LineLoadWindow::show() {
     SetForegroundWindow(handle());
 }
 
-void LineLoadWindow::close() {
-    closeForm();
-}
-
-void LineLoadWindow::left(LineLoadControl control) {
-    switch (control.box) {
-    case LineLoadBox::nllast:
-        break;
-    case LineLoadBox::llfnr:
-        rules_->spanNumberLeft(control.index);
-        break;
-    case LineLoadBox::avst:
-        rules_->distanceLeft(control.index);
-        break;
-    case LineLoadBox::lllast:
-        rules_->loadLeft(control.index);
-        break;
-    case LineLoadBox::multiplier:
-        rules_->multiplierLeft(control.index);
-        break;
-    }
-}
-
 void LineLoadWindow::onCommand(int id, int notification) {
     if (rules_ == nullptr) return;
     if (id == idLayout) {
@@ -196,7 +173,7 @@ void LineLoadWindow::onCommand(int id, int notification) {
 void LineLoadWindow::onBox(LineLoadControl box, int notification) {
     if (notification == EN_CHANGE) rules_->changed(box);
     if (notification == EN_SETFOCUS) rules_->entered(box);
-    if (notification == EN_KILLFOCUS) left(box);
+    if (notification == EN_KILLFOCUS) rules_->left(box);
 }
 
 void LineLoadWindow::onCloseBox() {

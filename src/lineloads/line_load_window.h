@@ -19,7 +19,7 @@ class LineLoadWindow : public win32::FormWindow, public LineLoadView {
     void focus(LineLoadControl control) override;
     void returnTo(LineLoadControl control) override;
     void show() override;
-    void close() override;
+    void close() override { closeForm(); }
 
   protected:
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -28,7 +28,6 @@ class LineLoadWindow : public win32::FormWindow, public LineLoadView {
 
   private:
     void onBox(LineLoadControl box, int notification);
-    void left(LineLoadControl box);
 
     const LineLoadSet& set_;
     LineLoadEditor* rules_ = nullptr;

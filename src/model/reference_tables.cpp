@@ -4,44 +4,34 @@ namespace varno {
 
 namespace {
 
+using CategoryRow = std::array<double, maxLoadCategory + 1>;
+constexpr CategoryRow allSeven{0.7, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7};
+constexpr CategoryRow psi1Row{0.5, 0.5, 0.5, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7};
+constexpr CategoryRow psi2Row{0.3, 0.3, 0.3, 0.6, 0.6, 0.6, 0.6, 0.6, 0.6, 0.6};
+
 struct RuleSetFactors {
     double lambdaG;
     double ksi;
     double lambdaQ;
+    CategoryRow psi0 = allSeven;
+    CategoryRow psi1 = psi1Row;
+    CategoryRow psi2 = psi2Row;
 };
 
-// Rule sets 1 to 6.
+// Rule sets 1 to 6. Set 4 keeps psi2 at 0.3 for the categories C1 to C5; set 5 has its own lower values
+// throughout.
 constexpr std::array<RuleSetFactors, maxLoadCode> ruleSetFactors{{
     {1.35, 0.89, 1.5},
     {1.35, 0.85, 1.5},
     {1.35, 0.89, 1.5},
-    {1.35, 0.85, 1.5},
-    {1.2, 1.0, 1.5},
-    {1.35, 0.85, 1.5},
-}};
-
-using CategoryRow = std::array<double, maxLoadCategory + 1>;
-struct CombinationFactors {
-    CategoryRow psi0;
-    CategoryRow psi1;
-    CategoryRow psi2;
-};
-
-constexpr CategoryRow allSeven{0.7, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7};
-constexpr CategoryRow commonPsi1{0.5, 0.5, 0.5, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7};
-constexpr CombinationFactors common{allSeven, commonPsi1, {0.3, 0.3, 0.3, 0.6, 0.6, 0.6, 0.6, 0.6, 0.6, 0.6}};
-
-// Rule sets 1 to 6. Set 4 keeps psi2 at 0.3 for the categories C1 to C5; set 5 has its own lower values
-// throughout.
-constexpr std::array<CombinationFactors, maxLoadCode> combinationFactors{{
-    common,
-    common,
-    common,
-    {allSeven, commonPsi1, {0.3, 0.3, 0.3, 0.3, 0.3, 0.3, 0.3, 0.3, 0.6, 0.6}},
-    {{0.5, 0.5, 0.6, 0.6, 0.6, 0.6, 0.6, 0.6, 0.6, 0.6},
+    {1.35, 0.85, 1.5, allSeven, psi1Row, {0.3, 0.3, 0.3, 0.3, 0.3, 0.3, 0.3, 0.3, 0.6, 0.6}},
+    {1.2,
+     1.0,
+     1.5,
+     {0.5, 0.5, 0.6, 0.6, 0.6, 0.6, 0.6, 0.6, 0.6, 0.6},
      {0.3, 0.3, 0.4, 0.6, 0.6, 0.6, 0.6, 0.6, 0.6, 0.6},
      {0.2, 0.2, 0.2, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5}},
-    common,
+    {1.35, 0.85, 1.5},
 }};
 
 // Rule sets 0 to 6, categories 0 to 9, kN/m².
@@ -75,15 +65,15 @@ void presetDesignCase(DesignCase& designCase) {
         designCase.plast(span) = 0.0f;
     }
     for (int ruleSet = 1; ruleSet <= maxLoadCode; ++ruleSet) {
-        const auto row = static_cast<std::size_t>(ruleSet - 1);
-        designCase.lambdaG(ruleSet) = ruleSetFactors[row].lambdaG;
-        designCase.ksi(ruleSet) = ruleSetFactors[row].ksi;
-        designCase.lambdaQ(ruleSet) = ruleSetFactors[row].lambdaQ;
+        const RuleSetFactors& factors = ruleSetFactors[static_cast<std::size_t>(ruleSet - 1)];
+        designCase.lambdaG(ruleSet) = factors.lambdaG;
+        designCase.ksi(ruleSet) = factors.ksi;
+        designCase.lambdaQ(ruleSet) = factors.lambdaQ;
         for (int category = 0; category <= maxLoadCategory; ++category) {
             const auto cell = static_cast<std::size_t>(category);
-            designCase.psi0(ruleSet, category) = combinationFactors[row].psi0[cell];
-            designCase.psi1(ruleSet, category) = combinationFactors[row].psi1[cell];
-            designCase.psi2(ruleSet, category) = combinationFactors[row].psi2[cell];
+            designCase.psi0(ruleSet, category) = factors.psi0[cell];
+            designCase.psi1(ruleSet, category) = factors.psi1[cell];
+            designCase.psi2(ruleSet, category) = factors.psi2[cell];
         }
     }
 }

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "results/result_pages.h"
+#include "results/result_text.h"
 #include "results/result_viewer.h"
 
 namespace varno {

@@ -42,4 +42,10 @@ namespace VARNO1 {
 /// \throws RunTimeError 52 when the file did not open.
 varno::Bytes readResultText(varno::File& file);
 
+/// The pages of a result file, Windows-1252: in each the lines of the file, every one preceded by CR LF, so
+/// that a page begins with an empty line. The DOS letters are repaired page by page, the first occurrence
+/// left of each letter after every line. \throws RunTimeError 52 when the file did not open, 9 at a seventh
+/// page.
+std::vector<varno::Bytes> readResultPages(varno::File& file);
+
 } // namespace VARNO1

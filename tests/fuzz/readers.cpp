@@ -14,7 +14,6 @@
 #include "base/byte_files.h"
 #include "model/design_input_file.h"
 #include "model/reference_tables.h"
-#include "results/result_pages.h"
 #include "results/result_text.h"
 
 namespace varno::fuzz {

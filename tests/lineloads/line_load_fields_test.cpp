@@ -232,7 +232,7 @@ TEST_P(BothEditors, StoreNothingOfANumberThatNoTypeHolds) {
         rig.view.focused = loadCountBox;
         const std::string stored = rig.view.text(control);
         rig.type(control, typed);
-        EXPECT_EQ(errorOf([&] { rig.leave(control); }), errOverflow) << typed;
+        EXPECT_EQ(errorOf([&] { rig.editor.left(control); }), errOverflow) << typed;
         EXPECT_EQ(rig.view.text(control), stored) << "screen and record agree";
         EXPECT_EQ(rig.view.returnedTo, control);
     }
@@ -304,7 +304,7 @@ TEST_P(BothEditors, ShowWhatTheyCanOfADamagedCaseAndLeaveTheErrorToTheSketch) {
 TEST_P(BothEditors, RefuseARowThatTheyDoNotHave) {
     rig.open();
     for (const int row : {-1, 6}) {
-        EXPECT_EQ(errorOf([&] { rig.editor.distanceLeft(row); }), errSubscriptOutOfRange);
+        EXPECT_EQ(errorOf([&] { rig.editor.left({LineLoadBox::avst, row}); }), errSubscriptOutOfRange);
     }
 }
 
@@ -323,7 +323,7 @@ TEST(FreeLineLoads, FormatTheirMultipliersAndKeepNone) {
     rig.edit(multiplierBox(4), "");
     EXPECT_EQ(rig.text(LineLoadBox::multiplier, 4), "0,00");
     rig.type(multiplierBox(2), "1e999");
-    EXPECT_EQ(errorOf([&] { rig.leave(multiplierBox(2)); }), errOverflow);
+    EXPECT_EQ(errorOf([&] { rig.editor.left(multiplierBox(2)); }), errOverflow);
     EXPECT_EQ(rig.text(LineLoadBox::multiplier, 2), "");
     EXPECT_EQ(rig.designCase, before);
     EXPECT_EQ(rig.refreshes(), 0);

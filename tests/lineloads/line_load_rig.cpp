@@ -38,7 +38,7 @@ std::string FakeLineLoadWindow::rows() const {
 
 LineLoadRig::LineLoadRig(const LineLoadSet& which, const NumberLocale& locale)
     : set(which), editor(set, {designCase, document, window, sketch, form, view}, locale) {
-    view.onLeave = [this](LineLoadControl control) { leave(control); };
+    view.onLeave = [this](LineLoadControl control) { editor.left(control); };
     view.onEnter = [this](LineLoadControl control) { editor.entered(control); };
     view.onChange = [this](LineLoadControl control) { editor.changed(control); };
     designCase.nfack = 3;
@@ -78,21 +78,6 @@ void LineLoadRig::edit(LineLoadControl control, const std::string& typed) {
 void LineLoadRig::visit(LineLoadControl control) {
     view.focus(control);
     view.focus(loadCountBox);
-}
-
-void LineLoadRig::leave(LineLoadControl control) {
-    switch (control.box) {
-    case LineLoadBox::llfnr:
-        return editor.spanNumberLeft(control.index);
-    case LineLoadBox::avst:
-        return editor.distanceLeft(control.index);
-    case LineLoadBox::lllast:
-        return editor.loadLeft(control.index);
-    case LineLoadBox::multiplier:
-        return editor.multiplierLeft(control.index);
-    case LineLoadBox::nllast:
-        return;
-    }
 }
 
 std::string LineLoadRig::shownRow(int row) const {

@@ -55,7 +55,6 @@ class LineLoadRig {
     /// Types and leaves the box.
     void edit(LineLoadControl control, const std::string& text);
     void visit(LineLoadControl control);
-    void leave(LineLoadControl control);
 
     std::string text(LineLoadBox box, int index = 0) const { return view.text({box, index}); }
     /// "span/distance/load" of a row as shown.

@@ -1,4 +1,4 @@
-#include "results/result_pages.h"
+#include "results/result_text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "tool/drawing_commands.h"
+#include "tool/command_line.h"
 #include "tool/told.h"
 
 #include <gtest/gtest.h>
