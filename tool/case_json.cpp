@@ -1,6 +1,5 @@
-#include "tool/case_json.h"
-
 #include "model/record_fields.h"
+#include "tool/commands.h"
 #include "tool/json_text.h"
 
 namespace varno::tool {

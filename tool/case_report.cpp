@@ -1,5 +1,3 @@
-#include "tool/case_report.h"
-
 #include <algorithm>
 #include <string>
 #include <vector>
@@ -8,6 +6,7 @@
 #include "base/text.h"
 #include "controls/rule_sets.h"
 #include "input/field_table.h"
+#include "tool/commands.h"
 
 namespace varno::tool {
 

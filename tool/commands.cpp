@@ -8,8 +8,6 @@
 #include "input/sketch_picture.h"
 #include "model/reference_tables.h"
 #include "results/result_text.h"
-#include "tool/case_json.h"
-#include "tool/case_report.h"
 #include "tool/drawing_list.h"
 #include "tool/json_text.h"
 

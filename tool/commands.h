@@ -49,4 +49,13 @@ Command drawDiagram;
 /// The case of a file, read over the presets as "Öppna" does.
 CaseFile loadCase(FileOpener& opener, const std::string& path);
 
+/// The case as one JSON object, UTF-8: the record's fields by their names, arrays in their full index range
+/// from 0. A number is the shortest decimal that reads back as the same single or double, an empty factor
+/// cell is null.
+std::string caseJson(const CaseFile& loaded);
+
+/// The case in readable Swedish, UTF-8 with LF: choices in words, spans, supports and line loads as tables,
+/// decimal commas. Only what is in use is shown; numbers that the file can hold are not rounded away.
+std::string caseReport(const CaseFile& loaded);
+
 } // namespace varno::tool

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cmath>
+#include <cstdio>
 #include <string>
 #include <type_traits>
 
@@ -9,7 +10,23 @@
 namespace varno::tool {
 
 /// A UTF-8 text as a JSON string, quotes included.
-std::string jsonOf(const std::string& utf8);
+inline std::string jsonOf(const std::string& utf8) {
+    std::string out = "\"";
+    for (const char c : utf8) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (c == '"' || c == '\\') {
+            out += '\\';
+            out += c;
+        } else if (byte < 0x20 || byte == 0x7F) {
+            char escape[8];
+            std::snprintf(escape, sizeof escape, "\\u%04x", static_cast<unsigned>(byte));
+            out += escape;
+        } else {
+            out += c;
+        }
+    }
+    return out + '"';
+}
 
 /// A truth value, or the shortest number that reads back as the same value.
 template <typename Value>

@@ -4,47 +4,34 @@
 
 namespace varno {
 
-namespace {
-
-// The picture area is painted however its drawing ended.
-class Painted {
-  public:
-    explicit Painted(DiagramView& view) : view_(view) {}
-    ~Painted() { view_.paint(); }
-    Painted(const Painted&) = delete;
-    Painted& operator=(const Painted&) = delete;
-
-  private:
-    DiagramView& view_;
-};
-
-} // namespace
-
 void DiagramCommands::moment() {
     const BusyPointer busy(window_);
     File measured = files_.openFile(momentFileName, FileMode::input);
     diagram_.measure(measured);
     measured.close();
-
-    File drawn = files_.openFile(momentFileName, FileMode::input);
-    {
-        const Painted painted(view_);
-        diagram_.draw(drawn, view_.picture());
-    }
-    drawn.close();
+    pass([this](File& file) { diagram_.draw(file, view_.picture()); });
     view_.show();
 }
 
 void DiagramCommands::plot() {
     if (!printerThere(printer_, boxes_)) return;
     const BusyPointer busy(window_);
-    File file = files_.openFile(momentFileName, FileMode::input);
-    {
-        const Painted painted(view_);
+    pass([this](File& file) {
         diagram_.plot(
             file, [this]() -> Canvas& { return printer_.canvas(); }, view_.picture());
+    });
+}
+
+// The picture area is painted however its drawing ended.
+void DiagramCommands::pass(const std::function<void(File&)>& draw) {
+    File file = files_.openFile(momentFileName, FileMode::input);
+    try {
+        draw(file);
+    } catch (...) {
+        view_.paint();
+        throw;
     }
-    file.close();
+    view_.paint();
 }
 
 } // namespace varno

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "base/message_boxes.h"
 #include "base/open_file.h"
 #include "controls/main_view.h"
@@ -36,6 +38,8 @@ class DiagramCommands {
     void back() { view_.close(); }
 
   private:
+    void pass(const std::function<void(File&)>& draw);
+
     MomentDiagram& diagram_;
     FileOpener& files_;
     MessageBoxes& boxes_;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "base/file.h"
+#include "base/numbers.h"
+#include "model/design_case.h"
 
 namespace varno {
 
@@ -24,16 +26,24 @@ class MomentFile {
   public:
     /// Reads the number of spans. \throws RunTimeError 52 for a file that did not open, 62 for an empty one,
     /// 6 for a number that is no 16-bit one, 9 for more spans than a case has room for.
-    explicit MomentFile(File& file);
+    explicit MomentFile(File& file) : file_(file) {
+        aboutFile(file.path(), FileAction::reading, [&] {
+            spans_ = toInteger(VARNO1::parseNumber(file.readField()));
+            if (spans_ > SpanArray::last) throw RunTimeError(errSubscriptOutOfRange);
+        });
+    }
 
     int spans() const { return spans_; }
     /// The next item. \throws RunTimeError 62 at the end of the file, 6 beyond the singles.
-    float number();
+    float number() {
+        return aboutFile(file_.path(), FileAction::reading,
+                         [&] { return toSingle(VARNO1::parseNumber(file_.readField())); });
+    }
     void skip() { file_.readField(); }
 
   private:
     File& file_;
-    int spans_;
+    int spans_ = 0;
 };
 
 } // namespace varno

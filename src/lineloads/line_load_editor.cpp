@@ -23,7 +23,7 @@ void LineLoadEditor::opened() {
         if (count() > maxLineLoads) throw RunTimeError(errSubscriptOutOfRange);
         showRecord();
         if (set_.hasMultipliers) {
-            for (int k = 1; k <= static_cast<int>(multiplierBoxes.size()); ++k)
+            for (int k = 1; k <= static_cast<int>(multiplierLabels.size()); ++k)
                 boxes_.put({LineLoadBox::multiplier, k}, std::nullopt, realPattern);
         }
         open_ = true;

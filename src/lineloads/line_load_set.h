@@ -59,16 +59,8 @@ inline constexpr const char* multiplierValue = "Multiplikator";
 inline constexpr const char* multiplierNote =
     "1) Multiplikatorn för aktuell Lastkombination = Partkoeff. x Lastreduktionsfaktorn (Psi)";
 
-struct MultiplierBox {
-    const char* name;
-    const char* label;
-};
-inline constexpr std::array multiplierBoxes{
-    MultiplierBox{"mfbro", "Brottlast"},
-    MultiplierBox{"mfbru", "Brukslast"},
-    MultiplierBox{"mflan", "Långtidslast"},
-    MultiplierBox{"mfbra", "Brandlast"},
-};
+/// Labels of the boxes mfbro, mfbru, mflan and mfbra.
+inline constexpr std::array multiplierLabels{"Brottlast", "Brukslast", "Långtidslast", "Brandlast"};
 
 /// What a box is called where its place does not tell: by a screen reader, in a message.
 inline std::string accessibleName(LineLoadControl control) {
@@ -76,7 +68,7 @@ inline std::string accessibleName(LineLoadControl control) {
         return std::string(lineLoadCount).substr(0, std::string_view(lineLoadCount).find(':'));
     if (control.box == LineLoadBox::multiplier)
         return std::string(multiplierValue) + ", " +
-               multiplierBoxes.at(static_cast<std::size_t>(control.index - 1)).label;
+               multiplierLabels.at(static_cast<std::size_t>(control.index - 1));
     const auto column = static_cast<std::size_t>(control.box) - static_cast<std::size_t>(LineLoadBox::llfnr);
     const auto& [heading, unit] = lineLoadColumns.at(column);
     return std::string(heading) + (*unit != '\0' ? " " : "") + unit + ", linjelast " +

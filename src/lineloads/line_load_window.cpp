@@ -72,9 +72,9 @@ void addMultipliers(Layout& form) {
     form.add(0, ControlKind::group, multiplierFrame, 10, panelTop, width - 20, panelHeight);
     form.label(multiplierLoadCase, 30, panelTop + 20, 120);
     form.label(multiplierValue, 170, panelTop + 20, 120);
-    for (std::size_t i = 0; i < multiplierBoxes.size(); ++i) {
+    for (std::size_t i = 0; i < multiplierLabels.size(); ++i) {
         const int y = panelTop + 40 + static_cast<int>(i) * rowPitch;
-        form.label(multiplierBoxes[i].label, 30, y + 3, 120);
+        form.label(multiplierLabels[i], 30, y + 3, 120);
         form.number({LineLoadBox::multiplier, static_cast<int>(i) + 1}, 170, y, 70);
     }
     form.label(multiplierNote, 14, panelTop + panelHeight + 8, width - 28, 32);
@@ -92,20 +92,6 @@ HMENU editorMenu() {
     return bar;
 }
 
-void nameBoxes(const win32::FormWindow& window, const LineLoadSet& set) {
-    const auto name = [&](LineLoadControl box) {
-        win32::nameForScreenReaders(window.item(idOf(box)), accessibleName(box));
-    };
-    name({LineLoadBox::nllast});
-    for (int row = 1; row <= maxLineLoads; ++row) {
-        for (const LineLoadBox box : {LineLoadBox::llfnr, LineLoadBox::avst, LineLoadBox::lllast})
-            name({box, row});
-    }
-    if (!set.hasMultipliers) return;
-    for (int i = 1; i <= static_cast<int>(multiplierBoxes.size()); ++i)
-        name({LineLoadBox::multiplier, i});
-}
-
 } // namespace
 
 LineLoadWindow::LineLoadWindow(win32::WindowHost& host, HWND owner, const LineLoadSet& set)
@@ -117,7 +103,10 @@ LineLoadWindow::LineLoadWindow(win32::WindowHost& host, HWND owner, const LineLo
     addRows(form);
     if (set.hasMultipliers) addMultipliers(form);
     addControls(form.controls);
-    nameBoxes(*this, set);
+    for (const ControlSpec& control : form.controls) {
+        if (const auto box = controlOf(control.id))
+            win32::nameForScreenReaders(item(control.id), accessibleName(*box));
+    }
 }
 
 std::string LineLoadWindow::text(LineLoadControl control) const {

@@ -35,9 +35,6 @@ Bytes withoutTexts(const Bytes& written) {
     return second == Bytes::npos ? written : "\r\n" + written.substr(second);
 }
 
-std::string textOf(std::int16_t value) {
-    return std::to_string(value);
-}
 // The shortest text that reads back as the same number, without an exponent: "1e+07" says little to a reader.
 template <typename Real>
 std::string textOf(Real value) {
@@ -50,8 +47,7 @@ std::string textOf(Real value) {
 double plain(const Factor& value) {
     return value.value_or(0);
 }
-template <typename Number>
-Number plain(Number value) {
+float plain(float value) {
     return value;
 }
 

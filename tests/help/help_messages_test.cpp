@@ -48,8 +48,8 @@ TEST(HelpMessages, TheLineLoadEditorsAreExplained) {
         expectExplained(text);
     for (const LineLoadColumn& column : lineLoadColumns)
         expectExplained(column.heading);
-    for (const MultiplierBox& box : multiplierBoxes)
-        expectExplained(box.label);
+    for (const char* label : multiplierLabels)
+        expectExplained(label);
 }
 
 TEST(HelpMessages, TheHintAtTheTitleIsExplained) {

@@ -1,4 +1,4 @@
-#include "tool/case_json.h"
+#include "tool/commands.h"
 
 #include <gtest/gtest.h>
 

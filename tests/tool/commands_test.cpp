@@ -6,8 +6,6 @@
 
 #include "support/case_files.h"
 #include "support/memory_files.h"
-#include "tool/case_json.h"
-#include "tool/case_report.h"
 
 namespace varno {
 
