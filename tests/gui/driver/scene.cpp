@@ -5,8 +5,9 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 
+#include "base/file_calls.h"
+#include "base/run_time_error.h"
 #include "driver/wait.h"
 #include "win32/strings.h"
 
@@ -46,9 +47,12 @@ std::string samplesFolder() {
 }
 
 Bytes readFile(const std::string& path) {
-    std::ifstream file(pathOf(path), std::ios::binary);
-    if (!file) throw GuiError("there is no " + path);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    // In nobody's way: what the C++ library opens cannot be renamed over meanwhile, and fails where somebody renames.
+    try {
+        return systemFileCalls().readAll(path);
+    } catch (const RunTimeError&) {
+        throw GuiError("there is no " + path);
+    }
 }
 
 void writeFile(const std::string& path, const Bytes& bytes) {
