@@ -20,7 +20,7 @@ namespace {
 // Paths of 260 letters and more must be in their long form. A draft's name is longer than its file's, so a file that
 // could be opened could otherwise not be saved.
 std::wstring systemPath(const std::string& path) {
-    const std::wstring text = wide(path);
+    std::wstring text = wide(path);
     constexpr std::size_t longestName = 255;
     // Windows and its file systems have several errors for this.
     if (text.size() - (text.find_last_of(L"\\/") + 1) > longestName) failWith(ERROR_FILENAME_EXCED_RANGE);

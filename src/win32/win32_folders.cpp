@@ -74,9 +74,9 @@ class WindowsFolders : public Folders {
         const bool known = std::ranges::any_of(
             drives(), [&](const std::string& other) { return equalIgnoringCase(other, drive); });
         if (!known) throw RunTimeError(errDeviceUnavailable);
-        const std::string path = fullPath(drive);
+        std::string path = fullPath(drive);
         if (isFolder(path)) return path;
-        const std::string root = upperCase(drive) + "\\";
+        std::string root = upperCase(drive) + "\\";
         if (!isFolder(root)) throw RunTimeError(errDeviceUnavailable);
         return root;
     }
@@ -84,7 +84,7 @@ class WindowsFolders : public Folders {
     std::string resolve(const std::string& base, const std::string& path) override {
         const bool absolute = path.starts_with("\\\\") || (path.size() > 1 && path[1] == ':');
         const std::string start = absolute ? "" : path.starts_with('\\') ? base.substr(0, 2) : base + "\\";
-        const std::string full = fullPath(start + path);
+        std::string full = fullPath(start + path);
         if (!isFolder(full)) throw RunTimeError(errPathNotFound);
         return full;
     }
