@@ -38,10 +38,12 @@ class Activation : public LineLoads {
     // Whatever lies over it: in a desktop of Wine a window drops behind the one that it belongs to.
     static void goToCovered(const Control& window) {
         // The program in front may hand that on; which it is, the one under test or this, is up to the test.
-        if (SetForegroundWindow(window.handle()) == FALSE) {
-            callIn(program().process(), L"user32.dll", "SetForegroundWindow",
-                   {reinterpret_cast<DWORD>(window.handle())});
-        }
+        clickUntil([&] { return GetForegroundWindow() == window.handle(); },
+                   [&] {
+                       if (SetForegroundWindow(window.handle()) == FALSE)
+                           callIn(program().process(), L"user32.dll", "SetForegroundWindow",
+                                  {reinterpret_cast<DWORD>(window.handle())});
+                   });
         expectActive(window);
     }
     // To another program, and back to `window`.
