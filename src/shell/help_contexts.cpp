@@ -9,7 +9,7 @@ std::string helpTopicOfFocus(HWND focus) {
     for (HWND window = focus; window != nullptr; window = GetParent(window)) {
         const HWND parent = GetParent(window);
         if (parent != nullptr) {
-            const std::string own = helpTopicOf(win32::classOf(parent), GetDlgCtrlID(window));
+            std::string own = helpTopicOf(win32::classOf(parent), GetDlgCtrlID(window));
             if (!own.empty()) return own;
         }
         const std::string_view kind = helpTopicOfWindow(win32::classOf(window));
