@@ -1,5 +1,6 @@
 // The sample calculation engine varnowb. Started without arguments it calculates the case in the current folder.
 #include <cstdio>
+#include <ctime>
 #include <exception>
 #include <string>
 #include <string_view>
@@ -44,6 +45,13 @@ void print(std::string_view utf8) {
 
 #endif
 
+std::string now() {
+    const std::time_t time = std::time(nullptr);
+    char text[32];
+    text[std::strftime(text, sizeof text, "%Y-%m-%d %H:%M", std::localtime(&time))] = '\0';
+    return text;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -55,7 +63,7 @@ int main(int argc, char** argv) {
                                                                             : engine::noCase;
     }
     try {
-        return engine::run(systemFileCalls());
+        return engine::run(systemFileCalls(), now());
     } catch (const std::exception&) {
         return engine::notWritten;
     }

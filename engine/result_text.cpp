@@ -1,11 +1,10 @@
 #include "engine/result_text.h"
 
-#include <span>
-
 #include "base/text.h"
+#include "controls/rule_sets.h"
 #include "engine/columns.h"
 #include "engine/pages.h"
-#include "model/reference_tables.h"
+#include "input/field_table.h"
 
 namespace varno::engine {
 
@@ -13,78 +12,65 @@ namespace {
 
 // No line of this file's texts may hold the same Swedish letter twice; see pages.h.
 
-Block firstHead() {
+Block head(std::string_view when) {
     Block block;
     block.add("EXEMPELMOTOR varnowb                                Kalvora Tessaplan ver 7.10");
     block.add("Endast ett exempel på en motor: moment och upplagsreaktioner.");
     block.add("Ingen dimensionering och ingen kontroll av bärighet görs.");
-    return block.add();
+    block.add();
+    return block.add("Beräknad  " + std::string(when));
 }
 
-// What the 37 lines of the design input file say, as people read it: the numbers of lists and options with the text of
-// their row.
-
-using Rows = std::span<const std::string_view>;
-
-constexpr std::string_view ruleNames[] = {"utan tabellvärden", "BKR",     "Eurokod", "Eurokod",
-                                          "Eurokod",           "Eurokod", "Eurokod"};
-constexpr std::string_view numberedClasses[] = {"1", "2", "3"};
-constexpr std::string_view reliabilityClasses[] = {"RC1", "RC2", "RC3"};
-constexpr std::string_view combinations[] = {"6.10 a", "6.10 b", "6.10 a och 6.10 b"};
-constexpr std::string_view diameters[] = {"6 mm", "8 mm", "10 mm", "12 mm", "16 mm"};
-constexpr std::string_view fireKinds[] = {"brandteknisk klass", "brandbelastning"};
-constexpr std::string_view fireTimes[] = {"REI 30", "REI 60", "REI 90", "REI 120"};
-constexpr std::string_view fireLoads[] = {"100 MJ/m2", "150 MJ/m2", "200 MJ/m2", "250 MJ/m2"};
-constexpr std::string_view ceilings[] = {"saknas", "13 gips"};
-constexpr std::string_view serviceLoads[] = {"frekventa laster", "karakteristiska laster"};
+// What the design input file says, in the words of the input form.
 
 constexpr std::size_t labelWidth = 30;
 
-// "3  C30/37"; `from` is the number of the first row.
-std::string chosen(int number, Rows rows, int from = 1) {
-    const int row = number - from;
-    const bool known = row >= 0 && row < static_cast<int>(rows.size());
-    return std::to_string(number) + "  " +
-           (known ? trimBlanks(rows[static_cast<std::size_t>(row)]) : "(ej i listan)");
-}
-
-std::string steel(int number) {
-    std::string text = chosen(number, steelGrades);
-    const auto grade = text.find("  ") + 2;
-    return text[grade] == '(' ? text : text.insert(grade, "fyk ");
-}
-
-std::string item(const char* label, const std::string& value) {
+std::string item(std::string_view label, const std::string& value) {
     return left(label, labelWidth) + value;
+}
+
+std::string noSuchRow(int number) {
+    return "nr " + std::to_string(number) + " (ej i listan)";
+}
+
+std::string chosen(Field field, const DesignCase& c) {
+    return choiceText(field, c).value_or(noSuchRow(c.*choiceField(field)->place));
+}
+
+std::string choiceItem(Field field, const DesignCase& c) {
+    return item(plainCaption(field), chosen(field, c));
+}
+
+// The list's own sign for a diameter is no letter of the result file.
+std::string bars(Field steel, Field diameter, const DesignCase& c) {
+    const auto grade = choiceText(steel, c);
+    const auto size = choiceText(diameter, c);
+    const auto number = [&](Field field) { return "nr " + std::to_string(c.*choiceField(field)->place); };
+    return "fyk " + grade.value_or(number(steel)) + ", diameter " +
+           (size ? size->substr(size->find(' ') + 1) + " mm" : number(diameter)) +
+           (grade && size ? "" : " (ej i listan)");
 }
 
 std::string factor(const char* name, const Factor& value) {
     return std::string{name} + " " + (value ? fitted(*value, 8, 3) : "-") + "  ";
 }
 
-// The six rule sets have three names for the class, and two ways to write it.
-std::string classLine(const DesignCase& c) {
-    const bool reliability = c.loadCode == 2 || c.loadCode == 4 || c.loadCode == 6;
-    const char* label = c.loadCode == 3   ? "Pålitlighetsklass"
-                        : c.loadCode == 5 ? "Konstruktionsklass"
-                                          : "Säkerhetsklass";
-    return item(label, chosen(c.safetyClass(c.loadCode), reliability ? reliabilityClasses : numberedClasses));
-}
-
 Block rules(const DesignCase& c) {
+    const RuleSet* const known = ruleSetWith(&RuleSet::number, c.loadCode);
+    const RuleSet& set = known == nullptr ? ruleSets.front() : *known;
+    const int option = c.safetyClass(c.loadCode);
+    const bool named = option >= 1 && option <= static_cast<int>(set.classes.size());
     Block block;
-    block.add("INDATA").add();
-    block.add(item("Lastregler", chosen(c.loadCode, ruleNames, 0)));
-    block.add(classLine(c));
-    block.add(item("Lastkategori", chosen(c.lokt, loadCategories, 0)));
-    block.add(item("Lastkombination", chosen(c.lastkomb, combinations)));
-    block.add(item("Partialkoefficienter", factor("lambdaG", c.lambdaG(c.loadCode)) +
-                                               factor("lambdaQ", c.lambdaQ(c.loadCode)) +
+    block.add("INDATA");
+    block.add(item("Lastregler", known == nullptr ? "inga" : known->name));
+    block.add(item(set.frame, named ? set.classes[static_cast<std::size_t>(option - 1)] : noSuchRow(option)));
+    block.add(choiceItem(Field::lokt, c)).add(choiceItem(Field::lastkomb, c));
+    block.add(item("Partialkoefficienter", factor("gammaG", c.lambdaG(c.loadCode)) +
+                                               factor("gammaQ", c.lambdaQ(c.loadCode)) +
                                                factor("ksi", c.ksi(c.loadCode))));
-    block.add(item("Kombinationsfaktorer", factor("psi0", c.psi0(c.loadCode, c.lokt)) +
-                                               factor("psi1", c.psi1(c.loadCode, c.lokt)) +
-                                               factor("psi2", c.psi2(c.loadCode, c.lokt))));
-    return block;
+    return block.add(item("Kombinationsfaktorer", factor("psi0", c.psi0(c.loadCode, c.lokt)) +
+                                                      factor("psi1", c.psi1(c.loadCode, c.lokt)) +
+                                                      factor("psi2", c.psi2(c.loadCode, c.lokt))));
 }
 
 Block geometry(const DesignCase& c) {
@@ -109,33 +95,34 @@ Block geometry(const DesignCase& c) {
 
 Block lineLoads(const DesignCase& c) {
     Block block;
-    block.add().add("Antal linjelaster " + std::to_string(c.nllast));
-    block.add("    nr   fack    avst (m)   last (kN/m)");
-    for (int i = 1; i <= maxLineLoads; ++i)
-        block.add(cell(i, 6) + cell(c.llfnr(i), 7) + cell(c.avst(i), 12, 3) + cell(c.lllast(i), 14, 3) +
-                  (i > c.nllast ? "   (används inte)" : ""));
+    block.add();
+    if (c.nllast <= 0) return block.add("Inga linjelaster");
+    block.add("Linjelast   fack    avst (m)   last (kN/m)");
+    for (int i = 1; i <= c.nllast; ++i)
+        block.add(cell(i, 6) + cell(c.llfnr(i), 10) + cell(c.avst(i), 12, 3) + cell(c.lllast(i), 14, 3));
     return block;
+}
+
+std::string millimetres(int value) {
+    return std::to_string(value) + " mm";
 }
 
 Block materials(const DesignCase& c) {
     Block block;
     block.add();
-    block.add(item("Betongklass", chosen(c.btg, concreteClasses)));
-    block.add("Armering i överkant");
-    block.add(item("  stål, diameter", steel(c.aok) + ",  " + chosen(c.dok, diameters)));
-    block.add(item("  täckande skikt, avkortning",
-                   std::to_string(c.ktack) + " mm,  " + (c.kavko != 0 ? "ja" : "nej")));
-    block.add("Armering i underkant");
-    block.add(item("  stål, diameter", steel(c.auk) + ",  " + chosen(c.duk, diameters)));
-    block.add(item("  tyngdpunkt från underkant", std::to_string(c.duarm) + " mm"));
-    block.add(item("Brand", chosen(c.brandk, fireKinds) + ",  " +
-                                chosen(c.brandb, c.brandk == 2 ? fireLoads : fireTimes)));
-    block.add(item("Undertak", chosen(c.kutak, ceilings)));
-    block.add(item("Deformation, laster", chosen(c.brukskomb, serviceLoads)));
-    block.add(item("  nedböjning", "initiell L/" + std::to_string(c.initiell) + ",  tillkommande L/" +
-                                       std::to_string(c.tillkommande)));
-    block.add(item("  Överhöjning", std::to_string(c.overhojning) + " mm"));
-    block.add(item("Reserverat värde", std::to_string(c.reservedValue)));
+    block.add(choiceItem(Field::btg, c));
+    block.add(item(topReinforcement, bars(Field::aok, Field::dok, c)));
+    block.add(item(textField(Field::ktack)->caption, millimetres(c.ktack)));
+    block.add(item(choiceField(Field::kavko)->caption, c.kavko != 0 ? "ja" : "nej"));
+    block.add(item("Armering i underkant", bars(Field::auk, Field::duk, c)));
+    block.add(item(textField(Field::duarm)->caption, millimetres(c.duarm)));
+    block.add(item(choiceField(Field::brandb)->caption,
+                   chosen(Field::brandk, c) + ", " + chosen(Field::brandb, c)));
+    block.add(choiceItem(Field::kutak, c)).add(choiceItem(Field::brukskomb, c));
+    block.add(item(plainCaption(Field::initiell), "L/" + std::to_string(c.initiell)));
+    block.add(item(plainCaption(Field::tillkommande), "L/" + std::to_string(c.tillkommande)));
+    block.add(item(plainCaption(Field::overhojning), millimetres(c.overhojning)));
+    if (c.reservedValue != 0) block.add(item("Reserverat värde", std::to_string(c.reservedValue)));
     return block;
 }
 
@@ -143,17 +130,15 @@ Block materials(const DesignCase& c) {
 
 Block assumptions(const DesignCase& c, const Envelope& result) {
     Block block;
-    block.add("ANTAGANDEN").add();
+    block.add().add("ANTAGANDEN");
     block.add("Linjärelastisk kontinuerlig balk med konstant styvhet, strimla 1 m bred.");
-    block.add("Upplag i punkter vid fackens ändar; upplagsbredden inverkar bara på kurvorna");
-    block.add("i momk.dat.");
-    block.add("Permanent last: alltid i alla fack, faktor lambdaG = " + fitted(*c.lambdaG(c.loadCode), 8, 3) +
-              ".");
-    block.add("Egentyngd tillkommer inte, permanent last tas som inmatad.");
-    block.add("Variabel last: till eller från i varje fack, faktor lambdaQ = " +
+    block.add("Upplag i punkter; upplagsbredden inverkar bara på kurvorna i momk.dat.");
+    block.add("Permanent last som inmatad, utan egentyngd: faktor gammaG = " +
+              fitted(*c.lambdaG(c.loadCode), 8, 3) + ".");
+    block.add("Variabel last: till eller från i varje fack, faktor gammaQ = " +
               fitted(*c.lambdaQ(c.loadCode), 8, 3) + ",");
-    block.add("alla " + std::to_string(result.patterns) + " kombinationer ingår.");
-    block.add("Konsol bär samma last som facket intill och belastas samtidigt med det.");
+    block.add("alla " + std::to_string(result.patterns) +
+              " kombinationer ingår. Konsol bär samma last som facket intill.");
     block.add("Linjelaster: alltid, faktor 1.");
     block.add("Lastkombination, ksi, psi, material och brand påverkar inte resultatet.");
     block.add("Moment i kNm/m, positivt vid dragning i underkant. Reaktion i kN/m,");
@@ -161,16 +146,24 @@ Block assumptions(const DesignCase& c, const Envelope& result) {
 }
 
 // One row for each support, with its position from the slab's left end.
-Block supportTable(const char* heading, const DesignCase& c, const std::vector<Range>& ranges) {
+Block supportTable(const DesignCase& c, const Envelope& result) {
     Block block;
-    block.add().add(heading).add();
-    block.add("  stöd       x (m)           max           min");
+    block.add().add("STÖDMOMENT (kNm/m) och UPPLAGSREAKTIONER (kN/m)");
+    // Whoever takes the reactions further has to know it here.
+    if (c.nllast > 0) block.add("Linjelasterna ingår utan lastfaktor.");
+    block.add("  stöd      x (m)     moment max        min   reaktion max        min");
     double x = c.konsv;
+    bool uplift = false;
     for (int i = 0; i <= c.nfack; ++i) {
         if (i > 0) x += c.spv(i);
-        const Range& range = ranges[static_cast<std::size_t>(i)];
-        block.add(cell(i, 6) + cell(x, 12, 3) + cell(range.max, 14, 2) + cell(range.min, 14, 2));
+        const Range& moment = result.supportMoment[static_cast<std::size_t>(i)];
+        const Range& reaction = result.reaction[static_cast<std::size_t>(i)];
+        const bool lifts = reaction.min < -0.005;
+        uplift = uplift || lifts;
+        block.add(cell(i, 6) + cell(x, 11, 3) + cell(moment.max, 15, 2) + cell(moment.min, 11, 2) +
+                  cell(reaction.max, 15, 2) + cell(reaction.min, 11, 2) + (lifts ? "  LYFT" : ""));
     }
+    if (uplift) block.add("LYFT: reaktionen kan bli negativ; plattan vill lyfta, upplaget tar drag.");
     return block;
 }
 
@@ -183,36 +176,30 @@ std::string placed(const FieldMoment& field) {
 
 Block fieldTable(const Envelope& result) {
     Block block;
-    block.add().add("FÄLTMOMENT (kNm/m)").add();
+    block.add().add("FÄLTMOMENT (kNm/m)");
     block.add("  fack           max     x (m)                       min     x (m)");
     int span = 0;
     for (const FieldMoments& field : result.field)
         block.add(cell(++span, 6) + placed(field.max) + placed(field.min));
-    block.add("x från fackets vänstra stöd. Momentet har sitt max eller min:");
-    block.add("V = 0       utan tvärkraft");
-    block.add("linjelast   under en linjelast, sidorna om lasten med olika tecken på V");
-    return block.add("upplag      i facket invid upplaget");
+    block.add("x från fackets vänstra stöd.");
+    return block.add("V = 0: utan tvärkraft. linjelast: under en linjelast. upplag: vid upplaget.");
 }
 
 } // namespace
 
-Bytes resultText(const CaseOnFile& file, const Envelope& result) {
+Bytes resultText(const CaseOnFile& file, const Envelope& result, std::string_view when) {
     const DesignCase& c = file.values;
-    Pages pages(Block().addBytes("EXEMPELMOTOR varnowb    ", file.name).add());
-    pages.add(firstHead().addBytes("Namn    ", file.name).addBytes("Rubrik  ", file.title).add());
-    for (const auto& block : {rules(c), geometry(c), lineLoads(c), materials(c)})
+    Pages pages(Block().addBytes("EXEMPELMOTOR varnowb    " + std::string(when) + "    ", file.name).add());
+    pages.add(head(when).addBytes("Namn      ", file.name).addBytes("Rubrik    ", file.title).add());
+    for (const Block& block : {rules(c), geometry(c), lineLoads(c), materials(c), assumptions(c, result),
+                               supportTable(c, result), fieldTable(result)})
         pages.add(block);
-    pages.newPage();
-    pages.add(assumptions(c, result));
-    pages.add(supportTable("STÖDMOMENT (kNm/m)", c, result.supportMoment));
-    pages.add(fieldTable(result));
-    pages.add(supportTable("UPPLAGSREAKTIONER (kN/m)", c, result.reaction));
     return pages.text();
 }
 
-Bytes refusalText(std::string_view name, std::string_view reason) {
+Bytes refusalText(std::string_view name, std::string_view reason, std::string_view when) {
     Pages pages{Block()};
-    pages.add(firstHead().addBytes("Namn    ", name).add());
+    pages.add(head(when).addBytes("Namn      ", name).add());
     pages.add(Block().add("FEL. " + std::string(reason)).add().add("Inga moment kunde tas fram."));
     return pages.text();
 }

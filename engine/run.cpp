@@ -78,15 +78,15 @@ struct Outcome {
     Bytes moments; ///< empty for a case that makes no sense
 };
 
-Outcome outcomeOf(const Bytes& bytes, const Bytes& name) {
+Outcome outcomeOf(const Bytes& bytes, const Bytes& name, std::string_view when) {
     try {
         const CaseOnFile file = readCase(bytes);
         checkCase(file.values);
         const Envelope result = calculate(file.values);
         checkResult(result);
-        return {calculated, resultText(file, result), momentFile(result)};
+        return {calculated, resultText(file, result, when), momentFile(result)};
     } catch (const CaseError& error) {
-        return {senseless, refusalText(name, error.what()), {}};
+        return {senseless, refusalText(name, error.what(), when), {}};
     }
 }
 
@@ -137,7 +137,7 @@ std::optional<std::string> resultFileName(const Bytes& firstLine) {
     return decodeWindows1252(VARNO1::fromOemLetters(firstLine)) + ".res";
 }
 
-ExitCode run(FileCalls& files) {
+ExitCode run(FileCalls& files, std::string_view when) {
     Bytes bytes;
     try {
         bytes = files.readAll("~indata~.tmp");
@@ -147,7 +147,7 @@ ExitCode run(FileCalls& files) {
     const Bytes name = bytes.empty() ? Bytes() : SequentialText(bytes).readLine();
     const auto resultName = resultFileName(name);
     if (!resultName) return noCase;
-    const Outcome outcome = outcomeOf(bytes, name);
+    const Outcome outcome = outcomeOf(bytes, name, when);
     try {
         write(files, outcome, *resultName);
         return outcome.code;

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "base/file_calls.h"
 #include "engine/envelope.h"
@@ -17,8 +18,8 @@ enum ExitCode {
 };
 
 /// Calculates the case in "~indata~.tmp": reads it from the current folder and leaves the result file and "momk.dat"
-/// there. Each is written under another name first and takes the place of an older one only when both are complete.
-ExitCode run(FileCalls& files);
+/// there. Each is written under another name first and takes the place of an older one only when both are complete. `when` is the time that the result bears.
+ExitCode run(FileCalls& files, std::string_view when);
 
 /// The moments and reactions of a case that makes sense.
 Envelope calculate(const DesignCase& c);

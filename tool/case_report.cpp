@@ -81,15 +81,7 @@ class Report {
 
 // A number that no list and no option group has is shown as the number.
 std::string choiceWords(Field field, const DesignCase& designCase) {
-    const ChoiceField& row = *choiceField(field);
-    const auto options = field == Field::brandb ? fireOptions(designCase.brandk) : row.options;
-    const int number = designCase.*row.place;
-    const int place = number - row.firstNumber;
-    if (place < 0 || place >= static_cast<int>(options.size())) return std::to_string(number);
-    std::string words = trimBlanks(options[static_cast<std::size_t>(place)]);
-    // The rows of the form are padded, some within.
-    const auto pad = words.find("  ");
-    return pad == std::string::npos ? words : words.erase(pad, 1);
+    return choiceText(field, designCase).value_or(std::to_string(designCase.*choiceField(field)->place));
 }
 
 void addChoice(Report& report, const DesignCase& c, Field field) {

@@ -56,6 +56,17 @@ std::span<const std::string_view> fireOptions(int fireClass) {
     return fireClass == 2 ? fireLoads : fireResistances;
 }
 
+std::optional<std::string> choiceText(Field field, const DesignCase& designCase) {
+    const ChoiceField& row = *choiceField(field);
+    const auto options = field == Field::brandb ? fireOptions(designCase.brandk) : row.options;
+    const int place = designCase.*row.place - row.firstNumber;
+    if (place < 0 || place >= static_cast<int>(options.size())) return {};
+    std::string words = trimBlanks(options[static_cast<std::size_t>(place)]);
+    // Some rows are padded within.
+    const auto pad = words.find("  ");
+    return pad == std::string::npos ? words : words.erase(pad, 1);
+}
+
 std::string accessibleName(Control control) {
     const FieldRow* const row = fieldRow(control.field);
     const ChoiceField* const choice = choiceField(control.field);

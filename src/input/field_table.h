@@ -183,6 +183,9 @@ const ChoiceField* choiceField(Field field);
 std::optional<double> numberOf(const DesignCase& designCase, const TextField& row, int index = 0);
 /// What the options of `brandb` mean: a fire resistance, or a fire load for fire class 2.
 std::span<const std::string_view> fireOptions(int fireClass);
+/// The words of what is chosen in a list or an option group, without the padding of its rows; nothing for a number that
+/// no row has.
+std::optional<std::string> choiceText(Field field, const DesignCase& designCase);
 
 /// What a screen reader says for a control: the boxes of the grid are told apart by span or support. Empty
 /// for a control that its own caption names.

@@ -3,8 +3,8 @@
 #include "tests/engine/support.h"
 
 #include <algorithm>
-#include <iterator>
 #include <gtest/gtest.h>
+#include <iterator>
 
 namespace varno::engine {
 namespace {

@@ -102,7 +102,7 @@ TEST(EngineDamage, NothingInTheFileBringsTheEngineDown) {
     for (int i = 0; i < 4000; ++i) {
         const auto bytes = damage.damaged();
         test::write(input, bytes);
-        const auto code = run(systemFileCalls());
+        const auto code = run(systemFileCalls(), "2026-11-21 20:35");
         ASSERT_TRUE(code == calculated || code == senseless) << code << "\n" << bytes;
         ASSERT_NO_FATAL_FAILURE(expectKeptPromises(code)) << bytes;
         (code == calculated ? good : bad)++;
@@ -120,7 +120,7 @@ TEST(EngineDamage, BytesAtRandomHaveAnExitCode) {
         for (auto& c : bytes)
             c = random() % 3 == 0 ? static_cast<char>(random() % 256) : "0123456789.\r\n"[random() % 13];
         test::write(input, bytes);
-        const auto code = run(systemFileCalls());
+        const auto code = run(systemFileCalls(), "2026-11-21 20:35");
         EXPECT_TRUE(code >= calculated && code <= notWritten);
         EXPECT_NE(code, calculated);
     }
@@ -129,7 +129,7 @@ TEST(EngineDamage, BytesAtRandomHaveAnExitCode) {
 TEST(EngineDamage, AFileMuchTooLargeIsSenseless) {
     const test::WorkFolder folder;
     test::write(input, "HUS1\r\n" + std::string(3 << 20, '\n'));
-    EXPECT_EQ(run(systemFileCalls()), senseless);
+    EXPECT_EQ(run(systemFileCalls(), "2026-11-21 20:35"), senseless);
 }
 
 } // namespace

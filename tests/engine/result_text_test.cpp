@@ -12,9 +12,11 @@ namespace {
 
 const std::string dosLetters = "\x8F\x8E\x99\x86\x84\x94";
 
+constexpr const char* when = "2026-11-21 20:35";
+
 std::string textOf(const test::CaseFile& file) {
     const CaseOnFile c = readCase(file.text());
-    return resultText(c, calculate(c.values));
+    return resultText(c, calculate(c.values), when);
 }
 
 test::CaseValues fullCase(int spans) {
@@ -102,8 +104,8 @@ TEST(EngineResultText, SaysThatItIsASample) {
     const auto shown = test::asShown(text);
     for (const char* part :
          {"Endast ett exempel på en motor", "Ingen dimensionering och ingen kontroll av bärighet",
-          "alla 4 kombinationer", "faktor lambdaG = 1.000", "Linjelaster: alltid, faktor 1.",
-          "Konsol bär samma last som facket intill", "Egentyngd tillkommer inte"})
+          "alla 4 kombinationer", "faktor gammaG = 1.000", "Linjelaster: alltid, faktor 1.",
+          "Konsol bär samma last som facket intill", "utan egentyngd", "Beräknad  2026-11-21 20:35"})
         EXPECT_NE(shown.find(test::windows(part)), std::string::npos) << part;
     const std::string help{helpText()};
     EXPECT_NE(help.find("EXEMPELMOTOR"), std::string::npos);
@@ -119,33 +121,42 @@ TEST(EngineResultText, EchoesTheInputAsPeopleReadIt) {
     v.nllast = 2;
     v.upl = {0, 0.25, 0};
     const auto shown = test::asShown(textOf(test::caseFile(v)));
-    for (const char* line : {"Namn    HUS1",
-                             "Rubrik  Bjalklag over plan 2",
-                             "Lastregler                    1  BKR",
-                             "Säkerhetsklass                2  2",
-                             "Lastkategori                  1  A-Bostäder",
-                             "Lastkombination               3  6.10 a och 6.10 b",
-                             "Partialkoefficienter          lambdaG 1.000  lambdaQ 1.000  ksi 0.890",
+    for (const char* line : {"Namn      HUS1",
+                             "Rubrik    Bjalklag over plan 2",
+                             "Lastregler                    Svenska byggregler (BKR)",
+                             "Säkerhetsklass                2",
+                             "Lastkategori                  A-Bostäder",
+                             "Lastkombination               6.10 a och 6.10 b",
+                             "Partialkoefficienter          gammaG 1.000  gammaQ 1.000  ksi 0.890",
                              "Kombinationsfaktorer          psi0 0.700  psi1 0.500  psi2 0.300",
                              "     1       5.500       0.170            3.000           2.000",
                              "Stöd nr          0     1     2",
                              "bredd (m)    0.000 0.250 0.000",
                              "Konsol (m)  till vänster 1.200, till höger 0.800",
-                             "Antal linjelaster 2",
-                             "     1      1       2.000        10.000",
-                             "     5      2       6.000        -1.000   (används inte)",
-                             "Betongklass                   3  C30/37",
-                             "  stål, diameter              2  fyk 500,  2  8 mm",
-                             "  täckande skikt, avkortning  20 mm,  ja",
-                             "  stål, diameter              2  fyk 500,  3  10 mm",
-                             "  tyngdpunkt från underkant   42 mm",
-                             "Brand                         1  brandteknisk klass,  2  REI 60",
-                             "Undertak                      1  saknas",
-                             "Deformation, laster           1  frekventa laster",
-                             "  nedböjning                  initiell L/400,  tillkommande L/300",
-                             "  Överhöjning                 20 mm",
+                             "Linjelast   fack    avst (m)   last (kN/m)",
+                             "     1         1       2.000        10.000",
+                             "     2         1      -1.200         5.000",
+                             "Betongklass                   C30/37",
+                             "Armering i överkant           fyk 500, diameter 8 mm",
+                             "Täckande BTG-skikt i ÖK       20 mm",
+                             "Avkortning av armering        ja",
+                             "Armering i underkant          fyk 500, diameter 10 mm",
+                             "Avst. tyngdpkt armering i UK  42 mm",
+                             "Beräkningsmetod - Brand       Brandteknisk klass, REI 60",
+                             "Undertak                      Saknas",
+                             "Deformation                   Frekventa laster",
+                             "Initiell nedböjning           L/400",
+                             "Tillkommande nedböjning       L/300",
+                             "Överhöjning                   20 mm",
                              "Reserverat värde              77"})
         EXPECT_TRUE(holdsLine(shown, line)) << line << "\n" << shown;
+    EXPECT_FALSE(holdsLine(shown, "     3         1       5.500         4.000")) << "not in use";
+}
+
+TEST(EngineResultText, WithoutLineLoadsItSaysSo) {
+    const auto shown = test::asShown(textOf(test::caseFile(test::equalSpans(2, 5, 2, 3))));
+    EXPECT_TRUE(holdsLine(shown, "Inga linjelaster"));
+    EXPECT_EQ(shown.find("utan lastfaktor"), std::string::npos);
 }
 
 struct Shown {
@@ -156,28 +167,30 @@ struct Shown {
 
 TEST(EngineResultText, ListNumbersAreShownWithTheirRows) {
     const Shown table[] = {
-        {3, "0", "Lastregler                    0  utan tabellvärden"},
-        {3, "6", "Lastregler                    6  Eurokod"},
-        {3, "2", "Säkerhetsklass                2  RC2"},
-        {3, "3", "Pålitlighetsklass             2  2"},
-        {3, "4", "Säkerhetsklass                2  RC2"},
-        {3, "5", "Konstruktionsklass            2  2"},
-        {3, "6", "Säkerhetsklass                2  RC2"},
-        {9, "0", "Lastkategori                  0  Valfri last"},
-        {9, "9", "Lastkategori                  9  D2"},
-        {17, "4", "  stål, diameter              4  (ej i listan),  2  8 mm"},
-        {11, "1", "Lastkombination               1  6.10 a"},
-        {16, "9", "Betongklass                   9  C60/75"},
-        {16, "10", "Betongklass                   10  (ej i listan)"},
-        {17, "3", "  stål, diameter              3  fyk 600,  2  8 mm"},
-        {18, "5", "  stål, diameter              2  fyk 500,  5  16 mm"},
-        {19, "0", "  täckande skikt, avkortning  20 mm,  nej"},
-        {19, "-1", "  täckande skikt, avkortning  20 mm,  ja"},
-        {21, "1", "  stål, diameter              1  fyk 400,  3  10 mm"},
-        {24, "2", "Brand                         2  brandbelastning,  2  150 MJ/m2"},
-        {25, "4", "Brand                         1  brandteknisk klass,  4  REI 120"},
-        {26, "2", "Undertak                      2  13 gips"},
-        {31, "2", "Deformation, laster           2  karakteristiska laster"},
+        {3, "0", "Lastregler                    inga"},
+        {3, "2", "Lastregler                    Eurokod, Polen"},
+        {3, "6", "Lastregler                    Eurokod, allmänt"},
+        {3, "2", "Säkerhetsklass                RC2"},
+        {3, "3", "Pålitlighetsklass             2"},
+        {3, "4", "Säkerhetsklass                RC2"},
+        {3, "5", "Konstruktionssklasse          2"},
+        {3, "6", "Säkerhetsklass                RC2"},
+        {9, "0", "Lastkategori                  Valfri last"},
+        {9, "9", "Lastkategori                  D2"},
+        {17, "4", "Armering i överkant           fyk nr 4, diameter 8 mm (ej i listan)"},
+        {11, "1", "Lastkombination               6.10 a"},
+        {16, "9", "Betongklass                   C60/75"},
+        {16, "10", "Betongklass                   nr 10 (ej i listan)"},
+        {17, "3", "Armering i överkant           fyk 600, diameter 8 mm"},
+        {18, "5", "Armering i överkant           fyk 500, diameter 16 mm"},
+        {18, "6", "Armering i överkant           fyk 500, diameter nr 6 (ej i listan)"},
+        {19, "0", "Avkortning av armering        nej"},
+        {19, "-1", "Avkortning av armering        ja"},
+        {21, "1", "Armering i underkant          fyk 400, diameter 10 mm"},
+        {24, "2", "Beräkningsmetod - Brand       nr 2 (ej i listan), 150 MJ/m2"},
+        {25, "4", "Beräkningsmetod - Brand       Brandteknisk klass, REI 120"},
+        {26, "2", "Undertak                      13 Gips"},
+        {31, "2", "Deformation                   Karakteristiska laster"},
     };
     for (const auto& row : table) {
         auto file = test::caseFile(test::equalSpans(2, 5, 2, 3));
@@ -210,27 +223,51 @@ TEST(EngineResultText, BlocksThatDoNotFitStartANewPage) {
 TEST(EngineResultText, ShowsTheResultsWithTheirPlaces) {
     // Two spans of 6 m, 3 and 5 kN/m: the values of EngineEnvelope.TwoSpans.
     const auto shown = test::asShown(textOf(test::caseFile(test::equalSpans(2, 6, 3, 5))));
-    for (const char* line :
-         {"     1       6.000        -13.50        -36.00",
-          "     1         24.69     2.484  V = 0            -36.00     6.000  upplag",
-          "     2         24.69     3.516  V = 0            -36.00     0.000  upplag",
-          "     0       0.000         19.88          4.88", "     1       6.000         60.00         22.50"})
+    for (const char* line : {"     0      0.000           0.00       0.00          19.88       4.88",
+                             "     1      6.000         -13.50     -36.00          60.00      22.50",
+                             "     1         24.69     2.484  V = 0            -36.00     6.000  upplag",
+                             "     2         24.69     3.516  V = 0            -36.00     0.000  upplag"})
         EXPECT_TRUE(holdsLine(shown, line)) << line << "\n" << shown;
-    EXPECT_TRUE(holdsLine(shown, "STÖDMOMENT (kNm/m)"));
+    EXPECT_TRUE(holdsLine(shown, "STÖDMOMENT (kNm/m) och UPPLAGSREAKTIONER (kN/m)"));
     EXPECT_TRUE(holdsLine(shown, "FÄLTMOMENT (kNm/m)"));
-    EXPECT_TRUE(holdsLine(shown, "UPPLAGSREAKTIONER (kN/m)"));
+    EXPECT_EQ(shown.find("LYFT"), std::string::npos);
+}
+
+TEST(EngineResultText, UpliftAndLineLoadsWithoutFactorStandBesideTheReactions) {
+    // A short span beside a long one, loaded: the outer support of the short one is lifted.
+    auto v = test::equalSpans(2, 6, 1, 5);
+    v.spv = {2, 8};
+    v.nllast = 1;
+    v.loads = {{2, 4, 10}};
+    const auto shown = test::asShown(textOf(test::caseFile(v)));
+    EXPECT_TRUE(holdsLine(shown, "Linjelasterna ingår utan lastfaktor."));
+    EXPECT_TRUE(holdsLine(shown, "LYFT: reaktionen kan bli negativ; plattan vill lyfta, upplaget tar drag."));
+    std::size_t lifted = 0;
+    for (const auto& line : test::crLfLines(shown + "\r\n"))
+        lifted += line.ends_with("  LYFT");
+    EXPECT_EQ(lifted, 1u) << shown;
+}
+
+TEST(EngineResultText, ACaseOfThreeSpansFitsOnOnePage) {
+    auto v = test::equalSpans(3, 5.5, 3, 2);
+    v.nllast = 1;
+    v.loads = {{2, 2.5, 8.5}};
+    auto file = test::caseFile(v);
+    file.line(32) = "0";
+    EXPECT_EQ(textOf(file).find('^'), std::string::npos);
+    EXPECT_NE(textOf(test::caseFile(fullCase(10))).find('^'), std::string::npos);
 }
 
 TEST(EngineResultText, NameAndTitleAreEchoedByteByByte) {
-    auto v = fullCase(3);
+    auto v = fullCase(10);
     v.name = "H\x99G\xD6";
     v.title = "B\x84rl\xE4gg \x86t H\x94g\xF6 \x8Fs";
     const auto text = textOf(test::caseFile(v));
-    EXPECT_NE(text.find("\r\nRubrik  " + v.title + "\r\n"), std::string::npos);
-    EXPECT_NE(text.find("\r\nNamn    " + v.name + "\r\n"), std::string::npos);
+    EXPECT_NE(text.find("\r\nRubrik    " + v.title + "\r\n"), std::string::npos);
+    EXPECT_NE(text.find("\r\nNamn      " + v.name + "\r\n"), std::string::npos);
     const auto shown = test::asShown(text);
-    EXPECT_TRUE(holdsLine(shown, "Rubrik  Bärlägg åt Högö Ås"));
-    EXPECT_TRUE(holdsLine(shown, "EXEMPELMOTOR varnowb    HÖGÖ"));
+    EXPECT_TRUE(holdsLine(shown, "Rubrik    Bärlägg åt Högö Ås"));
+    EXPECT_TRUE(holdsLine(shown, "EXEMPELMOTOR varnowb    2026-11-21 20:35    HÖGÖ"));
     EXPECT_EQ(shown.find_first_of(dosLetters), std::string::npos);
 }
 
@@ -239,11 +276,11 @@ TEST(EngineResultText, ATitleCannotEndAPageOrBreakALine) {
     v.title = "m^2\t\x0B\x7F" + std::string(200, 'x');
     const auto text = textOf(test::caseFile(v));
     expectGoodPages(text);
-    EXPECT_NE(text.find("\r\nRubrik  m 2   xxx"), std::string::npos);
+    EXPECT_NE(text.find("\r\nRubrik    m 2   xxx"), std::string::npos);
 }
 
 TEST(EngineResultText, ARefusalIsOneLineUnderTheSameHead) {
-    const auto text = refusalText("HUS1", "Rad 6: spännvidd spv(1) = 0.000 m ska vara positiv.");
+    const auto text = refusalText("HUS1", "Rad 6: spännvidd spv(1) = 0.000 m ska vara positiv.", when);
     expectGoodPages(text);
     expectGoodLetters(text);
     EXPECT_TRUE(text.starts_with("EXEMPELMOTOR"));

@@ -18,7 +18,7 @@ constexpr const char* input = "~indata~.tmp";
 TEST(EngineRun, LeavesBothFilesAndNothingElse) {
     const WorkFolder folder;
     test::write(input, test::caseFile(test::equalSpans(3, 5, 2, 3)).text());
-    EXPECT_EQ(run(systemFileCalls()), calculated);
+    EXPECT_EQ(run(systemFileCalls(), "2026-11-21 20:35"), calculated);
     EXPECT_EQ(test::namesInFolder(), (Names{"HUS1.res", "momk.dat", input}));
     EXPECT_TRUE(test::read("momk.dat")->starts_with("3\r\n0.250000\r\n"));
     EXPECT_TRUE(test::read("HUS1.res")->starts_with("EXEMPELMOTOR"));
@@ -32,7 +32,7 @@ TEST(EngineRun, FactorsAndLineLoadsReachTheCurves) {
     v.nllast = 1;
     v.loads = {{1, 2, 10}, {1, 1, 99}};
     test::write(input, test::caseFile(v).text());
-    EXPECT_EQ(run(systemFileCalls()), calculated);
+    EXPECT_EQ(run(systemFileCalls(), "2026-11-21 20:35"), calculated);
     const auto lines = test::crLfLines(*test::read("momk.dat"));
     // Middle of the span: (1.35 2 + 1.5 3) 4^2 / 8 + 10 4 / 4, and without the variable load.
     EXPECT_NE(lines.at(3).find(",24.400000,"), std::string::npos) << lines.at(3);
@@ -44,7 +44,7 @@ TEST(EngineRun, WorksInAFolderWithBlanksAndLetters) {
     auto v = test::equalSpans(2, 5, 2, 3);
     v.name = "H\x99GHUS \xD6 1"; // "HÖGHUS Ö 1" as the front-end writes it
     test::write(input, test::caseFile(v).text());
-    EXPECT_EQ(run(systemFileCalls()), calculated);
+    EXPECT_EQ(run(systemFileCalls(), "2026-11-21 20:35"), calculated);
     EXPECT_EQ(test::namesInFolder(), (Names{"HÖGHUS Ö 1.res", "momk.dat", input}));
 }
 
@@ -53,7 +53,7 @@ TEST(EngineRun, TakesThePlaceOfOlderFiles) {
     test::write(input, test::caseFile(test::equalSpans(1, 5, 2, 3)).text());
     test::write("HUS1.res", std::string(100000, 'x'));
     test::write("momk.dat", std::string(100000, 'x'));
-    EXPECT_EQ(run(systemFileCalls()), calculated);
+    EXPECT_EQ(run(systemFileCalls(), "2026-11-21 20:35"), calculated);
     EXPECT_EQ(test::read("HUS1.res")->find('x' + std::string("xx")), std::string::npos);
     EXPECT_EQ(test::read("momk.dat")->find('x'), std::string::npos);
 }
@@ -64,7 +64,7 @@ TEST(EngineRun, GivesTheSameBytesEveryTimeAndForEveryLineEnd) {
     Names results;
     for (const char* end : {"\r\n", "\n", "\r", "\r\n"}) {
         test::write(input, file.text(end));
-        EXPECT_EQ(run(systemFileCalls()), calculated);
+        EXPECT_EQ(run(systemFileCalls(), "2026-11-21 20:35"), calculated);
         results.push_back(*test::read("HUS1.res") + *test::read("momk.dat"));
         EXPECT_EQ(results.back(), results.front());
     }
@@ -74,10 +74,10 @@ TEST(EngineRun, ASenselessCaseIsToldInTheResultFile) {
     const WorkFolder folder;
     auto file = test::caseFile(test::equalSpans(2, 5, 2, 3));
     test::write(input, file.text());
-    EXPECT_EQ(run(systemFileCalls()), calculated);
+    EXPECT_EQ(run(systemFileCalls(), "2026-11-21 20:35"), calculated);
     file.line(6) = "5.000  0.000";
     test::write(input, file.text());
-    EXPECT_EQ(run(systemFileCalls()), senseless);
+    EXPECT_EQ(run(systemFileCalls(), "2026-11-21 20:35"), senseless);
     EXPECT_EQ(test::namesInFolder(), (Names{"HUS1.res", input})) << "the old moment curves must go";
     const auto shown = test::asShown(*test::read("HUS1.res"));
     EXPECT_NE(shown.find(test::windows("FEL. Rad 6: spännvidd spv(2) = 0.000 m ska vara positiv.")),
@@ -88,7 +88,7 @@ TEST(EngineRun, ASenselessCaseIsToldInTheResultFile) {
 TEST(EngineRun, AFileWithOnlyANameIsSenseless) {
     const WorkFolder folder;
     test::write(input, "HUS1");
-    EXPECT_EQ(run(systemFileCalls()), senseless);
+    EXPECT_EQ(run(systemFileCalls(), "2026-11-21 20:35"), senseless);
     EXPECT_NE(test::read("HUS1.res")->find("rad 2 av 37 saknas"), std::string::npos);
 }
 
@@ -98,7 +98,7 @@ TEST(EngineRun, NumbersBeyondAllReasonAreSenseless) {
         auto file = test::caseFile(test::equalSpans(2, 5, 2, 3));
         file.line(14) = cantilever;
         test::write(input, file.text());
-        EXPECT_EQ(run(systemFileCalls()), senseless) << cantilever;
+        EXPECT_EQ(run(systemFileCalls(), "2026-11-21 20:35"), senseless) << cantilever;
         EXPECT_NE(test::read("HUS1.res")->find("orimligt stora"), std::string::npos);
         EXPECT_FALSE(test::read("momk.dat"));
     }
@@ -106,12 +106,12 @@ TEST(EngineRun, NumbersBeyondAllReasonAreSenseless) {
 
 TEST(EngineRun, WithoutAUsableNameNothingIsWritten) {
     const WorkFolder folder;
-    EXPECT_EQ(run(systemFileCalls()), noCase);
+    EXPECT_EQ(run(systemFileCalls(), "2026-11-21 20:35"), noCase);
     for (const char* start : {"", "\r\n", "  \r\n", "..\\HUS\r\n", "C:HUS\r\n", "NUL\r\n", "a*b\r\n"}) {
         auto rest = test::caseFile(test::equalSpans(1, 5, 2, 3));
         rest.lines.erase(rest.lines.begin());
         test::write(input, *start == '\0' ? "" : start + rest.text());
-        EXPECT_EQ(run(systemFileCalls()), noCase) << start;
+        EXPECT_EQ(run(systemFileCalls(), "2026-11-21 20:35"), noCase) << start;
         EXPECT_EQ(test::namesInFolder(), Names{input}) << start;
     }
 }
@@ -123,7 +123,7 @@ TEST(EngineRun, AFileThatCannotBeReplacedIsReportedAndLeavesNoOther) {
         std::filesystem::create_directory(blocked);
         test::write(std::string{blocked} + "/inside",
                     "x"); // a folder with something in it cannot be replaced
-        EXPECT_EQ(run(systemFileCalls()), notWritten) << blocked;
+        EXPECT_EQ(run(systemFileCalls(), "2026-11-21 20:35"), notWritten) << blocked;
         for (const auto& name : test::namesInFolder())
             EXPECT_FALSE(name.starts_with("~varnowb")) << name;
     }
@@ -136,7 +136,7 @@ TEST(EngineRun, AFileThatCannotBeWrittenIsReportedAndTheOldOnesStay) {
         test::write("HUS1.res", "old");
         test::write("momk.dat", "old");
         std::filesystem::create_directory(blocked);
-        EXPECT_EQ(run(systemFileCalls()), notWritten) << blocked;
+        EXPECT_EQ(run(systemFileCalls(), "2026-11-21 20:35"), notWritten) << blocked;
         EXPECT_EQ(test::read("HUS1.res"), "old");
         EXPECT_EQ(test::read("momk.dat"), "old");
         auto expected = Names{"HUS1.res", "momk.dat", input, blocked};
@@ -153,7 +153,7 @@ TEST(EngineRun, AFullDiskIsReportedAndTheOldFilesStay) {
         test::write("HUS1.res", "old");
         test::write("momk.dat", "old");
         std::filesystem::create_symlink("/dev/full", full);
-        EXPECT_EQ(run(systemFileCalls()), notWritten) << full;
+        EXPECT_EQ(run(systemFileCalls(), "2026-11-21 20:35"), notWritten) << full;
         EXPECT_EQ(test::read("HUS1.res"), "old");
         EXPECT_EQ(test::read("momk.dat"), "old");
         EXPECT_EQ(test::namesInFolder(), (Names{"HUS1.res", "momk.dat", input}));
@@ -185,7 +185,7 @@ TEST(EngineRun, ALongNameIsNotWritten) {
     auto v = test::equalSpans(1, 5, 2, 3);
     v.name = std::string(300, 'n');
     test::write(input, test::caseFile(v).text());
-    EXPECT_EQ(run(systemFileCalls()), notWritten);
+    EXPECT_EQ(run(systemFileCalls(), "2026-11-21 20:35"), notWritten);
 }
 
 } // namespace
