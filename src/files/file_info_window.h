@@ -17,7 +17,7 @@ class FileInfoWindow : public FileChooserWindow, public FileDialogView {
 
     void setCaption(const std::string& caption) override { win32::setText(handle(), caption); }
     std::string name() const override { return win32::textOf(item(idFileName)); }
-    void setName(const std::string& name) override { win32::setText(item(idFileName), name); }
+    void setName(const std::string& name) override { setBoxText(idFileName, name); }
     void selectName() override;
     void setNote(const std::string& note) override { win32::setText(item(idNote), note); }
     void refreshLists() override { showLists(); }

@@ -18,7 +18,7 @@ CaseFormFiller::CaseFormFiller(DesignCase& designCase, FormView& form, MainView&
     : case_(designCase), form_(form), window_(window), boxes_(form, std::move(locale)) {}
 
 void CaseFormFiller::showCase(const std::string& title) {
-    form_.setText({Field::rubrik}, title);
+    boxes_.write({Field::rubrik}, title);
     showRuleSet();
     for (const TextField& row : textFields) {
         // Whatever the rule set: only a switch to the sixth opens them.

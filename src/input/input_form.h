@@ -43,6 +43,11 @@ class InputForm {
 
     /// A text or a list's row is another one than before, whoever set it.
     void changed(Control control);
+    /// A text box takes the focus.
+    void entered(Control control) { context_.boxes().entered(control); }
+    /// What was typed in the box that has the focus, since it has it: whether there is anything, and back.
+    bool isTyped(Control control) const { return context_.boxes().isTyped(control); }
+    void takeBack(Control control) { context_.boxes().takeBack(control); }
     /// A text box or a list loses the focus.
     void lostFocus(Control control);
     /// The user chose: a row of `lokt` or `brandk` (already selected), an option (the index), or the check

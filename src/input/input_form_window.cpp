@@ -102,7 +102,10 @@ void InputFormWindow::onCommand(int id, int notification) {
     const std::string kind = win32::classOf(box);
     if (kind == "Edit") {
         if (notification == EN_CHANGE) rules_->changed(*control);
-        if (notification == EN_SETFOCUS) lastFocused_ = box;
+        if (notification == EN_SETFOCUS) {
+            lastFocused_ = box;
+            rules_->entered(*control);
+        }
         if (notification == EN_KILLFOCUS) rules_->lostFocus(*control);
     } else if (kind == "ComboBox") {
         if (notification == CBN_SETFOCUS) lastFocused_ = box;
@@ -124,6 +127,15 @@ void InputFormWindow::clickButton(Control control, HWND button) {
         // Walking through a group with the arrow keys also tells of the button that is left.
         rules_->clicked(control);
     }
+}
+
+bool InputFormWindow::isTyped(int box) const {
+    const auto control = controlOfId(box);
+    return rules_ != nullptr && control && rules_->isTyped(*control);
+}
+
+void InputFormWindow::takeBack(int box) {
+    if (const auto control = controlOfId(box)) rules_->takeBack(*control);
 }
 
 void InputFormWindow::enter(HWND box) {

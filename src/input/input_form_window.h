@@ -49,6 +49,8 @@ class InputFormWindow : public win32::FormWindow, public FormView {
     LRESULT defaultProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     void onCommand(int id, int notification) override;
     void onCloseBox() override {}
+    bool isTyped(int box) const override;
+    void takeBack(int box) override;
 
   private:
     void clickButton(Control control, HWND button);

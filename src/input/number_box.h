@@ -47,12 +47,28 @@ class NumberBoxes {
     }
     /// The text of a box is another than before, whoever wrote it.
     void changed(Box box) { states_[box].typed = true; }
+    /// Shows a text that is no number.
+    void write(Box box, const std::string& text) { show(box, {}, text); }
     /// A box that takes the focus shows its number without grouping signs: one of them would end the number
     /// once the text is edited.
     void entered(Box box) {
-        const State& state = states_[box];
-        if (!state.typed && state.pattern.find(',') != std::string_view::npos)
+        State& state = states_[box];
+        if (!state.typed && state.pattern.find(',') != std::string_view::npos) {
             display(box, state, {locale_.decimal, ""});
+        } else {
+            state.entered = {view_.text(box), state.typed};
+        }
+    }
+    /// The text is another than when the box took the focus.
+    bool isTyped(Box box) const {
+        const auto state = states_.find(box);
+        return state != states_.end() && state->second.entered.text != view_.text(box);
+    }
+    /// The box is as it was then: a text that had not been typed is not read when it is left.
+    void takeBack(Box box) {
+        const Entered before = states_[box].entered;
+        view_.setText(box, before.text);
+        states_[box].typed = before.typed;
     }
     /// What the user typed goes to `store`. A box that was left alone is rewritten in `pattern`.
     template <typename Store>
@@ -87,15 +103,24 @@ class NumberBoxes {
     }
 
   private:
+    struct Entered {
+        std::string text;
+        bool typed = false;
+    };
     struct State {
         std::optional<double> number;
         std::string_view pattern;
         bool typed = false;
+        Entered entered = {}; ///< as the box took the focus, or was written since
     };
 
     void display(Box box, const State& state, const NumberLocale& locale) {
-        view_.setText(box, state.number ? formatNumber(*state.number, state.pattern, locale) : "");
-        states_[box] = {state.number, state.pattern};
+        show(box, state, state.number ? formatNumber(*state.number, state.pattern, locale) : "");
+    }
+    void show(Box box, const State& state, const std::string& text) {
+        const State shown{state.number, state.pattern, false, {text}};
+        view_.setText(box, text);
+        states_[box] = shown;
     }
 
     View& view_;

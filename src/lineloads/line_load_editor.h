@@ -47,6 +47,9 @@ class LineLoadEditor {
     /// The text of a box is another than before.
     void changed(LineLoadControl box) { boxes_.changed(box); }
     void entered(LineLoadControl box) { boxes_.entered(box); }
+    /// What was typed in the box that has the focus, since it has it: whether there is anything, and back.
+    bool isTyped(LineLoadControl box) const { return boxes_.isTyped(box); }
+    void takeBack(LineLoadControl box) { boxes_.takeBack(box); }
     /// A box of a row is stored. A multiplier is only rewritten: they are not kept.
     void left(LineLoadControl box);
 

@@ -165,6 +165,15 @@ void LineLoadWindow::onBox(LineLoadControl box, int notification) {
     if (notification == EN_KILLFOCUS) rules_->left(box);
 }
 
+bool LineLoadWindow::isTyped(int id) const {
+    const auto box = controlOf(id);
+    return rules_ != nullptr && box && rules_->isTyped(*box);
+}
+
+void LineLoadWindow::takeBack(int id) {
+    if (const auto box = controlOf(id)) rules_->takeBack(*box);
+}
+
 void LineLoadWindow::onCloseBox() {
     if (rules_ != nullptr) rules_->layout();
 }

@@ -25,6 +25,8 @@ class LineLoadWindow : public win32::FormWindow, public LineLoadView {
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void onCommand(int id, int notification) override;
     void onCloseBox() override;
+    bool isTyped(int box) const override;
+    void takeBack(int box) override;
 
   private:
     void onBox(LineLoadControl box, int notification);

@@ -116,6 +116,7 @@ void FormWindow::closeForm() {
 
 void FormWindow::setBoxText(int id, const std::string& text) {
     const HWND box = item(id);
+    entered_[id] = text;
     // Setting a text moves the caret and tells of a change, also when it is the same.
     if (textOf(box) == text) return;
     DWORD start = 0;
@@ -128,6 +129,15 @@ void FormWindow::setBoxText(int id, const std::string& text) {
     const int grown = GetWindowTextLengthW(box) - before;
     const auto moved = [&](DWORD place) { return std::max(0, static_cast<int>(place) + grown); };
     SendMessageW(box, EM_SETSEL, static_cast<WPARAM>(all ? 0 : moved(start)), all ? -1 : moved(end));
+}
+
+bool FormWindow::isTyped(int box) const {
+    const auto entered = entered_.find(box);
+    return entered != entered_.end() && entered->second != textOf(item(box));
+}
+
+void FormWindow::takeBack(int box) {
+    setText(item(box), entered_[box]);
 }
 
 void FormWindow::postReturnTo(int id) {
@@ -152,6 +162,7 @@ void FormWindow::addControls(std::span<const ControlSpec> controls) {
         // Of itself a spin button's range runs from 100 down to 0, and its upper arrow counts down.
         if (spec.kind == ControlKind::spin) SendMessageW(control, UDM_SETRANGE32, 0, 100);
         if (spec.kind == ControlKind::dropDown) passWheelOn(control);
+        if (spec.kind == ControlKind::edit || spec.kind == ControlKind::numberEdit) watchBox(control, *this);
         // A drop-down list's height is that of its open list.
         const int open = spec.kind == ControlKind::dropDown ? raster(220) : 0;
         placed_.push_back({control, {spec.x, spec.y, spec.right(), spec.bottom() + open}});
@@ -230,7 +241,10 @@ void FormWindow::controlTold(HWND control, int notification) {
     Activation& activation = host().activation();
     if (edit || kind == "ComboBox") {
         if (notification == (edit ? EN_KILLFOCUS : CBN_KILLFOCUS) && !activation.leaves(*this, id)) return;
-        if (notification == (edit ? EN_SETFOCUS : CBN_SETFOCUS) && !activation.enters(*this, id)) return;
+        if (notification == (edit ? EN_SETFOCUS : CBN_SETFOCUS)) {
+            if (!activation.enters(*this, id)) return;
+            entered_[id] = textOf(control);
+        }
     }
     if (const auto heard = dropDowns_.heard(control, notification)) onCommand(id, *heard);
 }

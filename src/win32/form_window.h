@@ -1,10 +1,12 @@
 #pragma once
 
+#include <map>
 #include <span>
 #include <string>
 #include <vector>
 
 #include "controls/control_spec.h"
+#include "win32/box_keys.h"
 #include "win32/dpi.h"
 #include "win32/drop_downs.h"
 #include "win32/window.h"
@@ -15,7 +17,7 @@ namespace varno::win32 {
 /// the keyboard focus while another window is active, and draws the symbol labels. Of its controls' events it
 /// hands on those that are the user's doing: a field that lost the focus to another program was not left, and a
 /// list that closes over its own row was not chosen from.
-class FormWindow : public Window, private FieldWindow {
+class FormWindow : public Window, private FieldWindow, private BoxKeys {
   public:
     using Window::Window;
     ~FormWindow() override;
@@ -54,6 +56,9 @@ class FormWindow : public Window, private FieldWindow {
     virtual void onCloseBox() { closeForm(); }
     /// Exchanges the text of a box. The caret of the box with the focus stays where it is from the right end.
     void setBoxText(int id, const std::string& text);
+    // BoxKeys. A window whose rules read its boxes asks them.
+    bool isTyped(int box) const override;
+    void takeBack(int box) override;
     /// Later, when the current event is over, the focus goes back to a box, its text selected.
     void postReturnTo(int id);
     /// Ends a modal run, or hides a modeless window.
@@ -80,6 +85,7 @@ class FormWindow : public Window, private FieldWindow {
     void setFont(HWND control, FontRole role);
 
     std::vector<Placed> placed_;
+    std::map<int, std::string> entered_; ///< the texts of boxes as they got the focus
     UniqueFont fonts_[fontRoles];
     int dpi_ = USER_DEFAULT_SCREEN_DPI;
     DropDowns dropDowns_;

@@ -13,15 +13,19 @@
 
 namespace varno::testing {
 
-/// A form whose focus behaves as a real one's: the field that loses it is left before the call returns.
+/// A form whose focus behaves as a real one's: the field that loses it is left, and the one that gets it entered,
+/// before the call returns.
 class FocusedForm : public FakeForm {
   public:
     void focus(Control control) override {
         const Control before = focused();
         FakeForm::focus(control);
-        if (before != control && onLeave) onLeave(before);
+        if (before == control) return;
+        if (onLeave) onLeave(before);
+        if (onEnter) onEnter(control);
     }
     std::function<void(Control)> onLeave;
+    std::function<void(Control)> onEnter;
 };
 
 /// Counts the refreshes that the rules ask for, and passes them on.
@@ -55,6 +59,7 @@ class InputRig {
           input({designCase, document, form, window, filler, sketch}) {
         form.onChange = [this](Control control) { input.changed(control); };
         form.onLeave = [this](Control control) { input.lostFocus(control); };
+        form.onEnter = [this](Control control) { input.entered(control); };
         presetDesignCase(designCase);
         designCase.nfack = static_cast<std::int16_t>(spans);
         for (int i = 1; i <= spans; ++i) {
