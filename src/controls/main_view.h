@@ -17,8 +17,10 @@ class MainView {
     /// The picture `Flagga` of this number (1 to 6) and no other; 0 shows a neutral picture for a case
     /// without rules.
     virtual void showFlag(int flag) = 0;
-    /// The focus goes to the flag, which Tab leads to from either end of the form.
+    /// The focus goes to the flag, which Tab leads to from the end of the form, or to the load picture behind it, which
+    /// lies before the form's begin.
     virtual void focusFlag() = 0;
+    virtual void focusLoadPicture() = 0;
 };
 
 /// The hourglass for as long as it lives, however the command ends.

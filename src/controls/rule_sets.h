@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
 #include <type_traits>
 
 #include "controls/field.h"
@@ -57,6 +58,14 @@ constexpr const RuleSet* ruleSetWith(Value RuleSet::*column, std::type_identity_
 constexpr const char* flagName(int flag) {
     const RuleSet* const rules = ruleSetWith(&RuleSet::flag, flag);
     return rules == nullptr ? "Inget regelverk valt" : rules->name;
+}
+
+/// What a click on a flag does: each leads to the next, and the last to the first.
+inline std::string flagTip(int flag) {
+    const RuleSet* const next = ruleSetWith(&RuleSet::flag, flag + 1);
+    return std::string(flagName(flag)) + "\nEtt klick byter till " +
+           (next == nullptr ? ruleSets.front().name : next->name) +
+           ".\nHögerklick: byt till svenska byggregler (BKR).";
 }
 
 /// The caption of the frame around the loads.

@@ -17,12 +17,12 @@ constexpr std::array caseLists{Field::lokt, Field::btg, Field::aok, Field::auk};
 CaseFormFiller::CaseFormFiller(DesignCase& designCase, FormView& form, MainView& window, NumberLocale locale)
     : case_(designCase), form_(form), window_(window), boxes_(form, std::move(locale)) {}
 
-void CaseFormFiller::showCase(const std::string& title) {
+void CaseFormFiller::showCase(const std::string& title, bool factorsOpen) {
     boxes_.write({Field::rubrik}, title);
     showRuleSet();
+    openFactors(factorsOpen);
+    form_.setEnabled({Field::psi2}, false);
     for (const TextField& row : textFields) {
-        // Whatever the rule set: only a switch to the sixth opens them.
-        if (row.isFactor()) form_.setEnabled({row.field}, false);
         if (!row.isPerSpan()) showNumber(row);
     }
     boxes_.put({Field::nfack}, case_.nfack, "#0");
@@ -71,6 +71,12 @@ void CaseFormFiller::showFactors() {
     for (const TextField& row : textFields) {
         if (row.isFactor()) showNumber(row);
     }
+}
+
+void CaseFormFiller::openFactors(bool open) {
+    factorsOpen_ = open;
+    for (const Field factor : {Field::lambdaG, Field::ksi, Field::lambdaQ, Field::psi0, Field::psi1})
+        form_.setEnabled({factor}, open);
 }
 
 void CaseFormFiller::showCaseFields() {

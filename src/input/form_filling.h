@@ -19,8 +19,9 @@ class CaseFormFiller {
 
     FormBoxes& boxes() { return boxes_; }
 
-    /// Shows the whole record and its title, every list filled anew.
-    void showCase(const std::string& title);
+    /// Shows the whole record and its title, every list filled anew. The factors can be typed only where a switch to
+    /// rule set 6 has opened them.
+    void showCase(const std::string& title, bool factorsOpen = false);
 
     /// Writes the per-span and per-support fields from the record: support 0 first, then spans 1..nfack.
     void showCaseFields();
@@ -33,6 +34,9 @@ class CaseFormFiller {
     void showFactors();
     /// The flag of the rule set, its classes with the chosen one, its factors, and the caption of the load frame.
     void showRuleSet();
+    /// Opens the factors for typing, or locks them. psi2 is not among them: it keeps whatever state it has.
+    void openFactors(bool open);
+    bool factorsOpen() const { return factorsOpen_; }
     /// The captions of the fire options, which depend on the fire class; the fourth is offered for class 2
     /// only.
     void showFireOptions();
@@ -47,6 +51,7 @@ class CaseFormFiller {
     FormView& form_;
     MainView& window_;
     FormBoxes boxes_;
+    bool factorsOpen_ = false;
 };
 
 } // namespace varno

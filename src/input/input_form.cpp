@@ -22,7 +22,8 @@ void InputForm::titleChanged() {
 }
 
 void InputForm::lostFocus(Control control) {
-    if (control.field == Field::rubrik) context_.form.hideHint();
+    const Edit edit(context_.steps);
+    context_.form.hideHint();
     if (const TextField* row = textField(control.field)) {
         if (row->onLeaving == OnLeaving::marks) context_.document.dataChanged = true;
         aboutField(accessibleName(control), [&] { leaveNumber(*row, control.index); });
@@ -76,7 +77,16 @@ void InputForm::storeRow(const ChoiceField& row) {
     stored = static_cast<std::int16_t>(selected + row.firstNumber);
 }
 
+void InputForm::tabbedOut(bool backwards) {
+    if (backwards) {
+        context_.window.focusLoadPicture();
+    } else {
+        context_.window.focusFlag();
+    }
+}
+
 void InputForm::clicked(Control control) {
+    const Edit edit(context_.steps);
     if (const RuleSet* rules = ruleSetWith(&RuleSet::classGroup, control.field)) {
         classClicked(*rules, control.index);
     } else if (control.field == Field::lokt) {

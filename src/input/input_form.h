@@ -2,8 +2,10 @@
 
 #include "controls/main_view.h"
 #include "controls/rule_sets.h"
+#include "input/edit_steps.h"
 #include "input/form_filling.h"
 #include "input/form_view.h"
+#include "input/grid_clipboard.h"
 #include "input/sketch_refresh.h"
 #include "model/design_case.h"
 
@@ -17,6 +19,7 @@ struct InputContext {
     MainView& window;
     CaseFormFiller& filler;
     SketchRefresh& sketch;
+    EditSteps& steps;
 
     FormBoxes& boxes() const { return filler.boxes(); }
     /// There is something to save, and the last moment curve no longer fits the input.
@@ -55,6 +58,13 @@ class InputForm {
     void clicked(Control control);
     void spinUp();
     void spinDown();
+    /// A text is pasted into a box. Numbers copied in a spreadsheet go into the cells of the grid from there on, each as
+    /// if it had been typed and left, so the last of a row is carried forward. An empty cell leaves the one of the grid as
+    /// it is; further rows go into the rows below; locked cells take nothing. False for a single number, which is for the
+    /// box itself, and outside the grid. \throws RunTimeError 6 for a number that cannot be stored: those before it are.
+    bool pasted(Control control, const std::string& text);
+    /// The row from a cell on, as shown; nothing outside the grid.
+    std::optional<std::string> copied(Control control) const;
     /// A click on the visible flag of the main window, 1..6: goes on to the rule set that follows. The neutral
     /// picture of a case without rules (0) leads to the Swedish ones, as flag 6 does.
     void flagClicked(int flag);
@@ -62,7 +72,7 @@ class InputForm {
     /// The form became the active window, or was clicked beside all controls.
     void focusTitle() { context_.form.focus({Field::rubrik}); }
     /// Tab went past the last control, or before the first.
-    void tabbedOut() { context_.window.focusFlag(); }
+    void tabbedOut(bool backwards);
 
   private:
     void titleChanged();
@@ -79,11 +89,19 @@ class InputForm {
     void leaveSupport(const TextField& row, int support);
     /// The length is stored as typed, not as shown.
     void leaveCantilever(const TextField& row);
-    void leaveCell(const TextField& row, int index, int last);
+    /// The last of a row's cells that can be typed into; the first is 1.
+    int lastCell(const TextField& row) const;
+    /// What was typed in a cell is stored and carried forward, and nothing drawn. True when it is another number.
+    bool storeCell(const TextField& row, int index);
     int spanCount() const;
     int countFrom(double wanted) const;
     void enterCount(double wanted, int lastCleared);
     void redraw(Redraws what);
+
+    // Rows from a spreadsheet: grid_clipboard.cpp.
+    int openCells(const TextField& row) const;
+    bool fillCell(Control cell, const std::string& number, Redraws& drawn);
+    bool fillRows(Control from, const ClipboardRows& rows, Redraws& drawn);
 
     // The rule set, its class, and the load category: load_rules.cpp.
     void enterRuleSet(const RuleSet& rules);

@@ -26,12 +26,28 @@ void InputFormWindow::create(HWND mdiClient) {
     setDpi(win32::dpiOf(mdiClient));
     addControls(inputFormLayout());
     SendMessageW(item(controlId({Field::rubrik})), EM_SETLIMITTEXT, 255, 0);
+    win32::nameForScreenReaders(handle(), "Indata");
     for (const ControlSpec& spec : inputFormLayout()) {
         const auto known = controlOfId(spec.id);
         const std::string name = known ? accessibleName(*known) : std::string();
-        if (!name.empty()) win32::nameForScreenReaders(item(spec.id), name);
+        if (!name.empty()) this->name(spec.id, spec.kind, name);
     }
+    nameSymbols();
     layOut();
+}
+
+// A letter does not tell its name; the field behind it does.
+void InputFormWindow::nameSymbols() {
+    const std::vector<ControlSpec> controls = inputFormLayout();
+    HWND window = GetWindow(handle(), GW_CHILD);
+    for (std::size_t i = 0; i + 1 < controls.size(); ++i, window = GetWindow(window, GW_HWNDNEXT)) {
+        const auto field = controlOfId(controls[i + 1].id);
+        if (controls[i].kind != ControlKind::symbolLabel || !field) continue;
+        // Without this style the pointer falls through it onto the form.
+        SetWindowLongPtrW(window, GWL_STYLE, GetWindowLongPtrW(window, GWL_STYLE) | SS_NOTIFY);
+        tips_.add(window, accessibleName(*field));
+        tips_.add(this->window(*field), accessibleName(*field));
+    }
 }
 
 void InputFormWindow::changeDpi(int dpi) {
@@ -39,11 +55,23 @@ void InputFormWindow::changeDpi(int dpi) {
     layOut();
 }
 
+// A control that goes or is locked does not keep the keyboard to itself.
+void InputFormWindow::keepFocusOff(HWND box) {
+    if (GetFocus() == box) focus({Field::rubrik});
+}
+
 void InputFormWindow::setVisible(Control control, bool visible) {
+    if (!visible) keepFocusOff(window(control));
     ShowWindow(window(control), visible ? SW_SHOWNA : SW_HIDE);
+    if (control.field == Field::brandb) keepReachable(control.field);
     // The number above a column comes and goes with it.
     if (control.field == Field::spv)
         ShowWindow(item(spanHeadId(control.index)), visible ? SW_SHOWNA : SW_HIDE);
+}
+
+void InputFormWindow::setEnabled(Control control, bool enabled) {
+    if (!enabled) keepFocusOff(window(control));
+    EnableWindow(window(control), enabled);
 }
 
 void InputFormWindow::setCaption(Control control, const std::string& caption) {
@@ -71,6 +99,29 @@ void InputFormWindow::selectOption(Field group, int option) {
         if (button != nullptr)
             SendMessageW(button, BM_SETCHECK, i == option ? BST_CHECKED : BST_UNCHECKED, 0);
     }
+    keepReachable(group);
+}
+
+int InputFormWindow::chosenOption(Field group) const {
+    for (int i = 1; i <= mostOptions; ++i) {
+        const HWND button = window({group, i});
+        if (button != nullptr && SendMessageW(button, BM_GETCHECK, 0, 0) == BST_CHECKED) return i;
+    }
+    return 0;
+}
+
+// Tab comes to the chosen option of a group, and Windows lets it come to no other. Where none is chosen, or one that is
+// hidden, it comes to the first.
+void InputFormWindow::keepReachable(Field group) {
+    const HWND chosen = window({group, chosenOption(group)});
+    const bool seen = chosen != nullptr && (GetWindowLongPtrW(chosen, GWL_STYLE) & WS_VISIBLE) != 0;
+    for (int i = 1; i <= mostOptions; ++i) {
+        const HWND button = window({group, i});
+        if (button == nullptr) continue;
+        const bool stop = seen ? button == chosen : i == 1;
+        const LONG_PTR style = GetWindowLongPtrW(button, GWL_STYLE);
+        SetWindowLongPtrW(button, GWL_STYLE, stop ? style | WS_TABSTOP : style & ~LONG_PTR{WS_TABSTOP});
+    }
 }
 
 void InputFormWindow::showGroup(Field group, bool visible) {
@@ -80,6 +131,7 @@ void InputFormWindow::showGroup(Field group, bool visible) {
         const HWND button = window({group, i});
         if (button != nullptr) ShowWindow(button, visible ? SW_SHOWNA : SW_HIDE);
     }
+    keepReachable(group);
 }
 
 void InputFormWindow::setChecked(Field box, bool checked) {
@@ -97,7 +149,9 @@ LRESULT InputFormWindow::defaultProc(UINT message, WPARAM wParam, LPARAM lParam)
 
 void InputFormWindow::onCommand(int id, int notification) {
     const auto control = controlOfId(id);
-    if (!control || rules_ == nullptr) return;
+    if (rules_ == nullptr) return;
+    if (id == idFormLabel && notification == STN_CLICKED) rules_->focusTitle();
+    if (!control) return;
     const HWND box = item(id);
     const std::string kind = win32::classOf(box);
     if (kind == "Edit") {
@@ -121,10 +175,13 @@ void InputFormWindow::onCommand(int id, int notification) {
 
 void InputFormWindow::clickButton(Control control, HWND button) {
     const auto state = static_cast<int>(SendMessageW(button, BM_GETCHECK, 0, 0));
+    // An option chooses itself when it gets the focus; passing it with Tab is no choice.
+    if (button == entering_) return;
     if (control.field == Field::kavko) {
         rules_->clicked({control.field, state});
     } else if (state == BST_CHECKED) {
         // Walking through a group with the arrow keys also tells of the button that is left.
+        keepReachable(control.field);
         rules_->clicked(control);
     }
 }
@@ -138,8 +195,30 @@ void InputFormWindow::takeBack(int box) {
     if (const auto control = controlOfId(box)) rules_->takeBack(*control);
 }
 
+bool InputFormWindow::pasted(int box, const std::string& text) {
+    const auto control = controlOfId(box);
+    bool taken = false;
+    if (rules_ != nullptr && control) {
+        // A refused number is told; it is not for the box to paste then.
+        taken = true;
+        host().guarded([&] { taken = rules_->pasted(*control, text); });
+    }
+    return taken;
+}
+
+std::optional<std::string> InputFormWindow::copied(int box) const {
+    const auto control = controlOfId(box);
+    return rules_ != nullptr && control ? rules_->copied(*control) : std::nullopt;
+}
+
 void InputFormWindow::enter(HWND box) {
+    const auto known = controlOfId(GetDlgCtrlID(box));
+    const bool option = known && (SendMessageW(box, WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON) != 0;
+    const int chosen = option ? chosenOption(known->field) : 0;
+    entering_ = box;
     SetFocus(box);
+    entering_ = nullptr;
+    if (option && chosenOption(known->field) != chosen) selectOption(known->field, chosen);
     // As Windows does for Tab: what is typed next replaces what is there.
     if ((SendMessageW(box, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0) SendMessageW(box, EM_SETSEL, 0, -1);
 }
@@ -153,7 +232,7 @@ bool InputFormWindow::moveOn(HWND from, bool backwards) {
     const HWND first = GetNextDlgTabItem(handle(), nullptr, FALSE);
     const HWND next = GetNextDlgTabItem(handle(), from, backwards);
     if (backwards ? from == first : next == first) {
-        rules_->tabbedOut();
+        rules_->tabbedOut(backwards);
     } else {
         enter(next);
     }

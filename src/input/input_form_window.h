@@ -1,11 +1,15 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "controls/control_ids.h"
 #include "input/form_layout.h"
 #include "input/input_form.h"
 #include "win32/balloon.h"
 #include "win32/form_window.h"
 #include "win32/strings.h"
+#include "win32/tips.h"
 
 namespace varno {
 
@@ -31,7 +35,7 @@ class InputFormWindow : public win32::FormWindow, public FormView {
     std::string text(Control control) const override { return win32::textOf(window(control)); }
     void setText(Control control, const std::string& text) override { setBoxText(controlId(control), text); }
     void setVisible(Control control, bool visible) override;
-    void setEnabled(Control control, bool enabled) override { EnableWindow(window(control), enabled); }
+    void setEnabled(Control control, bool enabled) override;
     void setCaption(Control control, const std::string& caption) override;
     void showRows(Field list, std::span<const std::string_view> rows, int selected) override;
     int selectedRow(Field list) const override;
@@ -51,17 +55,25 @@ class InputFormWindow : public win32::FormWindow, public FormView {
     void onCloseBox() override {}
     bool isTyped(int box) const override;
     void takeBack(int box) override;
+    bool pasted(int box, const std::string& text) override;
+    std::optional<std::string> copied(int box) const override;
 
   private:
+    void nameSymbols();
+    void keepFocusOff(HWND control);
+    int chosenOption(Field group) const;
+    void keepReachable(Field group);
     void clickButton(Control control, HWND button);
     bool moveOn(HWND from, bool backwards);
     bool moveInColumn(Control from, int rows);
-    static void enter(HWND box);
+    void enter(HWND box);
     HWND window(Control control) const { return item(controlId(control)); }
 
     InputForm* rules_ = nullptr;
     HWND lastFocused_ = nullptr;
+    HWND entering_ = nullptr; ///< gets the focus from Tab just now
     win32::Balloon hint_;
+    win32::Tips tips_;
 };
 
 } // namespace varno

@@ -17,6 +17,7 @@ const RuleSet& ruleSetOfFlag(int flag) {
 } // namespace
 
 void InputForm::flagClicked(int flag) {
+    const Edit edit(context_.steps);
     const RuleSet& next = ruleSetOfFlag(flag + 1);
     if (next.number == swedishRules) {
         switchToSwedishRules();
@@ -36,10 +37,7 @@ void InputForm::enterRuleSet(const RuleSet& rules) {
     static_cast<void>(designCase.psi0(rules.number, designCase.lokt));
     designCase.loadCode = static_cast<std::int16_t>(rules.number);
 
-    // psi2 is not among them: it keeps whatever state it has.
-    for (const Field factor : {Field::lambdaG, Field::ksi, Field::lambdaQ, Field::psi0, Field::psi1}) {
-        context_.form.setEnabled({factor}, rules.number == editableRules);
-    }
+    context_.filler.openFactors(rules.number == editableRules);
     // Sets whose clicks are not kept as their own choice start from the first class each time.
     std::int16_t& chosen = designCase.safetyClass(rules.number);
     if (rules.classWritten != rules.number) {
@@ -51,6 +49,7 @@ void InputForm::enterRuleSet(const RuleSet& rules) {
 }
 
 void InputForm::switchToSwedishRules() {
+    const Edit edit(context_.steps);
     enterRuleSet(ruleSets.front());
     context_.filler.fillCaseLists();
 }

@@ -24,21 +24,27 @@ void InputForm::redraw(Redraws what) {
 }
 
 void InputForm::leaveSpanCell(const TextField& row, int span) {
-    if (span >= 1) leaveCell(row, span, spanCount());
+    if (span >= 1 && storeCell(row, span)) redraw(row.redraws);
 }
 
 void InputForm::leaveSupport(const TextField& row, int support) {
     const int count = spanCount();
     if (support > 0 && support < count) {
-        leaveCell(row, support, count - 1);
+        storeCell(row, support);
     } else if (support == 0 || support == count) {
         context_.designCase.upl(support) = 0;
         context_.boxes().put({row.field, support}, 0.0, row.pattern);
     }
 }
 
-void InputForm::leaveCell(const TextField& row, int index, int last) {
-    if (index > last) return;
+int InputForm::lastCell(const TextField& row) const {
+    return row.field == Field::upl ? spanCount() - 1 : spanCount();
+}
+
+bool InputForm::storeCell(const TextField& row, int index) {
+    const int last = lastCell(row);
+    if (index > last) return false;
+    bool another = false;
     SpanArray& values = context_.designCase.*std::get<SpanArray DesignCase::*>(row.place);
     const Control cell{row.field, index};
     context_.boxes().leave(cell, row.pattern, [&](double typed) {
@@ -52,8 +58,9 @@ void InputForm::leaveCell(const TextField& row, int index, int last) {
             values(k) = stored;
             if (k <= maxSpans) context_.boxes().put({row.field, k}, number, row.pattern);
         }
-        redraw(row.redraws);
+        another = true;
     });
+    return another;
 }
 
 void InputForm::leaveCantilever(const TextField& row) {
@@ -68,12 +75,14 @@ void InputForm::leaveCantilever(const TextField& row) {
 }
 
 void InputForm::spinUp() {
+    const Edit edit(context_.steps);
     const std::string text = context_.form.text(countBox);
     if (VARNO1::parseNumber(text) >= maxSpans) return;
     enterCount(VARNO1::plainNumber(text) + 1, maxSpans);
 }
 
 void InputForm::spinDown() {
+    const Edit edit(context_.steps);
     const std::string text = context_.form.text(countBox);
     if (!(VARNO1::parseNumber(text) > 1)) return;
     enterCount(VARNO1::plainNumber(text) - 1, context_.designCase.nfack);

@@ -47,6 +47,23 @@ void LineLoadEditor::backgroundClicked() {
     if (visible_(1)) context_.view.focus({LineLoadBox::llfnr, 1});
 }
 
+void LineLoadEditor::arrow(LineLoadControl box, int rows) {
+    if (box == countBox) {
+        if (rows < 0) {
+            spinUp();
+        } else {
+            spinDown();
+        }
+        context_.view.enter(countBox);
+        return;
+    }
+    const LineLoadControl next{box.box, box.index + rows};
+    const bool multiplier = box.box == LineLoadBox::multiplier;
+    const int last = multiplier ? static_cast<int>(multiplierBoxes.size()) : maxLineLoads;
+    if (next.index < 1 || next.index > last || (!multiplier && !visible_(next.index))) return;
+    context_.view.enter(next);
+}
+
 void LineLoadEditor::showRecord() {
     boxes_.put(countBox, count(), wholePattern);
     // A damaged file can hold any count. What the arrays hold is shown; the sketch tells of the rest.
@@ -70,6 +87,7 @@ void LineLoadEditor::showRows(int last) {
 }
 
 void LineLoadEditor::left(LineLoadControl box) {
+    const Edit edit(context_.steps);
     DesignCase& designCase = context_.designCase;
     // An error names the box.
     aboutField(accessibleName(box), [&] {
@@ -122,6 +140,7 @@ int LineLoadEditor::countFrom(double wanted) const {
 }
 
 void LineLoadEditor::enterCount(double typed) {
+    const Edit edit(context_.steps);
     int wanted = 0;
     aboutField(accessibleName(countBox),
                [&] { boxes_.attempt(countBox, [&] { wanted = countFrom(typed); }); });

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/main_view.h"
+#include "input/edit_steps.h"
 #include "input/form_view.h"
 #include "input/number_box.h"
 #include "input/sketch_refresh.h"
@@ -17,6 +18,7 @@ struct LineLoadContext {
     SketchRefresh& sketch;
     FormView& form;
     LineLoadView& view;
+    EditSteps& steps;
 };
 
 /// The rules of both line load editors. The window forwards its events and shows what it is told.
@@ -56,6 +58,8 @@ class LineLoadEditor {
     void spinUp() { spin(1); }
     void spinDown() { spin(-1); }
     void backgroundClicked();
+    /// The arrow keys up (-1) and down (1): in the count they step it, elsewhere they stay in the column.
+    void arrow(LineLoadControl box, int rows);
 
   private:
     using Rows = BoundedArray<bool, 1, maxLineLoads>;

@@ -31,6 +31,8 @@ class LineLoadView {
     /// The three boxes of a row 1..5.
     virtual void setRowVisible(int row, bool visible) = 0;
     virtual void focus(LineLoadControl control) = 0;
+    /// The focus comes to a box from the keyboard, its text selected.
+    virtual void enter(LineLoadControl control) = 0;
     /// The focus goes back to a box, its text selected, once the event is over.
     virtual void returnTo(LineLoadControl control) = 0;
     /// Shows the window, in front when it is shown already. Texts and rows are set before.

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "controls/control_ids.h"
-#include "win32/accessible_names.h"
 #include "win32/strings.h"
 
 namespace varno {
@@ -105,8 +104,9 @@ LineLoadWindow::LineLoadWindow(win32::WindowHost& host, HWND owner, const LineLo
     addControls(form.controls);
     for (const ControlSpec& control : form.controls) {
         if (const auto box = controlOf(control.id))
-            win32::nameForScreenReaders(item(control.id), accessibleName(*box));
+            name(control.id, ControlKind::numberEdit, accessibleName(*box));
     }
+    name(idLineLoadSpin, ControlKind::spin, accessibleName({LineLoadBox::nllast}));
 }
 
 std::string LineLoadWindow::text(LineLoadControl control) const {
@@ -118,12 +118,21 @@ void LineLoadWindow::setText(LineLoadControl control, const std::string& text) {
 }
 
 void LineLoadWindow::setRowVisible(int row, bool visible) {
-    for (const LineLoadBox box : rowBoxes)
-        ShowWindow(item(idOf({box, row})), visible ? SW_SHOWNA : SW_HIDE);
+    for (const LineLoadBox box : rowBoxes) {
+        const HWND window = item(idOf({box, row}));
+        // A box that goes does not keep the keyboard to itself.
+        if (!visible && GetFocus() == window) focus({LineLoadBox::nllast});
+        ShowWindow(window, visible ? SW_SHOWNA : SW_HIDE);
+    }
 }
 
 void LineLoadWindow::focus(LineLoadControl control) {
     SetFocus(item(idOf(control)));
+}
+
+void LineLoadWindow::enter(LineLoadControl control) {
+    focus(control);
+    SendMessageW(item(idOf(control)), EM_SETSEL, 0, -1);
 }
 
 void LineLoadWindow::returnTo(LineLoadControl control) {
@@ -172,6 +181,13 @@ bool LineLoadWindow::isTyped(int id) const {
 
 void LineLoadWindow::takeBack(int id) {
     if (const auto box = controlOf(id)) rules_->takeBack(*box);
+}
+
+bool LineLoadWindow::arrow(int id, int rows) {
+    const auto box = controlOf(id);
+    if (rules_ == nullptr || !box) return false;
+    host().guarded([&] { rules_->arrow(*box, rows); });
+    return true;
 }
 
 void LineLoadWindow::onCloseBox() {

@@ -17,6 +17,7 @@ class LineLoadWindow : public win32::FormWindow, public LineLoadView {
     void setText(LineLoadControl control, const std::string& text) override;
     void setRowVisible(int row, bool visible) override;
     void focus(LineLoadControl control) override;
+    void enter(LineLoadControl control) override;
     void returnTo(LineLoadControl control) override;
     void show() override;
     void close() override { closeForm(); }
@@ -27,6 +28,7 @@ class LineLoadWindow : public win32::FormWindow, public LineLoadView {
     void onCloseBox() override;
     bool isTyped(int box) const override;
     void takeBack(int box) override;
+    bool arrow(int box, int rows) override;
 
   private:
     void onBox(LineLoadControl box, int notification);

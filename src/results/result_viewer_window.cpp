@@ -35,6 +35,7 @@ HMENU viewerMenu() {
 ResultViewerWindow::ResultViewerWindow(win32::WindowHost& host, HWND owner) : FormWindow(host) {
     create(L"VarnoForm6", "Utdata", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, 0, owner, viewerMenu(), {});
     addControls(controls);
+    name(idFileTextBox, ControlKind::memo, "Resultat");
     makeFont();
 }
 

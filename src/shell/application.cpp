@@ -22,12 +22,14 @@ Application::Application()
     : locale_(win32::userNumberLocale()), files_(systemFileCalls(), boxes_), fileInfo_(*this),
       fileDialog_(folders_, boxes_, fileInfo_), leftovers_(folders_, systemFileCalls()),
       main_(*this, picture_), form_(*this),
-      sketch_(case_, picture_.loadPicture, picture_.slabStrip, picture_, [this] { main_.sketchChanged(); }),
-      filler_(case_, form_, main_, locale_), input_({case_, state_, form_, main_, filler_, sketch_}),
+      sketch_(case_, picture_.loadPicture, picture_.slabStrip, picture_, [this] { sketchChanged(); }),
+      filler_(case_, form_, main_, locale_), steps_(case_, state_, form_, main_, filler_, *this),
+      input_({case_, state_, form_, main_, filler_, sketch_, steps_}),
       document_(case_, state_, filler_, form_, main_, files_, fileDialog_, boxes_, *this),
       printing_(files_, boxes_, main_, printer_, fileDialog_), diagram_(case_, sketch_) {
     main_.listen(*this);
     form_.create(main_.mdiClient());
+    tips_.create(main_.handle());
     helpSystem_.setOwner(main_.handle());
     fileInfo_.create(main_.handle());
     fileInfo_.listen(fileDialog_);
@@ -71,12 +73,12 @@ void Application::report(const RunTimeError& error) {
 }
 
 bool Application::translate(MSG& message) {
-    if (translateHelpKey(message)) return true;
+    if (translateHelpKey(message) || translateStepKey(message)) return true;
     const HWND root = GetAncestor(message.hwnd, GA_ROOT);
     if (root != main_.handle()) return root != nullptr && IsDialogMessageW(root, &message);
     if (TranslateMDISysAccel(main_.mdiClient(), &message)) return true;
     const bool inForm = message.hwnd == form_.handle() || IsChild(form_.handle(), message.hwnd);
-    if (!inForm) return translateFlagKey(message);
+    if (!inForm) return translateKeyBeside(message);
     bool taken = true;
     guarded([&] { taken = form_.translateKey(message); });
     return taken || IsDialogMessageW(form_.handle(), &message);
@@ -91,14 +93,46 @@ bool Application::translateHelpKey(const MSG& message) {
     return true;
 }
 
-// The flag stands beside the form: Tab leads there from its end, and back into it; Enter presses it.
-bool Application::translateFlagKey(const MSG& message) {
-    if (message.message != WM_KEYDOWN || message.hwnd != main_.flagButton()) return false;
+// The windows that the case is edited in.
+win32::FormWindow* Application::editedIn(HWND root) {
+    if (root == main_.handle()) return &form_;
+    for (LineLoads* const editor : {lineLoads_.get(), freeLoads_.get()}) {
+        if (editor != nullptr && editor->window.handle() == root) return &editor->window;
+    }
+    return nullptr;
+}
+
+// Ctrl+Z and Ctrl+Y. In a box that is being typed in they are the box's own.
+bool Application::translateStepKey(const MSG& message) {
+    const bool back = message.wParam == 'Z';
+    if (message.message != WM_KEYDOWN || (!back && message.wParam != 'Y')) return false;
+    if (GetKeyState(VK_CONTROL) >= 0 || GetKeyState(VK_MENU) < 0 || GetKeyState(VK_SHIFT) < 0) return false;
+    win32::FormWindow* const window = editedIn(GetAncestor(message.hwnd, GA_ROOT));
+    if (window == nullptr || window->typing()) return false;
+    guarded([&] {
+        // A row chosen in a list that was not left yet is the last edit.
+        window->takeOver();
+        back ? steps_.back() : steps_.forward();
+    });
+    return true;
+}
+
+// Beside the form stand the flag, which Tab leads to from its end, and behind it the load picture, with the menu of the
+// free line loads. Enter presses the flag.
+bool Application::translateKeyBeside(const MSG& message) {
+    if (message.message != WM_KEYDOWN) return false;
     if (message.wParam == VK_TAB) {
-        form_.focusEnd(GetKeyState(VK_SHIFT) < 0);
+        const bool backwards = GetKeyState(VK_SHIFT) < 0;
+        if (message.hwnd == main_.flagButton() && !backwards) {
+            main_.focusLoadPicture();
+        } else if (message.hwnd == main_.loadPicture() && backwards) {
+            main_.focusFlag();
+        } else {
+            form_.focusEnd(backwards);
+        }
         return true;
     }
-    if (message.wParam != VK_RETURN) return false;
+    if (message.wParam != VK_RETURN || message.hwnd != main_.flagButton()) return false;
     SendMessageW(message.hwnd, BM_CLICK, 0, 0);
     return true;
 }
@@ -191,7 +225,13 @@ bool Application::closing() {
     return ended_;
 }
 
+void Application::sketchChanged() {
+    main_.sketchChanged();
+    tips_.showSketch(sketchTips(case_, sketch_, locale_));
+}
+
 void Application::clientResized(int width, int height) {
+    tips_.placeAgain();
     if (!form_.exists()) return;
     // A window too small for the form scrolls it; a larger one gives it the room.
     const SIZE natural = form_.naturalSize();
@@ -252,6 +292,11 @@ void Application::openLineLoads(std::unique_ptr<LineLoads>& editor, const LineLo
 // Document
 
 void Application::caseOpened() {
+    steps_.start();
+    showBeside();
+}
+
+void Application::showBeside() {
     if (lineLoads_) lineLoads_->rules.caseRead();
     if (freeLoads_) freeLoads_->rules.caseRead();
     sketch_.fullRefresh();

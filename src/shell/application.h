@@ -18,6 +18,7 @@
 #include "results/result_printing.h"
 #include "results/result_viewer_window.h"
 #include "shell/document.h"
+#include "shell/main_tips.h"
 #include "shell/main_window.h"
 #include "shell/prompt_window.h"
 #include "shell/rescue_window.h"
@@ -31,7 +32,11 @@ namespace varno {
 
 /// The program: owns the one design case, the document state, the settings and every window, and hands
 /// references down. It wires events to rules and holds no rule of its own.
-class Application : public win32::WindowHost, private MainEvents, private DocumentView, private StartUpView {
+class Application : public win32::WindowHost,
+                    private MainEvents,
+                    private DocumentView,
+                    private CaseBeside,
+                    private StartUpView {
   public:
     Application();
     ~Application() override;
@@ -62,6 +67,9 @@ class Application : public win32::WindowHost, private MainEvents, private Docume
     void endProgram() override;
     void caseOpened() override;
 
+    // CaseBeside
+    void showBeside() override;
+
     // StartUpView
     void showMainWindow() override { main_.show(form_.naturalSize()); }
     bool showVersionNotice() override { return askVersionNotice(*this, main_.handle()); }
@@ -71,8 +79,11 @@ class Application : public win32::WindowHost, private MainEvents, private Docume
     void setResultFont(const std::string& face) override { results_->viewer.setFont(face); }
 
     void runCommand(int id);
-    bool translateFlagKey(const MSG& message);
+    void sketchChanged();
+    bool translateKeyBeside(const MSG& message);
     bool translateHelpKey(const MSG& message);
+    bool translateStepKey(const MSG& message);
+    win32::FormWindow* editedIn(HWND root);
     void calculate();
     void showResult();
     /// Offers the cases that a program left in the file dialog's folder when it was ended while saving them.
@@ -108,7 +119,8 @@ class Application : public win32::WindowHost, private MainEvents, private Docume
     struct LineLoads {
         LineLoads(Application& app, const LineLoadSet& set)
             : window(app, app.main_.handle(), set),
-              rules(set, {app.case_, app.state_, app.main_, app.sketch_, app.form_, window}, app.locale_) {
+              rules(set, {app.case_, app.state_, app.main_, app.sketch_, app.form_, window, app.steps_},
+                    app.locale_) {
             window.listen(rules);
         }
         LineLoadWindow window;
@@ -136,9 +148,11 @@ class Application : public win32::WindowHost, private MainEvents, private Docume
     Leftovers leftovers_;
 
     MainWindow main_;
+    MainTips tips_;
     InputFormWindow form_;
     SlabSketch sketch_;
     CaseFormFiller filler_;
+    EditSteps steps_;
     InputForm input_;
     Document document_;
     WindowsRescueLocks rescueLocks_;

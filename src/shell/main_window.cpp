@@ -1,5 +1,6 @@
 #include "shell/main_window.h"
 
+#include <oleacc.h>
 #include <windowsx.h>
 
 #include <algorithm>
@@ -10,6 +11,7 @@
 #include "controls/rule_sets.h"
 #include "shell/flag_painter.h"
 #include "shell/menu_table.h"
+#include "win32/accessible_names.h"
 #include "win32/dpi.h"
 #include "win32/strings.h"
 
@@ -79,11 +81,19 @@ void MainWindow::createParts() {
     toolbar_.create(handle());
     loadPicture_.create(handle(), idLoadPicture, "Lastbild", sketch_.loadPicture);
     slabStrip_.create(handle(), idSlabStrip, "Plattremsa", sketch_.slabStrip);
-    for (int i = 0; i < buttonCount; ++i)
-        win32::createControl(slabStrip_.handle(), idSupportButton + i, L"BUTTON", "", BS_PUSHBUTTON);
-    for (int flag = 0; flag < flagCount; ++flag)
-        win32::createControl(handle(), idFlag + flag, L"BUTTON", flagName(flag), BS_OWNERDRAW);
+    for (int i = 0; i < buttonCount; ++i) {
+        const HWND support =
+            win32::createControl(slabStrip_.handle(), idSupportButton + i, L"BUTTON", "", BS_PUSHBUTTON);
+        win32::nameForScreenReaders(support, "Stöd " + std::to_string(i), ROLE_SYSTEM_PUSHBUTTON);
+    }
+    for (int flag = 0; flag < flagCount; ++flag) {
+        const HWND button =
+            win32::createControl(handle(), idFlag + flag, L"BUTTON", flagName(flag), BS_OWNERDRAW);
+        win32::nameForScreenReaders(button, "", ROLE_SYSTEM_PUSHBUTTON);
+    }
     flagLabel_ = win32::createControl(handle(), 0, L"STATIC", "", WS_VISIBLE | SS_LEFT | SS_NOPREFIX);
+    win32::nameForScreenReaders(flagLabel_, "", ROLE_SYSTEM_STATICTEXT);
+    win32::nameForScreenReaders(toolbar_.handle(), "Verktyg", ROLE_SYSTEM_TOOLBAR);
     CLIENTCREATESTRUCT client{};
     client.idFirstChild = idFirstMdiChild;
     mdiClient_ = win32::createControl(
@@ -238,6 +248,10 @@ LRESULT MainWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_COMMAND:
         return onCommand(wParam, lParam);
+    case WM_NOTIFY:
+        if (reinterpret_cast<const NMHDR*>(lParam)->code != TBN_GETINFOTIPW) break;
+        toolbar_.tell(*reinterpret_cast<NMTBGETINFOTIPW*>(lParam));
+        return 0;
     case WM_INITMENUPOPUP:
         if (reinterpret_cast<HMENU>(wParam) == fileMenu_) events_->endTyping();
         break;

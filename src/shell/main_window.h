@@ -54,6 +54,7 @@ class MainWindow : public win32::Window, public MainView {
     int dpi() const { return dpi_; }
     /// The flag that is shown: what stands beside the form for Tab.
     HWND flagButton() const { return GetDlgItem(handle(), idFlag + flag_); }
+    HWND loadPicture() const { return loadPicture_.handle(); }
     /// Paints the sketch and places the support buttons as they are now.
     void sketchChanged();
     /// Later, when the current event is over, MainEvents::showRunTimeError is called.
@@ -64,6 +65,7 @@ class MainWindow : public win32::Window, public MainView {
     void setDiagramEnabled(bool enabled) override;
     void showFlag(int flag) override;
     void focusFlag() override { SetFocus(flagButton()); }
+    void focusLoadPicture() override { SetFocus(loadPicture()); }
 
   protected:
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;

@@ -46,23 +46,26 @@ inline constexpr std::array menuTree{
 /// The place of "Diagram" in the menu bar.
 inline constexpr int diagramMenuPlace = 5;
 
-/// A button of the toolbar. It runs the menu item of its action; its tip is that item's caption.
+/// A button of the toolbar. It runs the menu item of its action; its tip is that item's caption, and more where there is
+/// more to say.
 struct ToolbarKey {
     const char* key;
     const char* tip;
     int id;
+    const char* more = "";
 };
 
 inline constexpr std::array toolbarKeys{
-    ToolbarKey{"new", "Ny", idNew},
+    ToolbarKey{"new", "Ny", idNew, "Börjar om med standardfallet"},
     ToolbarKey{"open", "Öppna...", idOpen},
-    ToolbarKey{"save", "Spara", idSave},
+    ToolbarKey{"save", "Spara", idSave, "Skriver fallet till filen med namnet i fönstrets namnlist"},
     ToolbarKey{"print", "Resultat på skrivare", idPrintResult},
-    ToolbarKey{"berakning", "Kör...", idRun},
-    ToolbarKey{"res1", "Resultat på skärm", idShowResult},
-    ToolbarKey{"momk", "Moment", idMoment},
+    ToolbarKey{"berakning", "Kör...", idRun, "Beräknar det sparade fallet och visar resultatet"},
+    ToolbarKey{"res1", "Resultat på skärm", idShowResult, "Visar den senaste beräkningen av fallet"},
+    ToolbarKey{"momk", "Moment", idMoment,
+               "Visar momentdiagrammet; kräver en beräkning utan ändringar efter den"},
     // The free line load editor has no place in the fixed menu tree.
-    ToolbarKey{"fria", "Fria linjelaster", idFreeLineLoads},
+    ToolbarKey{"fria", "Fria linjelaster", idFreeLineLoads, "Visas bara i skissen, sparas och beräknas inte"},
 };
 
 } // namespace varno

@@ -47,12 +47,14 @@ bool askVersionNotice(win32::WindowHost& host, HWND owner) {
     win32::DialogWindow notice(host, owner, L"VarnoForm10", "Nyheter", noticeControls, noticeSize);
     notice.setFontRole(idProductLabel, win32::FontRole::heading);
     notice.setFontRole(idHeading, win32::FontRole::bold);
+    notice.name(idPicture, ControlKind::picture, productLabel);
     return notice.ask() == idOkButton && IsDlgButtonChecked(notice.handle(), idHideNotice) == BST_CHECKED;
 }
 
 DisclaimerWindow::DisclaimerWindow(win32::WindowHost& host, HWND owner)
     : DialogWindow(host, owner, L"VarnoForm9", "Viktigt", disclaimerControls, disclaimerSize) {
     setFontRole(idProductLabel, win32::FontRole::heading);
+    name(idPicture, ControlKind::picture, productLabel);
 }
 
 SaveAnswer askToSave(win32::WindowHost& host, HWND owner, const std::string& caption, const std::string& text,

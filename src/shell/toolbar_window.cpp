@@ -11,6 +11,12 @@
 
 namespace varno {
 
+namespace {
+
+constexpr int widestTip = 440;
+
+} // namespace
+
 void Toolbar::create(HWND parent) {
     handle_ = win32::createControl(parent, idToolbar, TOOLBARCLASSNAMEW, "Verktyg",
                                    WS_VISIBLE | TBSTYLE_FLAT | TBSTYLE_LIST | TBSTYLE_TOOLTIPS |
@@ -29,6 +35,17 @@ void Toolbar::create(HWND parent) {
         button.fsStyle = BTNS_BUTTON | BTNS_AUTOSIZE;
         button.iString = reinterpret_cast<INT_PTR>(tips[i].c_str());
         SendMessageW(handle_, TB_ADDBUTTONSW, 1, reinterpret_cast<LPARAM>(&button));
+    }
+}
+
+void Toolbar::tell(NMTBGETINFOTIPW& tip) const {
+    // Only with a width does a line end show as one.
+    const auto window = reinterpret_cast<HWND>(SendMessageW(handle_, TB_GETTOOLTIPS, 0, 0));
+    SendMessageW(window, TTM_SETMAXTIPWIDTH, 0, widestTip);
+    for (const ToolbarKey& key : toolbarKeys) {
+        if (key.id != tip.iItem) continue;
+        const std::string more = *key.more == '\0' ? "" : std::string("\n") + key.more;
+        lstrcpynW(tip.pszText, win32::wide(key.tip + more).c_str(), tip.cchTextMax);
     }
 }
 

@@ -16,6 +16,8 @@ class Toolbar {
     void setDpi(int dpi);
     void setEnabled(int id, bool enabled);
     HWND handle() const { return handle_; }
+    /// What the toolbar asks for the tip of a button.
+    void tell(NMTBGETINFOTIPW& tip) const;
 
   private:
     struct Destroyer {

@@ -6,6 +6,7 @@
 
 #include <memory>
 
+#include "win32/accessible_object.h"
 #include "win32/strings.h"
 
 namespace varno::win32 {
@@ -25,13 +26,26 @@ Properties propertyService() {
     return Properties(static_cast<IAccPropServices*>(service));
 }
 
+// The system keeps the name and the role itself, beside all else that it knows of the control.
+bool annotated(IAccPropServices* service, HWND control, const std::string& name, long role) {
+    constexpr auto client = static_cast<DWORD>(OBJID_CLIENT);
+    if (service == nullptr) return false;
+    if (!name.empty() &&
+        FAILED(service->SetHwndPropStr(control, client, CHILDID_SELF, PROPID_ACC_NAME, wide(name).c_str())))
+        return false;
+    if (role == 0) return true;
+    VARIANT value{};
+    value.vt = VT_I4;
+    value.lVal = role;
+    return SUCCEEDED(service->SetHwndProp(control, client, CHILDID_SELF, PROPID_ACC_ROLE, value));
+}
+
 } // namespace
 
-void nameForScreenReaders(HWND control, const std::string& name) {
+void nameForScreenReaders(HWND control, const std::string& name, long role) {
     static const Properties service = propertyService();
-    if (!service || control == nullptr) return;
-    service->SetHwndPropStr(control, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, PROPID_ACC_NAME,
-                            wide(name).c_str());
+    if (control == nullptr) return;
+    if (!annotated(service.get(), control, name, role)) answerScreenReaders(control, name, role);
 }
 
 } // namespace varno::win32

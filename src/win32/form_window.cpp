@@ -6,6 +6,8 @@
 #include <string_view>
 #include <utility>
 
+#include "win32/accessible_names.h"
+#include "win32/control_roles.h"
 #include "win32/resource_ids.h"
 #include "win32/strings.h"
 
@@ -49,6 +51,12 @@ constexpr KindStyle styles[]{
     {ControlKind::spin, UPDOWN_CLASSW, UDS_ARROWKEYS},
     {ControlKind::picture, L"STATIC", SS_OWNERDRAW},
 };
+
+bool isPushButton(HWND control) {
+    if (classOf(control) != "Button") return false;
+    const LONG_PTR type = GetWindowLongPtrW(control, GWL_STYLE) & BS_TYPEMASK;
+    return type == BS_PUSHBUTTON || type == BS_DEFPUSHBUTTON;
+}
 
 // Every other window of the program, disabled for as long as a modal window runs.
 class DisabledOthers {
@@ -95,8 +103,9 @@ void FormWindow::runModal() {
         const DisabledOthers others(handle());
         bringForward();
         MSG message;
-        while (open_ && GetMessageW(&message, nullptr, 0, 0) > 0)
-            dispatch(host(), message);
+        while (open_ && GetMessageW(&message, nullptr, 0, 0) > 0) {
+            if (!answers(message)) dispatch(host(), message);
+        }
         // The end of the program passes through every loop.
         if (open_) PostQuitMessage(static_cast<int>(message.wParam));
     }
@@ -104,6 +113,36 @@ void FormWindow::runModal() {
     // program.
     if (owner != nullptr) SetActiveWindow(owner);
     ShowWindow(handle(), SW_HIDE);
+}
+
+// J and N answer a question, as "Ja" and as "Nej" or what stands in its place.
+bool FormWindow::answers(const MSG& message) {
+    if (message.message != WM_KEYDOWN || item(IDYES) == nullptr || !IsChild(handle(), message.hwnd))
+        return false;
+    if (message.wParam != 'J' && message.wParam != 'N') return false;
+    const HWND no = item(IDNO) != nullptr ? item(IDNO) : item(IDCANCEL);
+    SendMessageW(message.wParam == 'J' ? item(IDYES) : no, BM_CLICK, 0, 0);
+    return true;
+}
+
+// Enter comes as "OK". On a button that has the focus it presses that one.
+bool FormWindow::pressFocused() {
+    const HWND focus = GetFocus();
+    if (GetParent(focus) != handle() || !isPushButton(focus) || GetDlgCtrlID(focus) == IDOK) return false;
+    SendMessageW(focus, BM_CLICK, 0, 0);
+    return true;
+}
+
+// What the arrow keys lead to. The button with the focus looks like the one that Enter presses.
+void FormWindow::moveTo(HWND control) {
+    if (isPushButton(control)) {
+        for (const Placed& placed : placed_) {
+            if (isPushButton(placed.control))
+                SendMessageW(placed.control, BM_SETSTYLE,
+                             placed.control == control ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON, TRUE);
+        }
+    }
+    SetFocus(control);
 }
 
 void FormWindow::closeForm() {
@@ -131,6 +170,17 @@ void FormWindow::setBoxText(int id, const std::string& text) {
     SendMessageW(box, EM_SETSEL, static_cast<WPARAM>(all ? 0 : moved(start)), all ? -1 : moved(end));
 }
 
+bool FormWindow::typing() const {
+    const HWND focus = GetFocus();
+    return GetParent(focus) == handle() && classOf(focus) == "Edit" && isTyped(GetDlgCtrlID(focus));
+}
+
+void FormWindow::takeOver() {
+    const HWND focus = GetFocus();
+    if (GetParent(focus) == handle() && (classOf(focus) == "Edit" || classOf(focus) == "ComboBox"))
+        leaveKept(GetDlgCtrlID(focus));
+}
+
 bool FormWindow::isTyped(int box) const {
     const auto entered = entered_.find(box);
     return entered != entered_.end() && entered->second != textOf(item(box));
@@ -155,19 +205,32 @@ void FormWindow::returnTo(HWND box) {
 void FormWindow::addControls(std::span<const ControlSpec> controls) {
     if (!fonts_[0]) setDpi(dpiOf(handle()));
     for (const ControlSpec& spec : controls) {
+        if (spec.kind == ControlKind::label && *spec.text != '\0') label_ = spec.text;
         const KindStyle& kind = *std::ranges::find(styles, spec.kind, &KindStyle::kind);
         const HWND control = createControl(handle(), spec.id, kind.className, spec.text,
                                            WS_VISIBLE | kind.style, kind.exStyle);
-        if (spec.kind == ControlKind::memo) SendMessageW(control, EM_SETLIMITTEXT, 0, 0);
+        if (spec.kind == ControlKind::memo) {
+            SendMessageW(control, EM_SETLIMITTEXT, 0, 0);
+            leaveKeysToWindow(control);
+        }
         // Of itself a spin button's range runs from 100 down to 0, and its upper arrow counts down.
         if (spec.kind == ControlKind::spin) SendMessageW(control, UDM_SETRANGE32, 0, 100);
         if (spec.kind == ControlKind::dropDown) passWheelOn(control);
         if (spec.kind == ControlKind::edit || spec.kind == ControlKind::numberEdit) watchBox(control, *this);
+        describe(control, spec.kind, takesLabel(spec.kind) ? label_.substr(0, label_.find(':')) : "");
         // A drop-down list's height is that of its open list.
         const int open = spec.kind == ControlKind::dropDown ? raster(220) : 0;
         placed_.push_back({control, {spec.x, spec.y, spec.right(), spec.bottom() + open}});
         setFont(control, FontRole::text);
     }
+}
+
+void FormWindow::describe(HWND control, ControlKind kind, const std::string& name) {
+    nameForScreenReaders(control, name, roleOf(kind));
+}
+
+void FormWindow::name(int id, ControlKind kind, const std::string& name) {
+    describe(item(id), kind, name);
 }
 
 void FormWindow::setFont(HWND control, FontRole role) {
@@ -284,7 +347,11 @@ void FormWindow::drawSymbol(const DRAWITEMSTRUCT& item) {
 
 LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
+    case WM_NEXTDLGCTL:
+        if (LOWORD(lParam) != 0) moveTo(reinterpret_cast<HWND>(wParam));
+        return 0;
     case WM_COMMAND:
+        if (LOWORD(wParam) == IDOK && pressFocused()) return 0;
         if (lParam != 0) {
             controlTold(reinterpret_cast<HWND>(lParam), HIWORD(wParam));
         } else {

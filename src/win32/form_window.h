@@ -27,6 +27,12 @@ class FormWindow : public Window, private FieldWindow, private BoxKeys {
     void runModal();
 
     HWND item(int id) const { return GetDlgItem(handle(), id); }
+    /// What a screen reader says for a control that neither its caption nor the label in front of it names.
+    void name(int id, ControlKind kind, const std::string& name);
+    /// A box of this window is being typed in, since it has the focus.
+    bool typing() const;
+    /// What stands in the control that has the focus is taken over, as if it were left.
+    void takeOver();
     void setFontRole(int id, FontRole role);
 
   protected:
@@ -79,6 +85,10 @@ class FormWindow : public Window, private FieldWindow, private BoxKeys {
     };
     void leaveKept(int field) override;
     void controlTold(HWND control, int notification);
+    static void describe(HWND control, ControlKind kind, const std::string& name);
+    bool answers(const MSG& message);
+    bool pressFocused();
+    void moveTo(HWND control);
     void returnTo(HWND box);
     void drawSymbol(const DRAWITEMSTRUCT& item);
     HFONT font(FontRole role) const { return fonts_[static_cast<int>(role)].get(); }
@@ -90,6 +100,7 @@ class FormWindow : public Window, private FieldWindow, private BoxKeys {
     int dpi_ = USER_DEFAULT_SCREEN_DPI;
     DropDowns dropDowns_;
     bool open_ = false;
+    std::string label_; ///< in front of the control that is made now
 };
 
 } // namespace varno::win32

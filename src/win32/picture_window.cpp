@@ -1,5 +1,8 @@
 #include "win32/picture_window.h"
 
+#include <oleacc.h>
+
+#include "win32/accessible_names.h"
 #include "win32/gdi_canvas.h"
 #include "win32/unique.h"
 
@@ -9,6 +12,7 @@ void PictureWindow::create(HWND parent, int id, const std::string& name, const R
     picture_ = &picture;
     Window::create(L"VarnoPicture", name, WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, 0, parent,
                    reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), {0, 0, 0, 0});
+    nameForScreenReaders(handle(), name, ROLE_SYSTEM_GRAPHIC);
 }
 
 void PictureWindow::setDpi(int dpi) {
@@ -28,6 +32,8 @@ void PictureWindow::paint() {
         FillRect(memory.get(), &client, GetSysColorBrush(COLOR_BTNFACE));
         GdiCanvas canvas(memory.get(), dpi_, GetSysColor(COLOR_BTNTEXT));
         replay(*picture_, canvas);
+        // Before the keyboard can open its menu, one sees that it is here.
+        if (GetFocus() == handle()) DrawFocusRect(memory.get(), &client);
         BitBlt(screen, 0, 0, client.right, client.bottom, memory.get(), 0, 0, SRCCOPY);
     }
     EndPaint(handle(), &paint);
@@ -37,6 +43,10 @@ LRESULT PictureWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_PAINT:
         paint();
+        return 0;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+        redraw();
         return 0;
     case WM_ERASEBKGND:
         return TRUE;

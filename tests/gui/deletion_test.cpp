@@ -3,6 +3,7 @@
 
 #include <set>
 
+#include "driver/keyboard.h"
 #include "driver/program.h"
 #include "driver/wait.h"
 #include "soon.h"
@@ -156,6 +157,40 @@ TEST_F(Deletions, ARefusedFileStaysUnselectedAndTheNextIsAskedFor) {
     expectLeft(window, {"A.res", "C.res"});
 }
 
+TEST_F(Deletions, TheQuestionIsAnsweredWithKeys) {
+    const Control window = opened();
+    select(window, {0, 1, 2});
+    while (program.focused() != window.item(idDelete)) {
+        const Control before = program.focused();
+        keyboard::press(VK_TAB);
+        ASSERT_TRUE(program.until([&] { return program.focused() != before; }));
+    }
+    keyboard::press(VK_RETURN);
+    const auto question = [&](const std::string& name) {
+        Control asked;
+        const auto askedAbout = [&]() -> std::string {
+            asked = program.window(confirmationClass);
+            try {
+                return asked.item(idFileName).text();
+            } catch (const GuiError&) {
+                return {}; // the question before it has just gone
+            }
+        };
+        expectSoon(program, name, askedAbout);
+        expectSoon(program, asked.item(idCancelButton), [&] { return program.focused(); });
+        return asked;
+    };
+    question("A.RES");
+    keyboard::press('N');
+    question("B.RES");
+    keyboard::press('J');
+    const Control last = question("C.RES");
+    keyboard::press(VK_LEFT);
+    expectSoon(program, last.item(idYesButton), [&] { return program.focused(); });
+    keyboard::press(VK_RETURN);
+    expectLeft(window, {"A.res"});
+}
+
 TEST_F(Deletions, AClickSelectsOrUnselectsAFileAndLeavesTheOthers) {
     const Control window = opened();
     clickRow(window, 0);
@@ -271,8 +306,7 @@ TEST_F(FailedDeletions, FileInUseIsReported) {
     select(window, {1});
     window.item(idDelete).click();
     answer("B.RES", 1, idYesButton);
-    expectError(window, "B.RES", "är öppen i ett annat program",
-                "Run-time error '70': Permission denied");
+    expectError(window, "B.RES", "är öppen i ett annat program", "Run-time error '70': Permission denied");
     expectLeft(window, results);
     EXPECT_EQ(selection(window), std::set<int>{1});
 }

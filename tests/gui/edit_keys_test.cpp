@@ -22,6 +22,7 @@ void PrintTo(const Stop& stop, std::ostream* out) {
 }
 
 const Stop flagStop{Field::rubrik, 0, true};
+const Stop pictureStop{Field::loadFrame, idLoadPicture};
 
 class EditKeys : public Editing {
   protected:
@@ -71,7 +72,7 @@ std::vector<Stop> EditKeys::wayOfThreeSpans() {
                                  {Field::kavko},        {Field::auk},      {Field::duk},
                                  {Field::duarm},        {Field::brandk},   {Field::brandb, 2},
                                  {Field::brukskomb, 1}, {Field::initiell}, {Field::tillkommande},
-                                 {Field::overhojning},  flagStop};
+                                 {Field::overhojning},  flagStop,          pictureStop};
     way.insert(way.end(), rest.begin(), rest.end());
     return way;
 }
@@ -90,9 +91,9 @@ TEST_F(EditKeys, ShiftTabGoesBack) {
 
 TEST_F(EditKeys, EnterMovesOnLikeTab) {
     open({{25, "2"}});
-    // On the flag, which comes last, Enter presses it.
+    // On the flag, which comes then, Enter presses it.
     std::vector<Stop> way = wayOfThreeSpans();
-    way.pop_back();
+    way.resize(way.size() - 2);
     for (std::size_t i = 0; i + 1 < way.size(); ++i) {
         ASSERT_EQ(stop(), way[i]);
         move(VK_RETURN);
@@ -104,7 +105,43 @@ TEST_F(EditKeys, EnterMovesOnLikeTab) {
     expectSoon(program(), true, [] { return mainItem(idFlag + 3).visible(); });
     expectFocus(mainItem(idFlag + 3));
     move(VK_TAB);
+    EXPECT_EQ(stop(), pictureStop);
+    move(VK_TAB);
     EXPECT_EQ(stop(), Stop{Field::rubrik});
+}
+
+// The lines of the five option groups.
+TEST_F(EditKeys, TabReachesGroupsWithoutAChoiceAndChoosesNothing) {
+    open({{4, "0"}, {11, "0"}, {25, "0"}, {26, "0"}, {31, "0"}});
+    const DesignCase before = saved();
+    const auto none = [](Field group) {
+        for (int i = 1; i <= 2; ++i) {
+            if (field(group, i).checked()) return false;
+        }
+        return true;
+    };
+    const std::vector<Stop> way = wayWith(VK_TAB);
+    for (const Field group : {Field::lastkomb, Field::pkl, Field::kutak, Field::brandb, Field::brukskomb}) {
+        EXPECT_EQ(std::ranges::count(way, Stop{group, 1}), 1) << static_cast<int>(group);
+        EXPECT_TRUE(none(group)) << static_cast<int>(group);
+    }
+    EXPECT_EQ(way.size(), wayOfThreeSpans().size());
+    EXPECT_EQ(saved(), before);
+    while (stop() != Stop{Field::lastkomb, 1})
+        move(VK_TAB);
+    keyboard::press(VK_SPACE);
+    expectSoon(program(), true, [] { return field(Field::lastkomb, 1).checked(); });
+    keyboard::press(VK_DOWN);
+    expectFocus(field(Field::lastkomb, 2));
+    EXPECT_EQ(saved().lastkomb, 2);
+}
+
+TEST_F(EditKeys, TabReachesTheGroupWhoseChoiceIsHidden) {
+    open({{25, "4"}});
+    const std::vector<Stop> way = wayWith(VK_TAB);
+    EXPECT_EQ(std::ranges::count(way, Stop{Field::brandb, 1}), 1);
+    EXPECT_TRUE(field(Field::brandb, 4).checked());
+    EXPECT_EQ(saved().brandb, 4);
 }
 
 TEST_F(EditKeys, TabSelectsTheWholeField) {

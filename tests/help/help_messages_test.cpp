@@ -10,6 +10,7 @@
 #include "help/help_viewer.h"
 #include "input/field_table.h"
 #include "input/form_view.h"
+#include "input/grid_clipboard.h"
 #include "lineloads/line_load_set.h"
 #include "shell/menu_table.h"
 #include "support/memory_files.h"
@@ -54,6 +55,7 @@ TEST(HelpMessages, TheLineLoadEditorsAreExplained) {
 
 TEST(HelpMessages, TheHintAtTheTitleIsExplained) {
     expectExplained(commaHint);
+    expectExplained(leftOutHint);
 }
 
 TEST(HelpMessages, EveryDiskErrorIsExplained) {

@@ -50,13 +50,20 @@ class WatchedSketch : public SketchRefresh {
     SketchRefresh& sketch_;
 };
 
+/// Counts what is asked of the windows beside the form.
+class FakeBeside : public CaseBeside {
+  public:
+    void showBeside() override { ++shown; }
+    int shown = 0;
+};
+
 /// The input form with everything around it, showing a case of `spans` spans of 5 m, 0.2 m thick, loads 1 and
 /// 2 kN/m², inner supports 0.1 m, rule set 6 and load category 0.
 class InputRig {
   public:
     explicit InputRig(int spans = 3, const NumberLocale& locale = {})
         : filler(designCase, form, window, locale),
-          input({designCase, document, form, window, filler, sketch}) {
+          input({designCase, document, form, window, filler, sketch, steps}) {
         form.onChange = [this](Control control) { input.changed(control); };
         form.onLeave = [this](Control control) { input.lostFocus(control); };
         form.onEnter = [this](Control control) { input.entered(control); };
@@ -85,12 +92,14 @@ class InputRig {
         filler.showCase(text({Field::rubrik}));
         sketch.fullRefresh();
         form.focus({Field::rubrik});
+        steps.start();
         calm();
     }
     void calm() {
         document.dataChanged = false;
         window.diagram = true;
         sketch.asked.clear();
+        beside.shown = 0;
     }
 
     void type(Control control, const std::string& text) {
@@ -128,6 +137,8 @@ class InputRig {
     SlabSketch slab{designCase, picture.loadPicture, picture.slabStrip, picture};
     WatchedSketch sketch{slab};
     CaseFormFiller filler;
+    FakeBeside beside;
+    EditSteps steps{designCase, document, form, window, filler, beside};
     InputForm input;
 };
 

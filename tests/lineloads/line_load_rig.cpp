@@ -37,7 +37,7 @@ std::string FakeLineLoadWindow::rows() const {
 }
 
 LineLoadRig::LineLoadRig(const LineLoadSet& which, const NumberLocale& locale)
-    : set(which), editor(set, {designCase, document, window, sketch, form, view}, locale) {
+    : set(which), editor(set, {designCase, document, window, sketch, form, view, steps}, locale) {
     view.onLeave = [this](LineLoadControl control) { editor.left(control); };
     view.onEnter = [this](LineLoadControl control) { editor.entered(control); };
     view.onChange = [this](LineLoadControl control) { editor.changed(control); };

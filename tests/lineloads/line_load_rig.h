@@ -20,6 +20,10 @@ class FakeLineLoadWindow : public LineLoadView {
         visibleRows.at(static_cast<std::size_t>(row)) = visible;
     }
     void focus(LineLoadControl control) override;
+    void enter(LineLoadControl control) override {
+        focus(control);
+        entered = control;
+    }
     void returnTo(LineLoadControl control) override { returnedTo = control; }
     /// As the user does it: a change also when the text reads the same.
     void type(LineLoadControl control, const std::string& typed);
@@ -33,6 +37,7 @@ class FakeLineLoadWindow : public LineLoadView {
     std::function<void(LineLoadControl)> onEnter;
     std::function<void(LineLoadControl)> onChange;
     std::optional<LineLoadControl> returnedTo;
+    std::optional<LineLoadControl> entered;
     std::array<bool, 6> visibleRows{true, true, true, true, true, true};
     LineLoadControl focused{LineLoadBox::nllast};
     int shown = 0;
@@ -74,6 +79,9 @@ class LineLoadRig {
     WatchedSketch sketch{slab};
     FakeForm form;
     FakeLineLoadWindow view;
+    CaseFormFiller filler{designCase, form, window, {}};
+    FakeBeside beside;
+    EditSteps steps{designCase, document, form, window, filler, beside};
     LineLoadEditor editor;
 };
 

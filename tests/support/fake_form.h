@@ -87,12 +87,14 @@ class FakeMainWindow : public MainView {
     void setDiagramEnabled(bool now) override { diagram = now; }
     void showFlag(int number) override { flag = number; }
     void focusFlag() override { flagFocused = true; }
+    void focusLoadPicture() override { loadPictureFocused = true; }
 
     std::string caption;
     bool busy = false;
     bool wasBusy = false;
     bool diagram = true;
     bool flagFocused = false;
+    bool loadPictureFocused = false;
     int flag = -1;
 };
 

@@ -49,6 +49,14 @@ void click(const Control& control) {
     clickThere((box.left + box.right) / 2, (box.top + box.bottom) / 2);
 }
 
+void restOn(const Control& control, int hundredths) {
+    const RECT box = onScreen(control);
+    const LONG x = box.left + (box.right - box.left) * hundredths / 100;
+    // A step beside it first: only a pointer that moves is noticed.
+    for (const LONG place : {x - 1, x})
+        sendAt(place, (box.top + box.bottom) / 2, {});
+}
+
 void clickTitle(const Control& window) {
     const RECT box = onScreen(window);
     clickThere(box.left + (box.right - box.left) / 3, box.top + GetSystemMetrics(SM_CYFIXEDFRAME) + 6);

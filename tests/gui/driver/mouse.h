@@ -9,6 +9,8 @@ namespace varno::gui::mouse {
 
 /// Clicks into the middle of a window or control.
 void click(const Control& control);
+/// Lets the pointer rest on a point of it, in hundredths of its width, half its height down.
+void restOn(const Control& control, int hundredths = 50);
 /// Clicks on the title bar of a window, which activates it and does nothing else.
 void clickTitle(const Control& window);
 /// Turns the wheel over a control, away from the user for a positive number of notches.

@@ -1,0 +1,45 @@
+#include "shell/main_tips.h"
+
+#include <cmath>
+#include <utility>
+
+#include "controls/control_ids.h"
+#include "controls/control_spec.h"
+#include "controls/rule_sets.h"
+
+namespace varno {
+
+void MainTips::create(HWND main) {
+    main_ = main;
+    for (int flag = 0; HWND button = GetDlgItem(main, idFlag + flag); ++flag)
+        flags_.add(button, flagTip(flag));
+}
+
+void MainTips::showSketch(SketchTips tips) {
+    shown_ = std::move(tips);
+    placeAgain();
+}
+
+void MainTips::placeAgain() {
+    if (main_ == nullptr) return;
+    sketch_.clear();
+    addParts(idLoadPicture, 0, loadPictureWidth);
+    addParts(idSlabStrip, slabStripStart, slabStripWidth);
+    const HWND strip = GetDlgItem(main_, idSlabStrip);
+    int support = 0;
+    for (const std::string& text : shown_.supports)
+        sketch_.add(GetDlgItem(strip, idSupportButton + support++), text);
+}
+
+void MainTips::addParts(int area, double start, double width) {
+    const HWND window = GetDlgItem(main_, area);
+    RECT client{};
+    GetClientRect(window, &client);
+    const auto toPixels = [&](double twips) {
+        return static_cast<LONG>(std::lround((start + twips) * static_cast<double>(client.right) / width));
+    };
+    for (const SketchTip& tip : shown_.parts)
+        sketch_.addPart(window, {toPixels(tip.left), 0, toPixels(tip.right), client.bottom}, tip.text);
+}
+
+} // namespace varno

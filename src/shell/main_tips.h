@@ -1,0 +1,26 @@
+#pragma once
+
+#include "input/sketch_tips.h"
+#include "win32/tips.h"
+
+namespace varno {
+
+/// The tips of the main window's parts: the flag, and the sketch as it is drawn now.
+class MainTips {
+  public:
+    /// Names what a click on each flag does.
+    void create(HWND main);
+    void showSketch(SketchTips tips);
+    /// The picture areas have another size.
+    void placeAgain();
+
+  private:
+    void addParts(int area, double start, double width);
+
+    HWND main_ = nullptr;
+    SketchTips shown_;
+    win32::Tips flags_;
+    win32::Tips sketch_;
+};
+
+} // namespace varno

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace varno::win32 {
+
+/// The text on the clipboard, empty when there is none. UTF-8.
+std::string clipboardText(HWND owner);
+/// Another program may hold the clipboard; then it stays as it is.
+void setClipboardText(HWND owner, const std::string& text);
+
+} // namespace varno::win32
