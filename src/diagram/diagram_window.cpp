@@ -35,7 +35,7 @@ void DiagramWindow::layOut() {
     if (!picture_.exists()) return;
     SetWindowPos(picture_.handle(), nullptr, px(margin), px(margin), px(pictureWidth), px(pictureHeight),
                  SWP_NOZORDER | SWP_NOACTIVATE);
-    picture_.setDpi(dpi());
+    picture_.setScale(dpi(), dpi());
 }
 
 void DiagramWindow::show() {

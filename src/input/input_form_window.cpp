@@ -281,6 +281,7 @@ bool InputFormWindow::translateKey(const MSG& message) {
 }
 
 LRESULT InputFormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (scrollMessage(message, wParam)) return 0;
     switch (message) {
     case WM_CLOSE:
         // The form lives as long as the main window.

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "controls/control_ids.h"
-#include "input/form_layout.h"
+#include "input/form_scroll.h"
 #include "input/input_form.h"
 #include "win32/balloon.h"
 #include "win32/form_window.h"
@@ -21,8 +21,6 @@ class InputFormWindow : public win32::FormWindow, public FormView {
     void create(HWND mdiClient);
     /// From here on what happens in the form goes to its rules.
     void listen(InputForm& rules) { rules_ = &rules; }
-    /// The size the form needs, in pixels at its resolution.
-    SIZE naturalSize() const { return {px(formWidth), px(formHeight)}; }
     /// Handles the keys of one message: Tab and Enter go through the form in its order, the arrow keys up and
     /// down stay in a column of the grid and step the span count in `nfack`. False when the message is none
     /// of them.
@@ -31,6 +29,8 @@ class InputFormWindow : public win32::FormWindow, public FormView {
     void focusEnd(bool last);
     /// Lays the form out at another resolution.
     void changeDpi(int dpi);
+    /// Takes the room that the main window has for it, and scrolls where it needs more.
+    void fill(int width, int height);
 
     std::string text(Control control) const override { return win32::textOf(window(control)); }
     void setText(Control control, const std::string& text) override { setBoxText(controlId(control), text); }
@@ -57,12 +57,19 @@ class InputFormWindow : public win32::FormWindow, public FormView {
     void takeBack(int box) override;
     bool pasted(int box, const std::string& text) override;
     std::optional<std::string> copied(int box) const override;
+    void layOut() override;
+    void reached(HWND control) override;
 
   private:
     void nameSymbols();
     void keepFocusOff(HWND control);
     int chosenOption(Field group) const;
     void keepReachable(Field group);
+    void tellBars();
+    void scrollTo(int x, int y);
+    void scrolled(int bar, int request);
+    void wheelTurned(WPARAM wParam, bool sideways);
+    bool scrollMessage(UINT message, WPARAM wParam);
     void clickButton(Control control, HWND button);
     bool moveOn(HWND from, bool backwards);
     bool moveInColumn(Control from, int rows);
@@ -74,6 +81,10 @@ class InputFormWindow : public win32::FormWindow, public FormView {
     HWND entering_ = nullptr; ///< gets the focus from Tab just now
     win32::Balloon hint_;
     win32::Tips tips_;
+    ScrollAxis across_;
+    ScrollAxis down_;
+    WheelSteps wheel_;
+    bool fitting_ = false; ///< a scroll bar that comes or goes tells of another size
 };
 
 } // namespace varno

@@ -232,11 +232,7 @@ void Application::sketchChanged() {
 
 void Application::clientResized(int width, int height) {
     tips_.placeAgain();
-    if (!form_.exists()) return;
-    // A window too small for the form scrolls it; a larger one gives it the room.
-    const SIZE natural = form_.naturalSize();
-    win32::setPlace(form_.handle(), 0, 0, std::max<int>(width, natural.cx),
-                    std::max<int>(height, natural.cy));
+    if (form_.exists()) form_.fill(width, height);
 }
 
 void Application::helpRequested(const HELPINFO& request) {

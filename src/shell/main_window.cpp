@@ -10,6 +10,7 @@
 #include "controls/control_spec.h"
 #include "controls/rule_sets.h"
 #include "shell/flag_painter.h"
+#include "shell/main_layout.h"
 #include "shell/menu_table.h"
 #include "win32/accessible_names.h"
 #include "win32/dpi.h"
@@ -22,21 +23,16 @@ namespace {
 constexpr UINT showErrorMessage = WM_APP + 1;
 constexpr int buttonCount = 16; // stod
 
-// The band above the MDI client, in twips. The load picture stands as far to the right of the slab strip's
-// left edge as the slab does inside the strip, so that loads, supports and slab line up.
-constexpr int toolbarHeight = raster(32);
-constexpr int stripX = raster(8);
-constexpr int loadX = stripX + static_cast<int>(slabStripStart);
-constexpr int loadY = toolbarHeight + raster(6);
-constexpr int stripY = loadY + static_cast<int>(loadPictureHeight);
-// The slab's right end is the last pixel of the load picture; rounding must not cut it off.
-constexpr int edge = raster(1);
-constexpr int bandEnd = stripY + static_cast<int>(slabStripHeight) + raster(2);
-constexpr int flagX = loadX + static_cast<int>(loadPictureWidth) + raster(24);
-constexpr int flagY = loadY + raster(4);
-constexpr int flagWidth = raster(80);
-constexpr int flagHeight = raster(50);
-constexpr int flagLabelX = flagX + flagWidth + raster(10);
+void put(HWND window, const Area& area) {
+    win32::setPlace(window, area.x, area.y, area.width, area.height);
+}
+
+RECT workAreaOf(HWND window) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY), &monitor);
+    return monitor.rcWork;
+}
 
 } // namespace
 
@@ -96,9 +92,8 @@ void MainWindow::createParts() {
     win32::nameForScreenReaders(toolbar_.handle(), "Verktyg", ROLE_SYSTEM_TOOLBAR);
     CLIENTCREATESTRUCT client{};
     client.idFirstChild = idFirstMdiChild;
-    mdiClient_ = win32::createControl(
-        handle(), idMdiClient, L"MDICLIENT", "",
-        WS_VISIBLE | WS_CLIPCHILDREN | WS_VSCROLL | WS_HSCROLL | MDIS_ALLCHILDSTYLES, 0, &client);
+    mdiClient_ = win32::createControl(handle(), idMdiClient, L"MDICLIENT", "",
+                                      WS_VISIBLE | WS_CLIPCHILDREN | MDIS_ALLCHILDSTYLES, 0, &client);
 }
 
 void MainWindow::setDpi(int dpi) {
@@ -107,23 +102,26 @@ void MainWindow::setDpi(int dpi) {
     win32::UniqueFont font = win32::systemFont(dpi);
     SendMessageW(flagLabel_, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
     font_ = std::move(font);
-    loadPicture_.setDpi(dpi);
-    slabStrip_.setDpi(dpi);
 }
 
-void MainWindow::show(SIZE form) {
+SIZE MainWindow::frameFor(const Area& client) const {
+    RECT frame{0, 0, client.width, client.height};
+    AdjustWindowRectExForDpi(&frame, static_cast<DWORD>(GetWindowLongPtrW(handle(), GWL_STYLE)), TRUE,
+                             static_cast<DWORD>(GetWindowLongPtrW(handle(), GWL_EXSTYLE)),
+                             static_cast<UINT>(dpi_));
+    return {frame.right - frame.left, frame.bottom - frame.top};
+}
+
+void MainWindow::show() {
     if (!shown_) {
         shown_ = true;
-        RECT frame{0, 0, form.cx, form.cy + px(bandEnd)};
-        AdjustWindowRectExForDpi(&frame, static_cast<DWORD>(GetWindowLongPtrW(handle(), GWL_STYLE)), TRUE,
-                                 static_cast<DWORD>(GetWindowLongPtrW(handle(), GWL_EXSTYLE)),
-                                 static_cast<UINT>(dpi_));
-        MONITORINFO monitor{};
-        monitor.cbSize = sizeof monitor;
-        GetMonitorInfoW(MonitorFromWindow(handle(), MONITOR_DEFAULTTOPRIMARY), &monitor);
-        const RECT& work = monitor.rcWork;
-        const int width = std::min(frame.right - frame.left, work.right - work.left);
-        const int height = std::min(frame.bottom - frame.top, work.bottom - work.top);
+        const RECT work = workAreaOf(handle());
+        SIZE size = frameFor(naturalMainArea(dpi_));
+        // Where the form has to scroll, its bar must not hide what stands at the right.
+        if (size.cy > work.bottom - work.top)
+            size.cx += GetSystemMetricsForDpi(SM_CXVSCROLL, static_cast<UINT>(dpi_));
+        const LONG width = std::min(size.cx, work.right - work.left);
+        const LONG height = std::min(size.cy, work.bottom - work.top);
         win32::setPlace(handle(), work.left + (work.right - work.left - width) / 2,
                         work.top + (work.bottom - work.top - height) / 2, width, height);
         layOut();
@@ -135,33 +133,28 @@ void MainWindow::show(SIZE form) {
 }
 
 void MainWindow::layOut() {
-    const auto put = [this](HWND window, int x, int y, int width, int height) {
-        win32::setPlace(window, {px(x), px(y), px(x + width), px(y + height)});
-    };
     RECT client{};
     GetClientRect(handle(), &client);
-    win32::setPlace(toolbar_.handle(), 0, 0, client.right, px(toolbarHeight));
-    put(loadPicture_.handle(), loadX, loadY, static_cast<int>(loadPictureWidth) + edge,
-        static_cast<int>(loadPictureHeight));
-    put(slabStrip_.handle(), stripX, stripY, static_cast<int>(slabStripWidth),
-        static_cast<int>(slabStripHeight));
-    for (int flag = 0; flag < flagCount; ++flag) {
-        put(GetDlgItem(handle(), idFlag + flag), flagX, flagY, flagWidth, flagHeight);
-    }
-    put(flagLabel_, flagLabelX, flagY + raster(9), raster(170), raster(34));
+    const MainLayout layout = mainLayout(client.right, client.bottom, dpi_);
+    put(toolbar_.handle(), layout.toolbar);
+    put(loadPicture_.handle(), layout.loadPicture);
+    put(slabStrip_.handle(), layout.slabStrip);
+    sketchDpi_ = layout.sketchDpi;
+    loadPicture_.setScale(sketchDpi_, dpi_);
+    slabStrip_.setScale(sketchDpi_, dpi_);
     placeSupportButtons();
-    const int top = px(bandEnd);
-    const int height = std::max(0, static_cast<int>(client.bottom) - top);
-    // The scroll bars take room themselves; they come back by themselves when the form does not fit without
-    // them.
-    ShowScrollBar(mdiClient_, SB_BOTH, FALSE);
-    win32::setPlace(mdiClient_, 0, top, client.right, height);
-    events_->clientResized(client.right, height);
+    for (int flag = 0; flag < flagCount; ++flag)
+        put(GetDlgItem(handle(), idFlag + flag), layout.flag);
+    put(flagLabel_, layout.flagName);
+    put(mdiClient_, layout.form);
+    events_->clientResized(layout.form.width, layout.form.height);
+    // Parts that change places would carry pieces of each other along.
+    RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void MainWindow::placeSupportButtons() {
     const auto toPixels = [this](double twips) {
-        return static_cast<int>(std::lround(twips * dpi_ / twipsPerInch));
+        return static_cast<int>(std::lround(twips * sketchDpi_ / twipsPerInch));
     };
     for (int i = 0; i < buttonCount; ++i) {
         const HWND button = GetDlgItem(slabStrip_.handle(), idSupportButton + i);
@@ -282,6 +275,18 @@ LRESULT MainWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SIZE:
         // DefFrameProc would stretch the MDI client over the whole window.
         if (wParam != SIZE_MINIMIZED) layOut();
+        return 0;
+    case WM_GETMINMAXINFO: {
+        const RECT work = workAreaOf(handle());
+        const SIZE least = frameFor(leastMainArea(dpi_));
+        reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {std::min(least.cx, work.right - work.left),
+                                                                 std::min(least.cy, work.bottom - work.top)};
+        return 0;
+    }
+    case WM_MOUSEWHEEL:
+    case WM_MOUSEHWHEEL:
+        // The pointer stands on the sketch; what can scroll is the form.
+        SendMessageW(GetWindow(mdiClient_, GW_CHILD), message, wParam, lParam);
         return 0;
     case WM_SETCURSOR:
         if (busy_ == 0) break;

@@ -3,6 +3,7 @@
 #include "controls/control_ids.h"
 #include "controls/main_view.h"
 #include "input/sketch_picture.h"
+#include "shell/main_layout.h"
 #include "shell/toolbar_window.h"
 #include "win32/dpi.h"
 #include "win32/picture_window.h"
@@ -48,8 +49,8 @@ class MainWindow : public win32::Window, public MainView {
 
     /// Creates the window, hidden; from now on its events are told.
     void listen(MainEvents& events);
-    /// Shows it; the first time with room for a form of `form` pixels.
-    void show(SIZE form);
+    /// Shows it; the first time with as much room as the form needs, if the screen has it.
+    void show();
     HWND mdiClient() const { return mdiClient_; }
     int dpi() const { return dpi_; }
     /// The flag that is shown: what stands beside the form for Tab.
@@ -76,7 +77,7 @@ class MainWindow : public win32::Window, public MainView {
     HMENU buildMenu();
     void layOut();
     void setDpi(int dpi);
-    int px(int twips) const { return win32::pixels(twips, dpi_); }
+    SIZE frameFor(const Area& client) const;
     void placeSupportButtons();
     LRESULT onActivate(WPARAM wParam, LPARAM lParam);
     LRESULT onCommand(WPARAM wParam, LPARAM lParam);
@@ -93,6 +94,7 @@ class MainWindow : public win32::Window, public MainView {
     win32::UniqueFont font_;
     bool diagramEnabled_ = true;
     int dpi_ = USER_DEFAULT_SCREEN_DPI;
+    int sketchDpi_ = USER_DEFAULT_SCREEN_DPI;
     int flag_ = -1;
     bool shown_ = false;
     int busy_ = 0;

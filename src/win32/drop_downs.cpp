@@ -1,30 +1,14 @@
 #include "win32/drop_downs.h"
 
-#include <commctrl.h>
-
 namespace varno::win32 {
 
 namespace {
-
-constexpr UINT_PTR wheelSubclass = 1;
 
 int selectedRow(HWND list) {
     return static_cast<int>(SendMessageW(list, CB_GETCURSEL, 0, 0));
 }
 
-LRESULT CALLBACK wheelProc(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
-    const bool wheel = message == WM_MOUSEWHEEL || message == WM_MOUSEHWHEEL;
-    if (wheel && SendMessageW(list, CB_GETDROPPEDSTATE, 0, 0) == FALSE)
-        return DefWindowProcW(list, message, wParam, lParam);
-    if (message == WM_NCDESTROY) RemoveWindowSubclass(list, wheelProc, wheelSubclass);
-    return DefSubclassProc(list, message, wParam, lParam);
-}
-
 } // namespace
-
-void passWheelOn(HWND list) {
-    SetWindowSubclass(list, wheelProc, wheelSubclass, 0);
-}
 
 void DropDowns::show(HWND list, int row) {
     SendMessageW(list, CB_SETCURSEL, static_cast<WPARAM>(row), 0);

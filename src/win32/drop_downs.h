@@ -9,10 +9,6 @@
 
 namespace varno::win32 {
 
-/// A closed list passes the mouse wheel on to what it stands in. Of itself it changes its row under a wheel that
-/// was meant to scroll, and nobody notices.
-void passWheelOn(HWND list);
-
 /// The drop-down lists of a window whose rows the program selects through here. What the user does to them is
 /// told only when it is a choice.
 class DropDowns {

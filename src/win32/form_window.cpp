@@ -7,7 +7,10 @@
 #include <utility>
 
 #include "win32/accessible_names.h"
+#include "win32/control_manners.h"
 #include "win32/control_roles.h"
+#include "win32/group_box.h"
+#include "win32/line_edit.h"
 #include "win32/resource_ids.h"
 #include "win32/strings.h"
 
@@ -56,6 +59,21 @@ bool isPushButton(HWND control) {
     if (classOf(control) != "Button") return false;
     const LONG_PTR type = GetWindowLongPtrW(control, GWL_STYLE) & BS_TYPEMASK;
     return type == BS_PUSHBUTTON || type == BS_DEFPUSHBUTTON;
+}
+
+bool isLineEdit(ControlKind kind) {
+    return kind == ControlKind::edit || kind == ControlKind::numberEdit || kind == ControlKind::readOnlyEdit;
+}
+
+// What scrolls nothing of its own.
+bool keepsNoWheel(ControlKind kind) {
+    return kind == ControlKind::dropDown || kind == ControlKind::spin || isLineEdit(kind);
+}
+
+// A label of one line has its text in the middle of its height, as the box beside it has.
+DWORD placeOfText(const ControlSpec& spec) {
+    constexpr int oneLine = raster(18);
+    return spec.kind == ControlKind::label && spec.height <= oneLine ? SS_CENTERIMAGE : 0;
 }
 
 // Every other window of the program, disabled for as long as a modal window runs.
@@ -208,14 +226,17 @@ void FormWindow::addControls(std::span<const ControlSpec> controls) {
         if (spec.kind == ControlKind::label && *spec.text != '\0') label_ = spec.text;
         const KindStyle& kind = *std::ranges::find(styles, spec.kind, &KindStyle::kind);
         const HWND control = createControl(handle(), spec.id, kind.className, spec.text,
-                                           WS_VISIBLE | kind.style, kind.exStyle);
+                                           WS_VISIBLE | kind.style | placeOfText(spec), kind.exStyle);
         if (spec.kind == ControlKind::memo) {
             SendMessageW(control, EM_SETLIMITTEXT, 0, 0);
             leaveKeysToWindow(control);
         }
         // Of itself a spin button's range runs from 100 down to 0, and its upper arrow counts down.
         if (spec.kind == ControlKind::spin) SendMessageW(control, UDM_SETRANGE32, 0, 100);
-        if (spec.kind == ControlKind::dropDown) passWheelOn(control);
+        if (isLineEdit(spec.kind)) dressLineEdit(control);
+        if (spec.kind == ControlKind::group) drawGroup(control);
+        if (keepsNoWheel(spec.kind)) passWheelOn(control);
+        tellWhenReached(control);
         if (spec.kind == ControlKind::edit || spec.kind == ControlKind::numberEdit) watchBox(control, *this);
         describe(control, spec.kind, takesLabel(spec.kind) ? label_.substr(0, label_.find(':')) : "");
         // A drop-down list's height is that of its open list.
@@ -235,11 +256,6 @@ void FormWindow::name(int id, ControlKind kind, const std::string& name) {
 
 void FormWindow::setFont(HWND control, FontRole role) {
     SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font(role)), TRUE);
-    if (classOf(control) != "Edit" || (GetWindowLongPtrW(control, GWL_STYLE) & ES_RIGHT) == 0) return;
-    // A new font brings margins of its own, which leave a number box so little room that it scrolls the first
-    // digit of "0,170" away when the caret stands behind the last.
-    const int margin = px(raster(1));
-    SendMessageW(control, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(margin, margin));
 }
 
 void FormWindow::setFontRole(int id, FontRole role) {
@@ -266,7 +282,8 @@ void FormWindow::layOut() {
         // Both edges are rounded, not the size: neighbours that touch in twips touch in pixels.
         const int left = px(placed.twips.left);
         const int top = px(placed.twips.top);
-        setPlace(placed.control, {left, top, px(placed.twips.right), px(placed.twips.bottom)});
+        setPlace(placed.control, origin_.x + left, origin_.y + top, px(placed.twips.right) - left,
+                 px(placed.twips.bottom) - top);
     }
 }
 
@@ -281,13 +298,14 @@ void FormWindow::sizeAndCentre(int width, int height, HWND over) {
     GetMonitorInfoW(MonitorFromWindow(over != nullptr ? over : handle(), MONITOR_DEFAULTTONEAREST), &monitor);
     RECT around = monitor.rcWork;
     if (over != nullptr && IsWindowVisible(over) && !IsIconic(over)) GetWindowRect(over, &around);
-    const int w = frame.right - frame.left;
-    const int h = frame.bottom - frame.top;
+    const RECT& work = monitor.rcWork;
+    const int w = static_cast<int>(std::min(frame.right - frame.left, work.right - work.left));
+    const int h = static_cast<int>(std::min(frame.bottom - frame.top, work.bottom - work.top));
     const auto middle = [](LONG low, LONG high, int size, LONG least, LONG most) {
         return std::max<LONG>(least, std::min<LONG>(low + (high - low - size) / 2, most - size));
     };
-    setPlace(handle(), middle(around.left, around.right, w, monitor.rcWork.left, monitor.rcWork.right),
-             middle(around.top, around.bottom, h, monitor.rcWork.top, monitor.rcWork.bottom), w, h);
+    setPlace(handle(), middle(around.left, around.right, w, work.left, work.right),
+             middle(around.top, around.bottom, h, work.top, work.bottom), w, h);
     layOut();
 }
 
@@ -314,6 +332,11 @@ void FormWindow::controlTold(HWND control, int notification) {
 
 void FormWindow::onCommand(int id, int) {
     if (id == IDCANCEL) onCloseBox();
+}
+
+void FormWindow::showWhole(HWND box, bool shown) {
+    whole_.hide();
+    if (shown) whole_.show(box, textOf(box));
 }
 
 void FormWindow::drawPicture(const DRAWITEMSTRUCT& item) {
@@ -360,6 +383,12 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return 0;
     case WM_CLOSE:
         onCloseBox();
+        return 0;
+    case controlReached:
+        reached(reinterpret_cast<HWND>(lParam));
+        return 0;
+    case numberCut:
+        showWhole(reinterpret_cast<HWND>(lParam), wParam != FALSE);
         return 0;
     case returnToBox:
         returnTo(item(static_cast<int>(wParam)));

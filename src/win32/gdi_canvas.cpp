@@ -22,7 +22,7 @@ LONG GdiCanvas::px(double twips) const {
 }
 
 int GdiCanvas::penWidth(int width) const {
-    return std::max(1, static_cast<int>(std::lround(width * twipsPerPixel * dpi_ / twipsPerInch)));
+    return std::max(1, static_cast<int>(std::lround(width * twipsPerPixel * penDpi_ / twipsPerInch)));
 }
 
 void GdiCanvas::line(Point from, Point to, Colour colour, int width) {

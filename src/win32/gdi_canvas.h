@@ -12,7 +12,9 @@ COLORREF colourRef(Rgb rgb);
 /// owns the surface fills it first.
 class GdiCanvas : public Canvas {
   public:
-    GdiCanvas(HDC dc, int dpi, COLORREF foreground) : dc_(dc), dpi_(dpi), foreground_(foreground) {}
+    /// `dpi` is the scale of places and sizes, `penDpi` that of the line widths.
+    GdiCanvas(HDC dc, int dpi, int penDpi, COLORREF foreground)
+        : dc_(dc), dpi_(dpi), penDpi_(penDpi), foreground_(foreground) {}
 
     void clear() override {}
     void line(Point from, Point to, Colour colour, int width = 1) override;
@@ -27,6 +29,7 @@ class GdiCanvas : public Canvas {
 
     HDC dc_;
     int dpi_;
+    int penDpi_;
     COLORREF foreground_;
 };
 

@@ -82,7 +82,8 @@ void GdiPrinter::startDocument() {
     info.lpszDocName = L"Kalvora Tessaplan";
     if (dc == nullptr || StartDocW(dc.get(), &info) <= 0) throw RunTimeError(errPrinter);
     dc_ = std::move(dc);
-    canvas_ = std::make_unique<GdiCanvas>(dc_.get(), deviceCaps(LOGPIXELSX), RGB(0, 0, 0));
+    canvas_ =
+        std::make_unique<GdiCanvas>(dc_.get(), deviceCaps(LOGPIXELSX), deviceCaps(LOGPIXELSX), RGB(0, 0, 0));
     fontFace_.clear();
 }
 

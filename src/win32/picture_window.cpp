@@ -15,8 +15,10 @@ void PictureWindow::create(HWND parent, int id, const std::string& name, const R
     nameForScreenReaders(handle(), name, ROLE_SYSTEM_GRAPHIC);
 }
 
-void PictureWindow::setDpi(int dpi) {
-    dpi_ = dpi;
+void PictureWindow::setScale(int surfaceDpi, int penDpi) {
+    if (surfaceDpi == surfaceDpi_ && penDpi == penDpi_) return;
+    surfaceDpi_ = surfaceDpi;
+    penDpi_ = penDpi;
     redraw();
 }
 
@@ -30,7 +32,7 @@ void PictureWindow::paint() {
         const UniqueBitmap bitmap(CreateCompatibleBitmap(screen, client.right, client.bottom));
         const Selected selected(memory.get(), bitmap.get());
         FillRect(memory.get(), &client, GetSysColorBrush(COLOR_BTNFACE));
-        GdiCanvas canvas(memory.get(), dpi_, GetSysColor(COLOR_BTNTEXT));
+        GdiCanvas canvas(memory.get(), surfaceDpi_, penDpi_, GetSysColor(COLOR_BTNTEXT));
         replay(*picture_, canvas);
         // Before the keyboard can open its menu, one sees that it is here.
         if (GetFocus() == handle()) DrawFocusRect(memory.get(), &client);

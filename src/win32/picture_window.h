@@ -13,7 +13,9 @@ class PictureWindow : public Window {
 
     /// `name` is for screen readers. The picture outlives the window.
     void create(HWND parent, int id, const std::string& name, const RecordingCanvas& picture);
-    void setDpi(int dpi);
+    /// The scale of the surface, in pixels to the inch, and the resolution that its lines are drawn for: on a surface that
+    /// has grown they are as thin as ever.
+    void setScale(int surfaceDpi, int penDpi);
     /// Paints the drawing as it is now.
     void redraw() { InvalidateRect(handle(), nullptr, FALSE); }
 
@@ -24,7 +26,8 @@ class PictureWindow : public Window {
     void paint();
 
     const RecordingCanvas* picture_ = nullptr;
-    int dpi_ = USER_DEFAULT_SCREEN_DPI;
+    int surfaceDpi_ = USER_DEFAULT_SCREEN_DPI;
+    int penDpi_ = USER_DEFAULT_SCREEN_DPI;
 };
 
 } // namespace varno::win32

@@ -121,9 +121,14 @@ void findCutCaptions(const Program& program, const std::vector<Control>& control
 } // namespace
 
 std::vector<std::string> layoutFaults(const Program& program, const Control& window, int dpi) {
-    std::vector<std::string> faults;
     RECT client{};
     GetClientRect(window.handle(), &client);
+    return layoutFaults(program, window, dpi, client);
+}
+
+std::vector<std::string> layoutFaults(const Program& program, const Control& window, int dpi,
+                                      const RECT& area) {
+    std::vector<std::string> faults;
     const auto children = window.children();
     findCutCaptions(program, children, dpi, faults);
     std::vector<Control> shown;
@@ -132,7 +137,7 @@ std::vector<std::string> layoutFaults(const Program& program, const Control& win
         RECT common{};
         // A label without a text takes no room.
         if (!child.visible() || (child.className() == "Static" && child.text().empty())) continue;
-        IntersectRect(&common, &box, &client);
+        IntersectRect(&common, &box, &area);
         if (!EqualRect(&common, &box)) faults.push_back(nameOf(child) + " is not inside");
         // A frame's content lies on it.
         if (!isGroup(child)) shown.push_back(child);

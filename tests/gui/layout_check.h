@@ -10,5 +10,8 @@ namespace varno::gui {
 /// What is wrong with how the controls of a window stand at this resolution, one line each: a caption that
 /// its control cannot show whole, a control outside the window, two that overlap.
 std::vector<std::string> layoutFaults(const Program& program, const Control& window, int dpi);
+/// The same of a window that scrolls; `area` is where its content lies, as scrolled.
+std::vector<std::string> layoutFaults(const Program& program, const Control& window, int dpi,
+                                      const RECT& area);
 
 } // namespace varno::gui
