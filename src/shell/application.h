@@ -71,7 +71,7 @@ class Application : public win32::WindowHost,
     void showBeside() override;
 
     // StartUpView
-    void showMainWindow() override { main_.show(form_.naturalSize()); }
+    void showMainWindow() override { main_.show(); }
     bool showVersionNotice() override { return askVersionNotice(*this, main_.handle()); }
     void showDisclaimer() override { DisclaimerWindow(*this, main_.handle()).runModal(); }
     void showInputForm() override;

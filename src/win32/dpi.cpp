@@ -39,8 +39,7 @@ UniqueFont systemFont(int dpi, FontRole role) {
         break;
     case FontRole::symbol:
         // Formula letters, some of them Greek, which not every interface font has.
-        font.lfHeight = MulDiv(font.lfHeight, 5, 4);
-        font.lfItalic = TRUE;
+        font.lfHeight = MulDiv(font.lfHeight, 3, 2);
         std::wcscpy(font.lfFaceName, L"Times New Roman");
         break;
     case FontRole::subscript:

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "controls/control_spec.h"
+#include "win32/balloon.h"
 #include "win32/box_keys.h"
 #include "win32/dpi.h"
 #include "win32/drop_downs.h"
@@ -41,8 +42,8 @@ class FormWindow : public Window, private FieldWindow, private BoxKeys {
                       DWORD closeBox = WS_SYSMENU);
     /// Creates the controls of the table in its order, which is the tab order.
     void addControls(std::span<const ControlSpec> controls);
-    /// Gives the client area this size in twips at the window's resolution and centres it over `over` (or the
-    /// work area of its monitor).
+    /// Gives the client area this size in twips at the window's resolution, as far as the work area has room for it, and
+    /// centres it over `over` (or the work area of its monitor).
     void sizeAndCentre(int width, int height, HWND over);
 
     /// Selects a row of a drop-down list, -1 for none, or empties it; nothing is told of it.
@@ -52,6 +53,12 @@ class FormWindow : public Window, private FieldWindow, private BoxKeys {
     /// Places the controls; a window that can be resized overrides it. Called after a change of resolution
     /// too.
     virtual void layOut();
+
+    /// Where the table's corner lies in the client area, in pixels; `layOut` goes by it.
+    void setOrigin(POINT origin) { origin_ = origin; }
+    POINT origin() const { return origin_; }
+    /// A control has got the focus.
+    virtual void reached(HWND) {}
 
     /// The system fonts were given to the controls again; a window with fonts of its own sets them now.
     virtual void fontsChanged() {}
@@ -90,6 +97,7 @@ class FormWindow : public Window, private FieldWindow, private BoxKeys {
     bool pressFocused();
     void moveTo(HWND control);
     void returnTo(HWND box);
+    void showWhole(HWND box, bool shown);
     void drawSymbol(const DRAWITEMSTRUCT& item);
     HFONT font(FontRole role) const { return fonts_[static_cast<int>(role)].get(); }
     void setFont(HWND control, FontRole role);
@@ -98,9 +106,11 @@ class FormWindow : public Window, private FieldWindow, private BoxKeys {
     std::map<int, std::string> entered_; ///< the texts of boxes as they got the focus
     UniqueFont fonts_[fontRoles];
     int dpi_ = USER_DEFAULT_SCREEN_DPI;
+    POINT origin_{};
     DropDowns dropDowns_;
     bool open_ = false;
     std::string label_; ///< in front of the control that is made now
+    Balloon whole_{host()}; ///< the number that its box has no room for
 };
 
 } // namespace varno::win32

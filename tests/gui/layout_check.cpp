@@ -32,6 +32,12 @@ class Measure {
         return sizeOf(box);
     }
 
+    LONG height() const {
+        TEXTMETRICW metrics{};
+        GetTextMetricsW(dc_.get(), &metrics);
+        return metrics.tmHeight;
+    }
+
   private:
     win32::WindowDc dc_{nullptr};
     win32::UniqueFont font_;
@@ -59,11 +65,12 @@ bool buttonFits(const Control& control, const Measure& measure, int dpi) {
 
 bool staticFits(const Control& control, const Measure& measure) {
     const SIZE room = sizeOf(control.place());
-    std::string text = control.text();
+    const std::string text = control.text();
     if ((control.style() & SS_TYPEMASK) == SS_OWNERDRAW) {
-        // A letter five quarters as large, and a smaller subscript behind the "_".
-        text.erase(std::remove(text.begin(), text.end(), '_'), text.end());
-        return measure.width(text) * 5 / 4 <= room.cx;
+        // Letters half as large again, and a smaller subscript behind the "_".
+        const auto split = std::min(text.find('_'), text.size());
+        const std::string small = split < text.size() ? text.substr(split + 1) : "";
+        return measure.width(text.substr(0, split)) * 3 / 2 + measure.width(small) * 5 / 6 <= room.cx;
     }
     const SIZE needed = measure.broken(text, room.cx);
     return needed.cx <= room.cx && needed.cy <= room.cy;
@@ -118,6 +125,46 @@ void findCutCaptions(const Program& program, const std::vector<Control>& control
     }
 }
 
+// Half the height of a line in the middle of which the text of a control stands, from the top of the parent.
+LONG middleOfText(const Control& control, const LOGFONTW& font) {
+    const RECT box = control.place();
+    if (control.className() != "Edit") return (box.top + box.bottom) / 2;
+    RECT inside{};
+    control.send(EM_GETRECT, 0, reinterpret_cast<LPARAM>(&inside));
+    POINT top{0, inside.top};
+    MapWindowPoints(control.handle(), GetParent(control.handle()), &top, 1);
+    return top.y + Measure(font).height() / 2;
+}
+
+// A label beside a box and the number in it stand on one line.
+void findUnevenLines(const Program& program, const std::vector<Control>& controls,
+                     std::vector<std::string>& faults) {
+    std::vector<Control> labels;
+    std::vector<Control> boxes;
+    for (const Control& control : controls) {
+        if (!control.visible()) continue;
+        const LONG height = sizeOf(control.place()).cy;
+        if (control.className() == "Static" && (control.style() & SS_CENTERIMAGE) != 0 && height > 0)
+            labels.push_back(control);
+        if (control.className() == "Edit" && (control.style() & ES_RIGHT) != 0) boxes.push_back(control);
+    }
+    const std::vector<LOGFONTW> fonts = program.fontsOf(boxes);
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+        const RECT box = boxes[i].place();
+        const Control* nearest = nullptr;
+        for (const Control& label : labels) {
+            const RECT words = label.place();
+            if (words.top < box.top || words.bottom > box.bottom || words.left > box.left) continue;
+            if (nearest == nullptr || words.left > nearest->place().left) nearest = &label;
+        }
+        if (nearest == nullptr) continue;
+        const LONG off = middleOfText(boxes[i], fonts[i]) - middleOfText(*nearest, fonts[i]);
+        if (off < -1 || off > 1)
+            faults.push_back(nameOf(boxes[i]) + " stands " + std::to_string(off) + " lower than " +
+                             nameOf(*nearest));
+    }
+}
+
 } // namespace
 
 std::vector<std::string> layoutFaults(const Program& program, const Control& window, int dpi) {
@@ -131,6 +178,7 @@ std::vector<std::string> layoutFaults(const Program& program, const Control& win
     std::vector<std::string> faults;
     const auto children = window.children();
     findCutCaptions(program, children, dpi, faults);
+    findUnevenLines(program, children, faults);
     std::vector<Control> shown;
     for (const Control& child : children) {
         const RECT box = child.place();

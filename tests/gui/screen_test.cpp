@@ -133,6 +133,27 @@ TEST_F(Screen, TheSketchGrowsAndShrinksWithTheWindow) {
     expectSoon(program(), false, [] { return IsZoomed(main().handle()) != FALSE; });
 }
 
+TEST_F(Screen, ANumberThatIsTooWideForEveryFaceStandsBesideItsBox) {
+    resize(980, 740);
+    const auto shown = [](const std::string& text) {
+        for (HWND tip = nullptr;
+             (tip = FindWindowExW(nullptr, tip, L"tooltips_class32", nullptr)) != nullptr;) {
+            if (IsWindowVisible(tip) && Control(tip).text() == text) return true;
+        }
+        return false;
+    };
+    program().typeInto({Field::plast, 1}, "12345678");
+    program().field(Field::rubrik).clickInto();
+    expectSoon(program(), true,
+               [] { return program().field(Field::plast, 2).text().starts_with("12345678"); });
+    const std::string whole = program().field(Field::plast, 2).text();
+    EXPECT_FALSE(shown(whole));
+    program().field(Field::plast, 2).clickInto();
+    expectSoon(program(), true, [&] { return shown(whole); });
+    program().field(Field::rubrik).clickInto();
+    expectSoon(program(), false, [&] { return shown(whole); });
+}
+
 // A screen that is small for its scaling: 640 x 400 at 100 %.
 TEST(SmallScreen, NoWindowIsLargerThanTheWorkArea) {
     Scene scene;

@@ -1,0 +1,258 @@
+#include "win32/line_edit.h"
+
+#include <commctrl.h>
+
+#include <array>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "controls/number_fit.h"
+#include "win32/dpi.h"
+#include "win32/strings.h"
+#include "win32/unique.h"
+
+namespace varno::win32 {
+
+namespace {
+
+constexpr UINT_PTR lineSubclass = 3;
+constexpr int insideMargin = 1; // above and below the text, as Windows keeps it
+
+UniqueFont smaller(HFONT font, int percent) {
+    LOGFONTW face{};
+    GetObjectW(font, sizeof face, &face);
+    face.lfHeight = MulDiv(face.lfHeight, percent, 100);
+    return UniqueFont(CreateFontIndirectW(&face));
+}
+
+int widthIn(HFONT font, const std::wstring& text) {
+    const WindowDc dc(nullptr);
+    const Selected selected(dc.get(), font);
+    SIZE size{};
+    GetTextExtentPoint32W(dc.get(), text.c_str(), static_cast<int>(text.size()), &size);
+    return static_cast<int>(size.cx);
+}
+
+// One text box; it goes with its window.
+class LineEdit {
+  public:
+    explicit LineEdit(HWND edit)
+        : edit_(edit), isNumber_((GetWindowLongPtrW(edit, GWL_STYLE) & ES_RIGHT) != 0) {}
+
+    static LRESULT CALLBACK proc(HWND edit, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                 DWORD_PTR self) {
+        auto* const line = reinterpret_cast<LineEdit*>(self);
+        if (message == WM_NCDESTROY) {
+            const std::unique_ptr<LineEdit> end(line);
+            RemoveWindowSubclass(edit, proc, lineSubclass);
+            return DefSubclassProc(edit, message, wParam, lParam);
+        }
+        return line->onMessage(message, wParam, lParam);
+    }
+
+  private:
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT defaultProc(UINT message, WPARAM wParam, LPARAM lParam) {
+        return DefSubclassProc(edit_, message, wParam, lParam);
+    }
+    void takeFont(HFONT font);
+    void useFont(HFONT font, int margin);
+    void centre(RECT& client);
+    void paintAround();
+    void paintCut();
+    HBRUSH ground(HDC dc) const;
+    void fit();
+    void tell();
+
+    HWND edit_;
+    bool isNumber_;
+    HFONT font_ = nullptr; ///< the one that was given
+    UniqueFont small_;
+    NumberFit fit_{0, true};
+    bool pointed_ = false; ///< the pointer is over it
+    bool told_ = false;
+    bool fitting_ = false;
+    int above_ = 0; ///< what the client area was lowered by, and raised by at its end
+    int below_ = 0;
+};
+
+HBRUSH LineEdit::ground(HDC dc) const {
+    const bool open = IsWindowEnabled(edit_) && (GetWindowLongPtrW(edit_, GWL_STYLE) & ES_READONLY) == 0;
+    return reinterpret_cast<HBRUSH>(SendMessageW(GetParent(edit_), open ? WM_CTLCOLOREDIT : WM_CTLCOLORSTATIC,
+                                                 reinterpret_cast<WPARAM>(dc),
+                                                 reinterpret_cast<LPARAM>(edit_)));
+}
+
+void LineEdit::centre(RECT& client) {
+    const auto font = reinterpret_cast<HFONT>(SendMessageW(edit_, WM_GETFONT, 0, 0));
+    const WindowDc dc(nullptr);
+    const Selected selected(dc.get(), font);
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(dc.get(), &metrics);
+    const int spare = static_cast<int>(client.bottom - client.top - metrics.tmHeight - 2 * insideMargin);
+    above_ = spare > 0 ? spare / 2 : 0;
+    below_ = spare > 0 ? spare - above_ : 0;
+    client.top += above_;
+    client.bottom -= below_;
+}
+
+// What lies between the border and the client area.
+void LineEdit::paintAround() {
+    if (above_ == 0 && below_ == 0) return;
+    RECT window{};
+    GetWindowRect(edit_, &window);
+    RECT client{};
+    GetClientRect(edit_, &client);
+    MapWindowPoints(edit_, nullptr, reinterpret_cast<POINT*>(&client), 2);
+    OffsetRect(&client, -window.left, -window.top);
+    const HDC dc = GetWindowDC(edit_);
+    const HBRUSH brush = ground(dc);
+    const RECT top{client.left, client.top - above_, client.right, client.top};
+    const RECT bottom{client.left, client.bottom, client.right, client.bottom + below_};
+    FillRect(dc, &top, brush);
+    FillRect(dc, &bottom, brush);
+    ReleaseDC(edit_, dc);
+}
+
+void LineEdit::paintCut() {
+    PAINTSTRUCT painting{};
+    const HDC dc = BeginPaint(edit_, &painting);
+    RECT box{};
+    GetClientRect(edit_, &box);
+    FillRect(dc, &box, ground(dc));
+    const Selected letters(dc, reinterpret_cast<HFONT>(SendMessageW(edit_, WM_GETFONT, 0, 0)));
+    SetBkMode(dc, TRANSPARENT);
+    if (!IsWindowEnabled(edit_)) SetTextColor(dc, GetSysColor(COLOR_GRAYTEXT));
+    DrawTextW(dc, wide(textOf(edit_)).c_str(), -1, &box,
+              DT_RIGHT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
+    EndPaint(edit_, &painting);
+}
+
+void LineEdit::useFont(HFONT font, int margin) {
+    defaultProc(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+    // A new font brings margins of its own, which leave a number box so little room that it scrolls the first
+    // digit of "0,170" away when the caret stands behind the last.
+    if (isNumber_) defaultProc(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(margin, margin));
+    SetWindowPos(edit_, nullptr, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+}
+
+void LineEdit::takeFont(HFONT font) {
+    font_ = font;
+    fit_ = {0, true};
+    small_.reset();
+    useFont(font, MulDiv(1, dpiOf(edit_), USER_DEFAULT_SCREEN_DPI));
+    fit();
+}
+
+void LineEdit::fit() {
+    if (!isNumber_ || font_ == nullptr || fitting_) return;
+    fitting_ = true;
+    const std::wstring text = wide(textOf(edit_));
+    RECT client{};
+    GetClientRect(edit_, &client);
+    // The caret takes a pixel behind the last digit.
+    const int room =
+        static_cast<int>(client.right) - 2 * MulDiv(1, dpiOf(edit_), USER_DEFAULT_SCREEN_DPI) - 1;
+    std::array<int, faceSizes.size()> widths{};
+    std::array<UniqueFont, faceSizes.size()> fonts;
+    for (std::size_t face = 0; face < faceSizes.size(); ++face) {
+        if (face > 0) fonts[face] = smaller(font_, faceSizes[face]);
+        widths[face] = widthIn(face > 0 ? fonts[face].get() : font_, text);
+        if (widths[face] <= room) break;
+    }
+    // Those that were not measured are not asked for.
+    const NumberFit now = fitNumber(widths, room);
+    const bool other = now.face != fit_.face;
+    const bool mark = now.whole != fit_.whole;
+    fit_ = now;
+    if (other) {
+        UniqueFont fresh = std::move(fonts[now.face]);
+        useFont(now.face == 0 ? font_ : fresh.get(), MulDiv(1, dpiOf(edit_), USER_DEFAULT_SCREEN_DPI));
+        small_ = std::move(fresh);
+    }
+    if (other || mark || !now.whole) InvalidateRect(edit_, nullptr, TRUE);
+    fitting_ = false;
+    tell();
+}
+
+void LineEdit::tell() {
+    const bool wanted = !fit_.whole && (pointed_ || GetFocus() == edit_);
+    if (!wanted && !told_) return;
+    told_ = wanted;
+    SendMessageW(GetParent(edit_), numberCut, wanted ? TRUE : FALSE, reinterpret_cast<LPARAM>(edit_));
+}
+
+bool changesText(UINT message) {
+    switch (message) {
+    case WM_SETTEXT:
+    case WM_CHAR:
+    case WM_KEYDOWN:
+    case WM_PASTE:
+    case WM_CUT:
+    case WM_CLEAR:
+    case WM_UNDO:
+    case EM_UNDO:
+    case EM_REPLACESEL:
+        return true;
+    default:
+        return false;
+    }
+}
+
+LRESULT LineEdit::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_SETFONT:
+        takeFont(reinterpret_cast<HFONT>(wParam));
+        return 0;
+    case WM_NCCALCSIZE: {
+        const LRESULT result = defaultProc(message, wParam, lParam);
+        centre(*reinterpret_cast<RECT*>(lParam));
+        return result;
+    }
+    case WM_NCPAINT: {
+        const LRESULT result = defaultProc(message, wParam, lParam);
+        paintAround();
+        return result;
+    }
+    case WM_NCHITTEST: {
+        // A click above or below the text is one into the box.
+        const LRESULT place = defaultProc(message, wParam, lParam);
+        return place == HTNOWHERE || place == HTBORDER ? HTCLIENT : place;
+    }
+    case WM_PAINT:
+        if (fit_.whole || GetFocus() == edit_) break;
+        paintCut();
+        return 0;
+    case WM_MOUSEMOVE:
+        if (!pointed_ && !fit_.whole) {
+            TRACKMOUSEEVENT leave{sizeof leave, TME_LEAVE, edit_, 0};
+            pointed_ = TrackMouseEvent(&leave) != FALSE;
+            tell();
+        }
+        break;
+    case WM_MOUSELEAVE:
+        pointed_ = false;
+        tell();
+        break;
+    default:
+        break;
+    }
+    const LRESULT result = defaultProc(message, wParam, lParam);
+    if (changesText(message) || message == WM_SIZE) fit();
+    if (message == WM_ENABLE) RedrawWindow(edit_, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
+    if ((message == WM_SETFOCUS || message == WM_KILLFOCUS) && !fit_.whole) {
+        InvalidateRect(edit_, nullptr, TRUE);
+        tell();
+    }
+    return result;
+}
+
+} // namespace
+
+void dressLineEdit(HWND edit) {
+    SetWindowSubclass(edit, LineEdit::proc, lineSubclass, reinterpret_cast<DWORD_PTR>(new LineEdit(edit)));
+}
+
+} // namespace varno::win32
