@@ -115,9 +115,9 @@ TEST_F(EditSketch, PicturesAndSupportButtonsStandInPlace) {
 }
 
 TEST_F(EditSketch, ButtonsStandInPlaceOnASharperScreen) {
-    restartAt(144);
+    restartAt(120);
     openFourteenMetres();
-    expectButtons({900, 3300, 5700, 8100}, 144);
+    expectButtons({900, 3300, 5700, 8100}, 120);
 }
 
 TEST_F(EditSketch, SlabIsDrawnInItsWholeLength) {
