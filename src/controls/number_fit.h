@@ -8,7 +8,7 @@ namespace varno {
 
 /// The faces that a number is shown in, by their size in per cent of the ordinary one. A number too wide for its box is
 /// drawn smaller: cut off it would look like another number. Smaller than the last of them nobody could read it.
-inline constexpr std::array faceSizes{100, 92, 84, 77, 70};
+inline constexpr std::array faceSizes{100, 92, 84, 77, 70, 64};
 
 struct NumberFit {
     std::size_t face; ///< of `faceSizes`
