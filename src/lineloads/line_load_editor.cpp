@@ -59,7 +59,7 @@ void LineLoadEditor::arrow(LineLoadControl box, int rows) {
     }
     const LineLoadControl next{box.box, box.index + rows};
     const bool multiplier = box.box == LineLoadBox::multiplier;
-    const int last = multiplier ? static_cast<int>(multiplierBoxes.size()) : maxLineLoads;
+    const int last = multiplier ? static_cast<int>(multiplierLabels.size()) : maxLineLoads;
     if (next.index < 1 || next.index > last || (!multiplier && !visible_(next.index))) return;
     context_.view.enter(next);
 }
