@@ -103,8 +103,7 @@ LineLoadWindow::LineLoadWindow(win32::WindowHost& host, HWND owner, const LineLo
     if (set.hasMultipliers) addMultipliers(form);
     addControls(form.controls);
     for (const ControlSpec& control : form.controls) {
-        if (const auto box = controlOf(control.id))
-            name(control.id, ControlKind::numberEdit, accessibleName(*box));
+        if (const auto box = controlOf(control.id)) name(control.id, control.kind, accessibleName(*box));
     }
     name(idLineLoadSpin, ControlKind::spin, accessibleName({LineLoadBox::nllast}));
 }

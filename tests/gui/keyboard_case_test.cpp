@@ -173,10 +173,6 @@ TEST_F(KeyboardCase, IsEnteredSavedAndCalculatedWithoutAMouse) {
     EXPECT_EQ(line(32), "2");
 
     keyboard::pressWith(VK_MENU, VK_F4);
-    program().until([] { return !program().running() || program().shows(savePromptClass) || program().shows(messageBoxClass); });
-    EXPECT_FALSE(program().shows(savePromptClass));
-    EXPECT_FALSE(program().shows(messageBoxClass));
-    EXPECT_FALSE(program().shows(mainClass)) << program().focused().className() << program().focused().id();
     expectSoon(program(), false, [] { return program().running(); });
 }
 

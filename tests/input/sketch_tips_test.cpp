@@ -77,8 +77,8 @@ TEST_F(SketchTipTexts, PartsWithoutAWidthHaveNone) {
 
 TEST_F(SketchTipTexts, ADamagedCaseHasWhatCanBeNamed) {
     designCase.spv(1) = std::nanf("");
-    for (const std::int16_t spans : {-3, 0, 15, 99}) {
-        designCase.nfack = spans;
+    for (const int spans : {-3, 0, 15, 99}) {
+        designCase.nfack = static_cast<std::int16_t>(spans);
         designCase.nllast = 9;
         EXPECT_NO_THROW(sketchTips(designCase, sketch, {})) << spans;
     }
