@@ -92,11 +92,13 @@ TEST_F(Printing, MissingResultIsTold) {
 }
 
 TEST_F(Printing, ToolbarPrintsTheResultOfTheEngine) {
+    // Ten spans take two pages.
+    program.open("tiofack.ind");
     program.calculate();
     program.clickToolbar(idPrintResult);
     const Print print = prints.next();
     ASSERT_EQ(print.pages.size(), 2u);
-    const Bytes result = scene.read("BOSTAD.res");
+    const Bytes result = scene.read("TIOFACK.res");
     const auto second = result.find("^\r\n") + 3;
     expectWords(print.pages[0], viewerText(result.substr(0, second)));
     expectWords(print.pages[1], viewerText(result.substr(second)));
