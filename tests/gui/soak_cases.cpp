@@ -168,8 +168,9 @@ void SoakWalk::compareOpened(const std::string& path) {
     } catch (const GuiError&) {
         return; // a folder
     }
+    // With one of its questions refused the file may have been opened, or not.
+    strange_ = !checkFile(bytes).empty() || (refused_ && strange_);
     if (refused_) return;
-    strange_ = !checkFile(bytes).empty();
     strangeNumbers_ = strangeNumbers_ || strange_;
     if (strange_) return;
     const CaseFile opened = readSavedCase(path);
