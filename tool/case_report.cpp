@@ -46,7 +46,7 @@ class Report {
   public:
     explicit Report(const CaseFile& loaded) {
         const std::string name = loaded.name + ".IND";
-        text_ = name + "\n" + std::string(characterCount(name), '=') + "\n" +
+        text_ += name + "\n" + std::string(characterCount(name), '=') + "\n" +
                 withoutTrailingBlanks(loaded.title) + "\n";
     }
     void heading(const std::string& caption) { text_ += "\n" + caption + "\n"; }

@@ -70,7 +70,7 @@ SavedCheck checkSaved(const CaseFile& caseFile, const Bytes& written) {
     CasePlace place;
     for (const CaseLine& line : caseLines) {
         place = {place.line + 1, 0};
-        forEachNumber(line, caseFile.designCase, [&](CellFormat cell, auto, auto, auto at) {
+        forEachNumber(line, caseFile.designCase, [&](const CellFormat& cell, auto, auto, auto at) {
             if (cell.isColumn()) ++place.cell;
             const auto kept = plain(at(caseFile.designCase));
             const auto read = plain(at(numbers->designCase));

@@ -16,7 +16,7 @@ std::string cellOf(Number value, CellFormat cell) {
     text.resize(cell.width, ' ');
     return text;
 }
-std::string cellOf(std::int16_t value, CellFormat cell) {
+std::string cellOf(std::int16_t value, const CellFormat& cell) {
     return cellOf(static_cast<double>(value), cell);
 }
 std::string cellOf(const Factor& factor, CellFormat cell) {

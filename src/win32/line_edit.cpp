@@ -150,11 +150,10 @@ void LineEdit::fit() {
     if (!isNumber_ || font_ == nullptr || fitting_) return;
     fitting_ = true;
     const std::wstring text = wide(textOf(edit_));
-    RECT client{};
-    GetClientRect(edit_, &client);
+    RECT inside{};
+    defaultProc(EM_GETRECT, 0, reinterpret_cast<LPARAM>(&inside));
     // The caret takes a pixel behind the last digit.
-    const int room =
-        static_cast<int>(client.right) - 2 * MulDiv(1, dpiOf(edit_), USER_DEFAULT_SCREEN_DPI) - 1;
+    const int room = static_cast<int>(inside.right - inside.left) - 1;
     std::array<int, faceSizes.size()> widths{};
     std::array<UniqueFont, faceSizes.size()> fonts;
     for (std::size_t face = 0; face < faceSizes.size(); ++face) {

@@ -3,6 +3,7 @@
 
 #include "driver/keyboard.h"
 #include "driver/mouse.h"
+#include "driver/wait.h"
 #include "shared_program.h"
 #include "soon.h"
 
