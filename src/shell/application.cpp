@@ -12,12 +12,6 @@
 
 namespace varno {
 
-namespace {
-
-constexpr const char* errorTitle = "Varno";
-
-} // namespace
-
 Application::Application()
     : locale_(win32::userNumberLocale()), files_(systemFileCalls(), boxes_), fileInfo_(*this),
       fileDialog_(folders_, boxes_, fileInfo_), leftovers_(folders_, systemFileCalls()),
@@ -44,7 +38,7 @@ int Application::run() {
     try {
         startUp(settings_, document_, files_, main_, *this);
     } catch (const RunTimeError& error) {
-        boxes_.show(error.message(), MB_OK | MB_ICONERROR, errorTitle);
+        boxes_.showError(error);
         return 1;
     }
     offerLeftovers();
@@ -66,11 +60,6 @@ void Application::offerRescued() {
 }
 
 // What the windows ask of the program
-
-void Application::report(const RunTimeError& error) {
-    reported_.push_back(error);
-    main_.postRunTimeError();
-}
 
 bool Application::translate(MSG& message) {
     if (translateHelpKey(message) || translateStepKey(message)) return true;
@@ -238,13 +227,6 @@ void Application::clientResized(int width, int height) {
 void Application::helpRequested(const HELPINFO& request) {
     const std::string topic = helpTopicOfRequest(request);
     if (!topic.empty()) help_.show(topic, settings_.workFolder);
-}
-
-void Application::showRunTimeError() {
-    if (reported_.empty()) return;
-    const RunTimeError error = reported_.front();
-    reported_.pop_front();
-    boxes_.show(error.message(), MB_OK | MB_ICONERROR, errorTitle);
 }
 
 // Results, files and line loads

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <deque>
 #include <memory>
 
 #include "diagram/diagram_commands.h"
@@ -20,6 +19,7 @@
 #include "shell/document.h"
 #include "shell/main_tips.h"
 #include "shell/main_window.h"
+#include "shell/messages_in_turn.h"
 #include "shell/prompt_window.h"
 #include "shell/rescue_window.h"
 #include "shell/start_up.h"
@@ -36,6 +36,7 @@ class Application : public win32::WindowHost,
                     private MainEvents,
                     private DocumentView,
                     private CaseBeside,
+                    private ErrorPost,
                     private StartUpView {
   public:
     Application();
@@ -46,7 +47,7 @@ class Application : public win32::WindowHost,
 
   private:
     // win32::WindowHost
-    void report(const RunTimeError& error) override;
+    void report(const RunTimeError& error) override { boxes_.report(error); }
     bool translate(MSG& message) override;
 
     // MainEvents
@@ -59,7 +60,7 @@ class Application : public win32::WindowHost,
     bool closing() override;
     void dpiChanged(int dpi) override { form_.changeDpi(dpi); }
     void clientResized(int width, int height) override;
-    void showRunTimeError() override;
+    void showRunTimeError() override { boxes_.showNext(); }
     void helpRequested(const HELPINFO& request) override;
 
     // DocumentView
@@ -69,6 +70,9 @@ class Application : public win32::WindowHost,
 
     // CaseBeside
     void showBeside() override;
+
+    // ErrorPost
+    void postRunTimeError() override { main_.postRunTimeError(); }
 
     // StartUpView
     void showMainWindow() override { main_.show(); }
@@ -135,9 +139,8 @@ class Application : public win32::WindowHost,
     Settings settings_;
     SketchPicture picture_;
     bool ended_ = false;
-    std::deque<RunTimeError> reported_; ///< not shown yet
 
-    MessageBoxes& boxes_ = systemMessageBoxes();
+    MessagesInTurn boxes_{systemMessageBoxes(), *this};
     Folders& folders_ = systemFolders();
     ProcessStarter& processes_ = systemProcesses();
     FileOpener files_;

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "driver/program.h"
+#include "driver/wait.h"
 #include "soon.h"
 
 namespace varno::gui {
@@ -32,6 +33,12 @@ class DataChecks : public ::testing::Test {
         program.command(idOpen);
         program.chooseFile(name);
         return program.answer().text;
+    }
+    Bytes letter() const {
+        Bytes text;
+        for (int i = 0; i < 60; ++i)
+            text += "Hej alla glada\r\n";
+        return text;
     }
     void expectNoMessage() {
         program.main().send(WM_NULL);
@@ -99,13 +106,22 @@ TEST_F(DataChecks, FileThatIsNoCaseIsNamedAsSuch) {
     scene.write("BREV.IND", "");
     EXPECT_TRUE(holds(openTelling("BREV.IND"), "BREV.IND är ingen indatafil."));
     EXPECT_TRUE(holds(program.answer().text, "62"));
-    Bytes letter;
-    for (int i = 0; i < 60; ++i)
-        letter += "Hej alla glada\r\n";
-    scene.write("BREV.IND", letter);
+    scene.write("BREV.IND", letter());
     const std::string text = openTelling("BREV.IND");
     EXPECT_TRUE(holds(text, "BREV.IND är ingen indatafil.")) << text;
     EXPECT_TRUE(holds(text, "Filen har 60 rader.")) << text;
+}
+
+TEST_F(DataChecks, WhatIsWrongWithAFileIsReadBeforeTheErrorOfItsSketch) {
+    scene.write("BREV.IND", letter());
+    program.command(idOpen);
+    program.chooseFile("BREV.IND");
+    const Control box = program.window(messageBoxClass);
+    // The box has a message loop of its own, in which the error that is waiting would come up over it.
+    const DWORD aSecond = 1000;
+    EXPECT_FALSE(waitUntil([&] { return program.window(messageBoxClass) != box; }, nullptr, aSecond));
+    EXPECT_TRUE(holds(program.answer().text, "ingen indatafil"));
+    EXPECT_TRUE(holds(program.answer().text, "'11'"));
 }
 
 // Whose file it is
