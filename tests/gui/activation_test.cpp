@@ -23,31 +23,23 @@ class Activation : public LineLoads {
     }
     // By its title bar, so that nothing in it is clicked.
     static void goTo(const Control& window) {
-        clickUntil([&] { return GetForegroundWindow() == window.handle(); },
-                   [&] { mouse::clickTitle(window); });
+        mouse::clickUntil([&] { return GetForegroundWindow() == window.handle(); },
+                          [&] { mouse::clickTitle(window); });
         expectActive(window);
     }
-    // A click that comes while another window still comes up goes to that one; a user clicks again.
-    static void clickUntil(const std::function<bool()>& arrived, const std::function<void()>& click) {
-        constexpr DWORD shortWait = 3'000;
-        int clicks = 0;
-        do
-            click();
-        while (!waitUntil(arrived, nullptr, shortWait) && ++clicks < 5);
-    }
     static void clickIn(const Control& box) {
-        clickUntil([&] { return program().focused() == box; }, [&] { mouse::click(box); });
+        mouse::clickInto(program(), box);
         expectFocus(box);
     }
     // Whatever lies over it: in a desktop of Wine a window drops behind the one that it belongs to.
     static void goToCovered(const Control& window) {
         // The program in front may hand that on; which it is, the one under test or this, is up to the test.
-        clickUntil([&] { return GetForegroundWindow() == window.handle(); },
-                   [&] {
-                       if (SetForegroundWindow(window.handle()) == FALSE)
-                           callIn(program().process(), L"user32.dll", "SetForegroundWindow",
-                                  {reinterpret_cast<DWORD>(window.handle())});
-                   });
+        mouse::clickUntil([&] { return GetForegroundWindow() == window.handle(); },
+                          [&] {
+                              if (SetForegroundWindow(window.handle()) == FALSE)
+                                  callIn(program().process(), L"user32.dll", "SetForegroundWindow",
+                                         {reinterpret_cast<DWORD>(window.handle())});
+                          });
         expectActive(window);
     }
     // To another program, and back to `window`.

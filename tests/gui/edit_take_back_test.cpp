@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "driver/mouse.h"
-#include "driver/wait.h"
 #include "line_load_rig.h"
 
 namespace varno::gui {
@@ -15,13 +14,7 @@ class TakeBack : public LineLoads {
         expectSoon(
             program(), std::pair(first, last), [&] { return box.selection(); }, place);
     }
-    // With the mouse. Some displays lose a click while a window goes.
-    static void click(const Control& box) {
-        for (int i = 0; i < 5 && program().focused() != box; ++i) {
-            mouse::click(box);
-            waitUntil([&] { return program().focused() == box; }, nullptr, 3000);
-        }
-    }
+    static void click(const Control& box) { mouse::clickInto(program(), box); }
     static void expectWhole(const Control& box,
                             std::source_location place = std::source_location::current()) {
         expectFocus(box, place);

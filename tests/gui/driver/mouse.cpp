@@ -49,6 +49,18 @@ void click(const Control& control) {
     clickThere((box.left + box.right) / 2, (box.top + box.bottom) / 2);
 }
 
+void clickUntil(const std::function<bool()>& arrived, const std::function<void()>& click) {
+    constexpr DWORD shortWait = 3'000;
+    int clicks = 0;
+    do
+        click();
+    while (!waitUntil(arrived, nullptr, shortWait) && ++clicks < 5);
+}
+
+void clickInto(const Program& program, const Control& control) {
+    clickUntil([&] { return program.focused() == control; }, [&] { click(control); });
+}
+
 void restOn(const Control& control, int hundredths) {
     const RECT box = onScreen(control);
     const LONG x = box.left + (box.right - box.left) * hundredths / 100;
