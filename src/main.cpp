@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include "shell/application.h"
+#include "win32/given_files.h"
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
     INITCOMMONCONTROLSEX controls{};
@@ -10,5 +11,5 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
     controls.dwICC = ICC_STANDARD_CLASSES | ICC_BAR_CLASSES | ICC_UPDOWN_CLASS;
     InitCommonControlsEx(&controls);
     varno::Application application;
-    return application.run();
+    return application.run(varno::win32::filesOnCommandLine());
 }

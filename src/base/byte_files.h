@@ -30,6 +30,7 @@ class ByteFiles : public FileCalls {
     bool exists(const std::string& path) override { return content.contains(path); }
     bool same(const std::string& a, const std::string& b) override { return a == b; }
     std::int64_t lastWritten(const std::string&) override { return 0; }
+    std::string lastWrittenText(const std::string&) override { return {}; }
 
     std::map<std::string, Bytes> content;
 

@@ -49,6 +49,8 @@ class FileCalls {
     virtual bool same(const std::string& a, const std::string& b) = 0;
     /// When a file was last written, by a clock of the system's own: good for comparing two files of a folder.
     virtual std::int64_t lastWritten(const std::string& path) = 0;
+    /// The same for the user to read: "2026-11-21 15:40:07", local time.
+    virtual std::string lastWrittenText(const std::string& path) = 0;
 };
 
 /// The calls of the system that the program is built for.

@@ -1,8 +1,10 @@
 // The file calls of a POSIX system: for varnotool and the tests there. varno.exe uses those of Windows.
 #include "base/file_calls.h"
 
+#include <array>
 #include <cerrno>
 #include <cstdio>
+#include <ctime>
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/stat.h>
@@ -124,6 +126,14 @@ class PosixFileCalls : public FileCalls {
         if (::stat(path.c_str(), &info) != 0) fail(path, errno);
         constexpr std::int64_t nanoseconds = 1'000'000'000;
         return info.st_mtim.tv_sec * nanoseconds + info.st_mtim.tv_nsec;
+    }
+    std::string lastWrittenText(const std::string& path) override {
+        struct stat info {};
+        if (::stat(path.c_str(), &info) != 0) fail(path, errno);
+        std::tm local{};
+        ::localtime_r(&info.st_mtim.tv_sec, &local);
+        std::array<char, 32> text{};
+        return {text.data(), std::strftime(text.data(), text.size(), "%Y-%m-%d %H:%M:%S", &local)};
     }
 };
 

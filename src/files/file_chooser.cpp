@@ -4,6 +4,13 @@
 
 namespace varno {
 
+std::string folderOf(const std::string& path) {
+    const auto slash = path.rfind('\\');
+    if (slash == std::string::npos) return {};
+    const bool root = slash > 0 && path[slash - 1] == ':';
+    return path.substr(0, root ? slash + 1 : slash);
+}
+
 const std::string& FileChooser::directory() {
     if (directory_.empty()) directory_ = folders_.current();
     return directory_;

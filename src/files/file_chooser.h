@@ -16,6 +16,9 @@ struct FolderRow {
     bool open = false; ///< on the way to the current folder
 };
 
+/// The folder of a full path; a root keeps its backslash.
+std::string folderOf(const std::string& path);
+
 /// A window with a drive, a folder and a file list, as its rules see it.
 class FileChooserView {
   public:

@@ -8,6 +8,8 @@
 #include "results/result_viewer.h"
 #include "shell/help_contexts.h"
 #include "win32/dpi.h"
+#include "win32/given_files.h"
+#include "win32/popup_menu.h"
 #include "win32/user_locale.h"
 
 namespace varno {
@@ -34,7 +36,7 @@ Application::~Application() {
     help_.close();
 }
 
-int Application::run() {
+int Application::run(const std::vector<std::string>& given) {
     try {
         startUp(settings_, document_, files_, main_, *this);
     } catch (const RunTimeError& error) {
@@ -43,18 +45,21 @@ int Application::run() {
     }
     offerLeftovers();
     offerRescued();
+    if (!given.empty()) guarded([&] { openGiven(given); });
     MSG message;
     while (GetMessageW(&message, nullptr, 0, 0) > 0)
         win32::dispatch(*this, message);
     return ended_ ? 0 : static_cast<int>(message.wParam);
 }
 
-void Application::offerLeftovers() {
-    guarded([&] { askAboutLeftovers(leftovers_, boxes_, fileDialog_.directory()); });
+void Application::offerLeftoversIn(const std::string& folder) {
+    guarded([&] { askAboutLeftovers(leftovers_, boxes_, folder); });
 }
 
 void Application::offerRescued() {
-    rescue_.start(rescueFolder(), rescueInstance());
+    const std::string own = rescueFolder();
+    recent_.start(own);
+    rescue_.start(own, rescueInstance());
     rescueWindow_ = std::make_unique<RescueWindow>(*this, rescue_);
     guarded([&] { rescue_.offer(); });
 }
@@ -62,7 +67,7 @@ void Application::offerRescued() {
 // What the windows ask of the program
 
 bool Application::translate(MSG& message) {
-    if (translateHelpKey(message) || translateStepKey(message)) return true;
+    if (translateHelpKey(message) || translateStepKey(message) || translateRecentKey(message)) return true;
     const HWND root = GetAncestor(message.hwnd, GA_ROOT);
     if (root != main_.handle()) return root != nullptr && IsDialogMessageW(root, &message);
     if (TranslateMDISysAccel(main_.mdiClient(), &message)) return true;
@@ -103,6 +108,15 @@ bool Application::translateStepKey(const MSG& message) {
         window->takeOver();
         back ? steps_.back() : steps_.forward();
     });
+    return true;
+}
+
+// Ctrl+Shift+O: the toolbar takes no focus, so Shift+F10 does not reach the menu of its button.
+bool Application::translateRecentKey(const MSG& message) {
+    if (message.message != WM_KEYDOWN || message.wParam != 'O') return false;
+    if (GetKeyState(VK_CONTROL) >= 0 || GetKeyState(VK_SHIFT) >= 0 || GetKeyState(VK_MENU) < 0) return false;
+    if (GetAncestor(message.hwnd, GA_ROOT) != main_.handle()) return false;
+    guarded([&] { openButtonMenu(main_.belowOpenButton()); });
     return true;
 }
 
@@ -186,26 +200,34 @@ void Application::flagClicked(int flag) {
     if (keyboard) SetFocus(main_.flagButton());
 }
 
-namespace {
-
-// A context menu with one item; true when it was chosen.
-bool chosenFromMenu(HWND owner, POINT place, const wchar_t* caption) {
-    constexpr UINT item = 1;
-    const win32::UniqueMenu menu(CreatePopupMenu());
-    AppendMenuW(menu.get(), MF_STRING, item, caption);
-    return TrackPopupMenu(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, place.x, place.y, 0, owner, nullptr) ==
-           static_cast<BOOL>(item);
-}
-
-} // namespace
-
 void Application::flagMenu(POINT place) {
-    if (chosenFromMenu(main_.handle(), place, L"Byt till svenska byggregler (BKR)"))
+    if (win32::chooseFromMenu(main_.handle(), place, {{"Byt till svenska byggregler (BKR)"}}) == 0)
         input_.switchToSwedishRules();
 }
 
 void Application::loadPictureMenu(POINT place) {
-    if (chosenFromMenu(main_.handle(), place, L"Fria linjelaster")) openLineLoads(freeLoads_, freeLineLoads);
+    if (win32::chooseFromMenu(main_.handle(), place, {{"Fria linjelaster"}}) == 0)
+        openLineLoads(freeLoads_, freeLineLoads);
+}
+
+void Application::openButtonMenu(POINT place) {
+    const std::vector<std::string> paths = recent_.list();
+    std::vector<win32::PopupItem> items;
+    for (const std::string& caption : recentCaptions(paths))
+        items.push_back({caption});
+    if (items.empty()) items.push_back({noRecentCases, false, false});
+    const int row = win32::chooseFromMenu(main_.handle(), place, items);
+    if (row < 0) return;
+    const std::string& path = paths[static_cast<std::size_t>(row)];
+    recent_.dropMissing(path);
+    openGiven({path});
+}
+
+void Application::openGiven(const std::vector<std::string>& paths) {
+    endTyping();
+    if (paths.size() == 1) offerLeftoversIn(folderOf(paths.front()));
+    document_.openGiven(paths);
+    rescue_.look();
 }
 
 bool Application::closing() {
@@ -278,6 +300,12 @@ void Application::showBeside() {
     if (lineLoads_) lineLoads_->rules.caseRead();
     if (freeLoads_) freeLoads_->rules.caseRead();
     sketch_.fullRefresh();
+}
+
+void Application::fileUsed(const std::string& path) {
+    const std::string full = win32::fullPath(path);
+    recent_.add(full);
+    win32::tellRecentDocument(full);
 }
 
 SaveAnswer Application::askToSave(const std::string& caption, const std::string& text, bool cancelOffered) {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "diagram/diagram_commands.h"
 #include "diagram/diagram_window.h"
@@ -21,6 +23,7 @@
 #include "shell/main_window.h"
 #include "shell/messages_in_turn.h"
 #include "shell/prompt_window.h"
+#include "shell/recent_cases.h"
 #include "shell/rescue_window.h"
 #include "shell/start_up.h"
 #include "win32/crash_guard.h"
@@ -42,8 +45,8 @@ class Application : public win32::WindowHost,
     Application();
     ~Application() override;
 
-    /// Runs start-up and then the program; gives its exit code.
-    int run();
+    /// Runs start-up, opens the case that is given and runs the program; gives its exit code.
+    int run(const std::vector<std::string>& given);
 
   private:
     // win32::WindowHost
@@ -57,6 +60,8 @@ class Application : public win32::WindowHost,
     void flagClicked(int flag) override;
     void flagMenu(POINT place) override;
     void loadPictureMenu(POINT place) override;
+    void openButtonMenu(POINT place) override;
+    void filesDropped(const std::vector<std::string>& paths) override { openGiven(paths); }
     bool closing() override;
     void dpiChanged(int dpi) override { form_.changeDpi(dpi); }
     void clientResized(int width, int height) override;
@@ -67,6 +72,7 @@ class Application : public win32::WindowHost,
     SaveAnswer askToSave(const std::string& caption, const std::string& text, bool cancelOffered) override;
     void endProgram() override;
     void caseOpened() override;
+    void fileUsed(const std::string& path) override;
 
     // CaseBeside
     void showBeside() override;
@@ -87,11 +93,14 @@ class Application : public win32::WindowHost,
     bool translateKeyBeside(const MSG& message);
     bool translateHelpKey(const MSG& message);
     bool translateStepKey(const MSG& message);
+    bool translateRecentKey(const MSG& message);
     win32::FormWindow* editedIn(HWND root);
     void calculate();
     void showResult();
     /// Offers the cases that a program left in the file dialog's folder when it was ended while saving them.
-    void offerLeftovers();
+    void offerLeftovers() { offerLeftoversIn(fileDialog_.directory()); }
+    void offerLeftoversIn(const std::string& folder);
+    void openGiven(const std::vector<std::string>& paths);
     void showImportant();
     void setUpPrinter();
     void deleteFiles(const char* pattern);
@@ -149,6 +158,7 @@ class Application : public win32::WindowHost,
     FileInfoWindow fileInfo_;
     FileDialog fileDialog_;
     Leftovers leftovers_;
+    RecentCases recent_{systemFileCalls()};
 
     MainWindow main_;
     MainTips tips_;

@@ -35,6 +35,7 @@ void Document::read(const std::string& path, bool asSaved) {
     commit(opened, asSaved);
     readFrom_ = asSaved ? path : std::string();
     savedTo_.clear();
+    if (asSaved) view_.fileUsed(path);
 }
 
 void Document::commit(const CaseFile& opened, bool asSaved) {
@@ -73,7 +74,28 @@ void Document::open() {
     if (!settled("Öppna")) return;
     if (!dialog_.ask(choosingCase)) return;
 
-    const std::string path = dialog_.path(dialog_.typedName);
+    readChosen(dialog_.path(dialog_.typedName));
+}
+
+void Document::openAt(const std::string& path) {
+    // Of a missing folder the shared opening of files would tell for ever.
+    if (!files_.calls().exists(path))
+        throw RunTimeError(errBadFileNameOrNumber,
+                           {.file = path, .action = FileAction::reading, .cause = errFileNotFound});
+    if (!settled("Öppna")) return;
+    readChosen(path);
+    dialog_.changeDirectory(folderOf(path));
+}
+
+void Document::openGiven(const std::vector<std::string>& paths) {
+    if (paths.size() > 1) {
+        boxes_.tell("Bara ett fall kan vara öppet. Öppna eller släpp en fil i taget !");
+    } else if (!paths.empty()) {
+        openAt(paths.front());
+    }
+}
+
+void Document::readChosen(const std::string& path) {
     try {
         const BusyPointer busy(window_);
         read(path, true);
@@ -106,6 +128,7 @@ void Document::write(const std::string& path) {
     state_.caseSaved = true;
     settledCase_ = case_;
     savedTo_ = path;
+    view_.fileUsed(path);
     lost_ = savedCheckText(checkSaved(caseFile, file.written()));
 }
 

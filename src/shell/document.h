@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "base/open_file.h"
 #include "base/text.h"
@@ -25,6 +26,8 @@ class DocumentView {
     /// The record is another case and the form shows it: what shows it beside the form follows, the sketch
     /// last. \throws RunTimeError for a case that cannot be drawn.
     virtual void caseOpened() = 0;
+    /// The case was read from a file of the user's, or saved to one.
+    virtual void fileUsed(const std::string& path) = 0;
     /// Shows a run-time error that the command goes on after.
     virtual void report(const RunTimeError& error) = 0;
 };
@@ -45,6 +48,10 @@ class Document : public RescueSource {
 
     void newCase(const std::string& workFolder);
     void open();
+    /// The same without the file-name dialog, which stands in the folder of the file afterwards. \param path full
+    void openAt(const std::string& path);
+    /// Of the files that are named on the command line or dropped on the window there must be one.
+    void openGiven(const std::vector<std::string>& paths);
     void save();
     void saveAs();
     void exit();
@@ -67,6 +74,7 @@ class Document : public RescueSource {
   private:
     bool settled(const std::string& caption);
     void read(const std::string& path, bool asSaved);
+    void readChosen(const std::string& path);
     void commit(const CaseFile& opened, bool asSaved);
     void tellFaults(const std::string& path);
     void write(const std::string& path);

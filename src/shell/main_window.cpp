@@ -1,7 +1,6 @@
 #include "shell/main_window.h"
 
 #include <oleacc.h>
-#include <windowsx.h>
 
 #include <algorithm>
 #include <cmath>
@@ -14,6 +13,8 @@
 #include "shell/menu_table.h"
 #include "win32/accessible_names.h"
 #include "win32/dpi.h"
+#include "win32/given_files.h"
+#include "win32/popup_menu.h"
 #include "win32/strings.h"
 
 namespace varno {
@@ -70,6 +71,8 @@ void MainWindow::listen(MainEvents& events) {
     // The menu tree is fixed, so the help command stands in the menu of the window itself.
     AppendMenuW(GetSystemMenu(handle(), FALSE), MF_STRING, idHelp, L"Hjälp\tF1");
     createParts();
+    // What is dropped on a part of it comes here.
+    DragAcceptFiles(handle(), TRUE);
     setDpi(win32::dpiOf(handle()));
 }
 
@@ -226,6 +229,35 @@ LRESULT MainWindow::onCommand(WPARAM wParam, LPARAM lParam) {
     return defaultProc(WM_COMMAND, wParam, lParam);
 }
 
+bool MainWindow::onContextMenu(HWND window, LPARAM lParam) {
+    const POINT place = win32::placeOfMenu(window, lParam);
+    if (window == flagButton()) {
+        events_->flagMenu(place);
+    } else if (window == loadPicture_.handle()) {
+        events_->loadPictureMenu(place);
+    } else if (window == toolbar_.handle() && toolbar_.at(place) == idOpen) {
+        events_->openButtonMenu(place);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+POINT MainWindow::belowOpenButton() const {
+    return toolbar_.below(idOpen);
+}
+
+// A window that waits for another one's answer takes nothing; Windows lets it have the drop all the same.
+void MainWindow::onDrop(HDROP drop) {
+    const std::vector<std::string> paths = win32::filesDropped(drop);
+    if (!IsWindowEnabled(handle())) {
+        MessageBeep(MB_OK);
+        return;
+    }
+    SetForegroundWindow(handle());
+    events_->filesDropped(paths);
+}
+
 // The help command: as if the user had pressed F1.
 void MainWindow::sendHelpKey() {
     const HWND focus = GetFocus() != nullptr ? GetFocus() : handle();
@@ -248,23 +280,12 @@ LRESULT MainWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_INITMENUPOPUP:
         if (reinterpret_cast<HMENU>(wParam) == fileMenu_) events_->endTyping();
         break;
-    case WM_CONTEXTMENU: {
-        const auto window = reinterpret_cast<HWND>(wParam);
-        if (window != flagButton() && window != loadPicture_.handle()) break;
-        POINT place{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
-        if (lParam == -1) {
-            // From the keyboard: below it.
-            RECT box{};
-            GetWindowRect(window, &box);
-            place = {box.left, box.bottom};
-        }
-        if (window == flagButton()) {
-            events_->flagMenu(place);
-        } else {
-            events_->loadPictureMenu(place);
-        }
+    case WM_CONTEXTMENU:
+        if (!onContextMenu(reinterpret_cast<HWND>(wParam), lParam)) break;
         return 0;
-    }
+    case WM_DROPFILES:
+        onDrop(reinterpret_cast<HDROP>(wParam));
+        return 0;
     case WM_DRAWITEM: {
         const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
         if (item.CtlType != ODT_BUTTON) break;

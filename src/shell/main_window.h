@@ -1,5 +1,12 @@
 #pragma once
 
+#include <windows.h>
+
+#include <shellapi.h>
+
+#include <string>
+#include <vector>
+
 #include "controls/control_ids.h"
 #include "controls/main_view.h"
 #include "input/sketch_picture.h"
@@ -28,6 +35,10 @@ class MainEvents {
     virtual void flagMenu(POINT place) = 0;
     /// The same of the load picture.
     virtual void loadPictureMenu(POINT place) = 0;
+    /// The same of the toolbar button "Öppna...".
+    virtual void openButtonMenu(POINT place) = 0;
+    /// Files were dropped on the window.
+    virtual void filesDropped(const std::vector<std::string>& paths) = 0;
     /// The close box, or Windows ending; true when the program has ended.
     virtual bool closing() = 0;
     /// The child windows are to be laid out at this resolution.
@@ -56,6 +67,8 @@ class MainWindow : public win32::Window, public MainView {
     /// The flag that is shown: what stands beside the form for Tab.
     HWND flagButton() const { return GetDlgItem(handle(), idFlag + flag_); }
     HWND loadPicture() const { return loadPicture_.handle(); }
+    /// Below the toolbar button "Öppna...", on the screen.
+    POINT belowOpenButton() const;
     /// Paints the sketch and places the support buttons as they are now.
     void sketchChanged();
     /// Later, when the current event is over, MainEvents::showRunTimeError is called.
@@ -81,6 +94,8 @@ class MainWindow : public win32::Window, public MainView {
     void placeSupportButtons();
     LRESULT onActivate(WPARAM wParam, LPARAM lParam);
     LRESULT onCommand(WPARAM wParam, LPARAM lParam);
+    bool onContextMenu(HWND window, LPARAM place);
+    void onDrop(HDROP drop);
     void sendHelpKey();
 
     MainEvents* events_ = nullptr;

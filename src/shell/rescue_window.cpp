@@ -46,10 +46,7 @@ std::chrono::seconds WindowsRescueClock::running() {
 std::string WindowsRescueClock::dateAndTime() {
     SYSTEMTIME now;
     GetLocalTime(&now);
-    std::array<char, 32> text{};
-    snprintf(text.data(), text.size(), "%04u-%02u-%02u %02u:%02u:%02u", now.wYear, now.wMonth, now.wDay,
-             now.wHour, now.wMinute, now.wSecond);
-    return text.data();
+    return win32::dateAndTime(now);
 }
 
 std::string rescueFolder() {

@@ -16,6 +16,10 @@ class Toolbar {
     void setDpi(int dpi);
     void setEnabled(int id, bool enabled);
     HWND handle() const { return handle_; }
+    /// The ID of the button at a place of the screen, 0 for none.
+    int at(POINT place) const;
+    /// The lower left corner of a command's button, on the screen.
+    POINT below(int id) const;
     /// What the toolbar asks for the tip of a button.
     void tell(NMTBGETINFOTIPW& tip) const;
 

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <cstdio>
 #include <string>
 #include <string_view>
 
@@ -27,6 +28,14 @@ inline std::string ansi(std::wstring_view text, DWORD flags = 0, BOOL* lost = nu
     out.resize(static_cast<std::size_t>(WideCharToMultiByte(CP_ACP, flags, text.data(), length, out.data(),
                                                             static_cast<int>(out.size()), nullptr, lost)));
     return out;
+}
+
+/// "2026-11-21 15:40:07"
+inline std::string dateAndTime(const SYSTEMTIME& time) {
+    char text[32] = "";
+    snprintf(text, sizeof text, "%04u-%02u-%02u %02u:%02u:%02u", time.wYear, time.wMonth, time.wDay,
+             time.wHour, time.wMinute, time.wSecond);
+    return text;
 }
 
 /// The text of a window or control.

@@ -167,6 +167,17 @@ std::int64_t WindowsFileCalls::lastWritten(const std::string& path) {
     return (std::int64_t{time.dwHighDateTime} << 32) | time.dwLowDateTime;
 }
 
+std::string WindowsFileCalls::lastWrittenText(const std::string& path) {
+    FILETIME time{};
+    if (!windows_.lastWritten(systemPath(path), time)) fail();
+    SYSTEMTIME universal{};
+    SYSTEMTIME local{};
+    if (!FileTimeToSystemTime(&time, &universal) ||
+        !SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local))
+        fail();
+    return dateAndTime(local);
+}
+
 } // namespace varno::win32
 
 namespace varno {

@@ -57,6 +57,7 @@ class WindowsFileCalls : public FileCalls {
     bool exists(const std::string& path) override;
     bool same(const std::string& a, const std::string& b) override;
     std::int64_t lastWritten(const std::string& path) override;
+    std::string lastWrittenText(const std::string& path) override;
 
   private:
     FileFunctions& windows_;

@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <regex>
 
 #ifndef _WIN32
 #include <unistd.h>
@@ -233,6 +234,11 @@ TEST_F(SystemFiles, KnowWhenTheyWereWritten) {
                                          std::chrono::seconds(2));
     EXPECT_LT(calls.lastWritten(folder.path("A.IND")), calls.lastWritten(folder.path("B.IND")));
     EXPECT_EQ(errorOf([&] { calls.lastWritten(folder.path("finns inte")); }), errFileNotFound);
+
+    const std::string text = calls.lastWrittenText(folder.path("B.IND"));
+    EXPECT_TRUE(std::regex_match(text, std::regex("20\\d\\d-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d"))) << text;
+    EXPECT_LT(calls.lastWrittenText(folder.path("A.IND")), text);
+    EXPECT_EQ(errorOf([&] { calls.lastWrittenText(folder.path("finns inte")); }), errFileNotFound);
 }
 
 TEST_F(SystemFiles, CheckWritableChangesNothing) {

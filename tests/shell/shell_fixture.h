@@ -27,6 +27,7 @@ struct ShellFixture : DocumentView {
         opened = window.caption + "|" + title() + "|" + form.text({Field::spv, 1});
         if (drawingError != 0) throw RunTimeError(drawingError);
     }
+    void fileUsed(const std::string& path) override { used.push_back(path); }
     void report(const RunTimeError& error) override { reported.push_back(error.number()); }
 
     /// An edit by the user: of the record, and marked as every edit is.
@@ -57,8 +58,9 @@ struct ShellFixture : DocumentView {
     std::vector<std::string> prompts;
     std::vector<std::string> dialogs; ///< "caption|pattern|name that it began with"
     bool ended = false;
-    int drawingError = 0; ///< what drawing a case ends in
-    std::string opened;   ///< what is shown when a case is drawn: caption, title, first span
+    int drawingError = 0;          ///< what drawing a case ends in
+    std::string opened;            ///< what is shown when a case is drawn: caption, title, first span
+    std::vector<std::string> used; ///< files that were read or written as the user's
     std::vector<int> reported;
 };
 

@@ -63,6 +63,12 @@ std::int64_t MemoryFiles::lastWritten(const std::string& path) {
     return written[path];
 }
 
+std::string MemoryFiles::lastWrittenText(const std::string& path) {
+    enter("lastWritten", path);
+    if (!content.contains(path)) throw RunTimeError(errFileNotFound);
+    return dateAndTime;
+}
+
 MessageAnswer FakeMessageBoxes::show(const std::string& text, int style, const std::string& title) {
     EXPECT_TRUE(isExplained(text) && isExplained(title)) << "not in the help: " << title << ": " << text;
     shown.push_back({text, style, title});

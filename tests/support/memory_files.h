@@ -26,13 +26,15 @@ class MemoryFiles : public FileCalls {
         return content.contains(a) && content.contains(b) && equalIgnoringCase(a, b);
     }
     std::int64_t lastWritten(const std::string& path) override;
+    std::string lastWrittenText(const std::string& path) override;
 
     /// "readAll", "checkWritable", "create", "write", "flush", "close", "replace", "remove",
     /// "lastWritten".
     std::function<int(const std::string& call, const std::string& path)> fault;
     std::map<std::string, Bytes> content;
-    std::map<std::string, std::int64_t> written; ///< what lastWritten answers, 0 unless told
-    std::vector<std::string> calls;              ///< "call path", in order
+    std::map<std::string, std::int64_t> written;     ///< what lastWritten answers, 0 unless told
+    std::string dateAndTime = "2026-11-21 15:40:07"; ///< what lastWrittenText answers
+    std::vector<std::string> calls;                  ///< "call path", in order
 
   private:
     friend class MemoryOutput;

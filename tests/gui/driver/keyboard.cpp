@@ -25,15 +25,20 @@ void press(WORD virtualKey) {
     send(virtualKey, static_cast<WORD>(MapVirtualKeyW(virtualKey, MAPVK_VK_TO_VSC)), 0);
 }
 
-void pressWith(WORD held, WORD virtualKey) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = held;
-    input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(held, MAPVK_VK_TO_VSC));
-    SendInput(1, &input, sizeof input);
+void pressWith(std::initializer_list<WORD> held, WORD virtualKey) {
+    const auto hold = [&](DWORD flags) {
+        for (const WORD key : held) {
+            INPUT input{};
+            input.type = INPUT_KEYBOARD;
+            input.ki.wVk = key;
+            input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
+            input.ki.dwFlags = flags;
+            SendInput(1, &input, sizeof input);
+        }
+    };
+    hold(0);
     press(virtualKey);
-    input.ki.dwFlags = KEYEVENTF_KEYUP;
-    SendInput(1, &input, sizeof input);
+    hold(KEYEVENTF_KEYUP);
 }
 
 void type(const std::string& text) {

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <initializer_list>
 #include <string>
 
 namespace varno::gui::keyboard {
@@ -9,8 +10,11 @@ namespace varno::gui::keyboard {
 // Keys as the hand presses them: they go to the window that has the focus, whatever program it belongs to.
 
 void press(WORD virtualKey);
-/// The key while another one is held down, such as VK_SHIFT.
-void pressWith(WORD held, WORD virtualKey);
+/// The key while others are held down, such as VK_SHIFT.
+void pressWith(std::initializer_list<WORD> held, WORD virtualKey);
+inline void pressWith(WORD held, WORD virtualKey) {
+    pressWith({held}, virtualKey);
+}
 /// UTF-8, letter by letter.
 void type(const std::string& text);
 

@@ -64,7 +64,7 @@ Program::Program(const StartOptions& options) {
     const Told local(L"LOCALAPPDATA", wide(options.localData.empty() ? local_.path() : options.localData));
     const std::wstring program =
         wide(options.program.empty() ? programsFolder() + "\\varno.exe" : options.program);
-    std::wstring line = L"\"" + program + L"\"";
+    std::wstring line = L"\"" + program + L"\" " + wide(options.arguments);
     const std::wstring current = wide(options.currentFolder);
     STARTUPINFOW start{};
     start.cb = sizeof start;

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <functional>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <utility>
@@ -26,10 +27,12 @@ inline constexpr const char* savePromptClass = "VarnoSavePrompt";
 inline constexpr const char* viewerClass = "VarnoForm6";
 inline constexpr const char* fontChooserClass = "VarnoTypsn";
 inline constexpr const char* messageBoxClass = "#32770";
+inline constexpr const char* popupMenuClass = "#32768";
 
 struct StartOptions {
     std::string currentFolder; ///< the scene's own when empty
     std::string program;       ///< its path; the one that was built when empty
+    std::string arguments;     ///< of the command line, as they are typed
     int dpi = 0;               ///< the resolution that the program is told; 0: the screen's
     std::string localData;     ///< the user's local application data; empty: a fresh folder, gone afterwards
 };
@@ -40,6 +43,7 @@ struct MenuLine {
     std::string caption; ///< "-" for a separator
     int id;              ///< 0 for a separator or a menu
     bool enabled;
+    bool checked = false;
     bool operator==(const MenuLine&) const = default;
 };
 
@@ -123,15 +127,24 @@ class Program {
     void calculate() const;
 
     std::vector<MenuLine> menuOf(const Control& window) const;
+    /// Waits for a context menu and reads it. Its IDs are numbers of its own and left out.
+    std::vector<MenuLine> popupMenu() const;
+    /// Presses these keys in the context menu, one at a time, and waits until it is gone.
+    void keysInPopupMenu(std::initializer_list<WORD> keys) const;
+    /// Files are let go of over a control: Windows tells the window above it that takes them. \throws GuiError when
+    /// none does.
+    void drop(const std::vector<std::string>& paths, const Control& onto) const;
     bool diagramEnabled() const;
     std::vector<ToolbarButton> toolbarButtons() const;
     void clickToolbar(int id) const;
+    void rightClickToolbar(int id) const;
     LOGFONTW fontOf(const Control& control) const { return fontsOf({control}).front(); }
     std::vector<LOGFONTW> fontsOf(const std::vector<Control>& controls) const;
     std::string currentDirectory() const;
 
   private:
     void settle(const std::function<bool()>& done, const std::string& failure) const;
+    POINT middleOfToolbarButton(int id) const;
     void readMenu(DWORD menu, int depth, std::vector<MenuLine>& lines) const;
     DWORD user(const char* function, const std::vector<DWORD>& arguments) const;
 

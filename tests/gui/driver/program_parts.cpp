@@ -3,7 +3,9 @@
 #include <windows.h>
 
 #include <commctrl.h>
+#include <shlobj.h>
 
+#include "driver/keyboard.h"
 #include "driver/program.h"
 #include "driver/remote.h"
 #include "driver/wait.h"
@@ -13,7 +15,7 @@ namespace varno::gui {
 
 namespace {
 
-constexpr std::size_t captionLength = 128;
+constexpr std::size_t captionLength = 300;
 constexpr const wchar_t* userModule = L"user32.dll";
 
 DWORD number(const void* handle) {
@@ -51,7 +53,8 @@ void Program::readMenu(DWORD menu, int depth, std::vector<MenuLine>& lines) cons
         }
         const bool enabled = (state & (MF_GRAYED | MF_DISABLED)) == 0;
         const int id = submenu != 0 ? 0 : static_cast<int>(answers[4 * place + 2]);
-        lines.push_back({depth, win32::narrow(letters.data() + place * captionLength), id, enabled});
+        const bool checked = submenu == 0 && (state & MF_CHECKED) != 0;
+        lines.push_back({depth, win32::narrow(letters.data() + place * captionLength), id, enabled, checked});
         if (submenu != 0) readMenu(submenu, depth + 1, lines);
     }
 }
@@ -60,6 +63,50 @@ std::vector<MenuLine> Program::menuOf(const Control& window) const {
     std::vector<MenuLine> lines;
     readMenu(user("GetMenu", {number(window.handle())}), 0, lines);
     return lines;
+}
+
+std::vector<MenuLine> Program::popupMenu() const {
+    constexpr UINT askForMenu = 0x01E1; // MN_GETHMENU
+    std::vector<MenuLine> lines;
+    readMenu(static_cast<DWORD>(window(popupMenuClass).send(askForMenu)), 0, lines);
+    for (MenuLine& line : lines)
+        line.id = 0;
+    return lines;
+}
+
+void Program::keysInPopupMenu(std::initializer_list<WORD> keys) const {
+    const Control menu = window(popupMenuClass);
+    for (const WORD key : keys)
+        keyboard::press(key);
+    waitGone(menu);
+}
+
+void Program::drop(const std::vector<std::string>& paths, const Control& onto) const {
+    HWND taker = onto.handle();
+    while (taker != nullptr && (GetWindowLongW(taker, GWL_EXSTYLE) & WS_EX_ACCEPTFILES) == 0)
+        taker = GetParent(taker);
+    if (taker == nullptr) throw GuiError("nothing can be dropped there");
+    DROPFILES head{};
+    head.pFiles = sizeof head;
+    head.fWide = TRUE;
+    Bytes bytes(reinterpret_cast<const char*>(&head), sizeof head);
+    const auto add = [&](const std::wstring& letters) {
+        bytes.append(reinterpret_cast<const char*>(letters.c_str()), (letters.size() + 1) * sizeof(wchar_t));
+    };
+    for (const std::string& path : paths)
+        add(win32::wide(path));
+    add(L"");
+    // The memory belongs to the program, which frees it.
+    const auto kernel = [this](const char* function, const std::vector<DWORD>& arguments) {
+        return callIn(process(), L"kernel32.dll", function, arguments);
+    };
+    const DWORD memory = kernel("GlobalAlloc", {GMEM_MOVEABLE, static_cast<DWORD>(bytes.size())});
+    const DWORD place = kernel("GlobalLock", {memory});
+    if (place == 0 ||
+        !WriteProcessMemory(process(), reinterpret_cast<void*>(place), bytes.data(), bytes.size(), nullptr))
+        throw GuiError("the files cannot be given");
+    kernel("GlobalUnlock", {memory});
+    user("PostMessageW", {number(taker), WM_DROPFILES, memory, 0});
 }
 
 bool Program::diagramEnabled() const {
@@ -83,7 +130,7 @@ std::vector<ToolbarButton> Program::toolbarButtons() const {
     return buttons;
 }
 
-void Program::clickToolbar(int id) const {
+POINT Program::middleOfToolbarButton(int id) const {
     const Control bar = main().item(idToolbar);
     RemoteMemory memory(process(), sizeof(RECT));
     const LRESULT place = bar.send(TB_COMMANDTOINDEX, static_cast<WPARAM>(id));
@@ -91,7 +138,19 @@ void Program::clickToolbar(int id) const {
         throw GuiError("the toolbar has no button " + std::to_string(id));
     }
     const auto box = memory.as<RECT>();
-    bar.clickAt((box.left + box.right) / 2, (box.top + box.bottom) / 2);
+    return {(box.left + box.right) / 2, (box.top + box.bottom) / 2};
+}
+
+void Program::clickToolbar(int id) const {
+    const POINT place = middleOfToolbarButton(id);
+    main().item(idToolbar).clickAt(place.x, place.y);
+}
+
+void Program::rightClickToolbar(int id) const {
+    const POINT place = middleOfToolbarButton(id);
+    const Control bar = main().item(idToolbar);
+    bar.post(WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(place.x, place.y));
+    bar.post(WM_RBUTTONUP, 0, MAKELPARAM(place.x, place.y));
 }
 
 std::vector<LOGFONTW> Program::fontsOf(const std::vector<Control>& controls) const {

@@ -1,0 +1,43 @@
+#include "win32/given_files.h"
+
+#include <shlobj.h>
+
+#include "win32/strings.h"
+
+namespace varno::win32 {
+
+std::string fullPath(const std::string& path) {
+    const std::wstring text = wide(path);
+    std::wstring full(GetFullPathNameW(text.c_str(), 0, nullptr, nullptr), L'\0');
+    full.resize(GetFullPathNameW(text.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
+    return full.empty() ? path : narrow(full);
+}
+
+std::vector<std::string> filesOnCommandLine() {
+    std::vector<std::string> files;
+    int count = 0;
+    LPWSTR* const words = CommandLineToArgvW(GetCommandLineW(), &count);
+    // The first is the program.
+    for (int i = 1; words != nullptr && i < count; ++i)
+        files.push_back(fullPath(narrow(words[i])));
+    LocalFree(words);
+    return files;
+}
+
+std::vector<std::string> filesDropped(HDROP drop) {
+    std::vector<std::string> files;
+    const UINT count = DragQueryFileW(drop, 0xFFFFFFFF, nullptr, 0);
+    for (UINT i = 0; i < count; ++i) {
+        std::wstring path(DragQueryFileW(drop, i, nullptr, 0) + 1, L'\0');
+        path.resize(DragQueryFileW(drop, i, path.data(), static_cast<UINT>(path.size())));
+        files.push_back(narrow(path));
+    }
+    DragFinish(drop);
+    return files;
+}
+
+void tellRecentDocument(const std::string& path) {
+    SHAddToRecentDocs(SHARD_PATHW, wide(path).c_str());
+}
+
+} // namespace varno::win32
