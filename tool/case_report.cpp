@@ -4,8 +4,8 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
-#include "controls/rule_sets.h"
 #include "input/field_table.h"
+#include "tool/case_inputs.h"
 #include "tool/commands.h"
 
 namespace varno::tool {
@@ -47,7 +47,7 @@ class Report {
     explicit Report(const CaseFile& loaded) {
         const std::string name = loaded.name + ".IND";
         text_ += name + "\n" + std::string(characterCount(name), '=') + "\n" +
-                withoutTrailingBlanks(loaded.title) + "\n";
+                 withoutTrailingBlanks(loaded.title) + "\n";
     }
     void heading(const std::string& caption) { text_ += "\n" + caption + "\n"; }
 
@@ -89,13 +89,8 @@ void addChoice(Report& report, const DesignCase& c, Field field) {
 }
 
 void addRuleSet(Report& report, const DesignCase& c) {
-    const RuleSet* const known = ruleSetWith(&RuleSet::number, c.loadCode);
-    const RuleSet& classes = known == nullptr ? ruleSets.front() : *known;
-    const int option = c.safetyClass(c.loadCode);
-    const bool named = option >= 1 && option <= static_cast<int>(classes.classes.size());
-    report.add("Lastregler", known == nullptr ? std::to_string(c.loadCode) : known->name);
-    report.add(classes.frame,
-               named ? classes.classes[static_cast<std::size_t>(option - 1)] : std::to_string(option));
+    report.add("Lastregler", ruleSetWords(c));
+    report.add(classFrame(c), classWords(c));
 }
 
 void addRules(Report& report, const DesignCase& c) {

@@ -5,48 +5,13 @@
 #include <ostream>
 
 #include "base/error_words.h"
-#include "tool/commands.h"
+#include "tool/command_table.h"
+#include "tool/nearest.h"
+#include "tool/standard_input.h"
 
 namespace varno::tool {
 
 namespace {
-
-enum ExitCode { done = 0, runTimeError = 1, wrongUsage = 2 };
-
-struct Argument {
-    const char* name;
-    std::string Request::*path;
-    const char* description;
-};
-
-struct CommandRow {
-    const char* name;
-    const char* description;
-    std::vector<Argument> arguments;
-    Command* run;
-    bool draws = false; ///< a picture is either listed or drawn into a file
-};
-
-std::vector<CommandRow> commandTable() {
-    const Argument file{"FIL", &Request::file, "Filen som läses"};
-    return {
-        {"json", "Skriver en indatafil som JSON", {file}, printJson},
-        {"rewrite",
-         "Läser en indatafil och skriver den igen",
-         {{"IN", &Request::file, "Filen som läses"},
-          {"UT", &Request::target, "Filen som skrivs, gärna samma"}},
-         rewriteCase},
-        {"result", "Skriver texten i en resultatfil", {file}, printResult},
-        {"pages", "Skriver utskriftens sidor som JSON", {file}, printPages},
-        {"show", "Visar indata i läsbar form", {file}, printReport},
-        {"sketch", "Ritar skissen till en indatafil", {file}, drawSketch, true},
-        {"diagram",
-         "Ritar momentdiagrammet till en indatafil",
-         {{"FIL", &Request::file, "Indatafilen"}, {"MOMK", &Request::moments, "Filen med momentkurvorna"}},
-         drawDiagram,
-         true},
-    };
-}
 
 void speakSwedish(CLI::App& app) {
     app.set_help_flag("-h,--help", "Visar den här hjälpen");
@@ -62,61 +27,130 @@ void speakSwedish(CLI::App& app) {
     app.allow_windows_style_options(false);
 }
 
-// What the user asks for goes to `request` and `run`.
-void addCommand(CLI::App& app, const CommandRow& row, Request& request, Command*& run) {
+std::string footerOf(const CommandRow& row) {
+    std::string text = row.remark;
+    text += text.empty() ? "Exempel:" : "\n\nExempel:";
+    for (const Example& example : row.examples)
+        text += std::string("\n  ") + example.line + "\n      " + example.does;
+    return text + "\n";
+}
+
+CLI::Option* addParameter(CLI::App& command, const Parameter& parameter, Request& request) {
+    return std::visit(
+        [&](auto member) {
+            auto& target = request.*member;
+            if constexpr (std::is_same_v<decltype(member), bool Request::*>)
+                return command.add_flag(parameter.name, target, parameter.description);
+            else
+                return command.add_option(parameter.name, target, parameter.description)
+                    ->type_name(parameter.value);
+        },
+        parameter.stored);
+}
+
+// What the user asks for goes to `request` and `chosen`.
+void addCommand(CLI::App& app, const CommandRow& row, Request& request, const CommandRow*& chosen) {
     CLI::App& command = *app.add_subcommand(row.name, row.description)->group("Kommandon");
     speakSwedish(command);
-    for (const Argument& argument : row.arguments)
-        command.add_option(argument.name, request.*argument.path, argument.description)
-            ->required()
-            ->type_name("");
-    if (row.draws) {
-        const std::string list = "Skriver det som ritas, ett JSON-objekt per rad";
-        command.add_flag("--list", list)->group("Val");
-        command.add_option("--svg", request.target, "Ritar till en SVG-fil")->type_name("UT")->group("Val");
+    command.footer(footerOf(row));
+    for (const Parameter& parameter : row.parameters) {
+        CLI::Option* const option = addParameter(command, parameter, request);
+        if (parameter.required) option->required();
+        if (parameter.isOption()) option->group("Val");
     }
-    command.callback([&row, &command, &request, &run] {
-        request.list = row.draws && command.count("--list") != 0;
-        if (row.draws && request.list == (command.count("--svg") != 0))
-            throw CLI::RequiredError("--list | --svg");
-        run = row.run;
-    });
+    command.callback([&row, &chosen] { chosen = &row; });
+}
+
+std::string missing(const CLI::App& command) {
+    for (const CLI::Option* option : command.get_options()) {
+        if (option->get_required() && option->count() == 0)
+            return (option->get_positional() ? "argumentet " : "valet ") + option->get_name() + " saknas.";
+    }
+    return "ett argument saknas.";
+}
+
+// What is wrong, by the library's kind of error: its own words are English.
+std::string complaintOf(const CLI::ParseError& error, const CLI::App& app) {
+    const auto chosen = app.get_subcommands();
+    const std::vector<std::string> rest = app.remaining(true);
+    if (chosen.empty()) {
+        if (rest.empty()) return "ett kommando saknas.";
+        std::vector<std::string> names;
+        for (const CommandRow& row : commandTable())
+            names.emplace_back(row.name);
+        return "kommandot \"" + rest.front() + "\" finns inte" + suggestion(rest.front(), names);
+    }
+    if (!rest.empty() && dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) {
+        std::vector<std::string> names;
+        for (const CLI::Option* option : chosen.front()->get_options())
+            names.push_back(option->get_name());
+        return "argumentet \"" + rest.front() + "\" är ett för mycket eller okänt" +
+               (rest.front().starts_with('-') ? suggestion(rest.front(), names) : ".");
+    }
+    if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) return missing(*chosen.front());
+    // "--svg: 1 required UT missing"
+    const std::string what = error.what();
+    return "valet " + what.substr(0, what.find(':')) + " väntar ett värde.";
+}
+
+int tellUsage(const std::string& complaint, const CLI::App& app, std::ostream& err) {
+    const auto chosen = app.get_subcommands();
+    err << "Fel användning: " << (chosen.empty() ? "" : "varnotool " + chosen.front()->get_name() + ": ")
+        << complaint << "\n\n"
+        << app.help();
+    return wrongUsage;
+}
+
+int runCommand(const CommandRow& command, const Request& request, const Machine& machine) {
+    WithStandardInput calls(machine.files, machine.in);
+    ConsoleBoxes boxes(machine.err);
+    FileOpener opener(calls, boxes);
+    return command.run({opener, machine.out, machine.err}, request);
 }
 
 } // namespace
 
-int runTool(const std::vector<std::string>& arguments, FileCalls& calls, std::ostream& out,
-            std::ostream& err) {
-    CLI::App app("Läser och skriver filerna till Varno. All text är UTF-8.", "varnotool");
+int runTool(const std::vector<std::string>& arguments, const Machine& machine) {
+    CLI::App app(toolDescription, "varnotool");
     speakSwedish(app);
+    app.set_version_flag("--version", std::string("varnotool " VARNO_VERSION "\n"), "Visar versionen");
+    app.get_option("--version")->group("Val");
+    app.footer(standardInputRemark);
     app.require_subcommand(1);
-    const auto table = commandTable();
     Request request;
-    Command* run = nullptr;
-    for (const CommandRow& row : table)
-        addCommand(app, row, request, run);
+    const CommandRow* chosen = nullptr;
+    for (const CommandRow& row : commandTable())
+        addCommand(app, row, request, chosen);
     try {
         // The library takes the arguments from the back.
         app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+        if (chosen->complaint != nullptr) {
+            const std::string complaint = chosen->complaint(request);
+            if (!complaint.empty()) return tellUsage(complaint, app, machine.err);
+        }
+        return runCommand(*chosen, request, machine);
     } catch (const CLI::CallForHelp&) {
-        out << app.help();
+        machine.out << app.help();
         return done;
-    } catch (const CLI::ParseError&) {
-        err << "Fel användning.\n" << app.help();
-        return wrongUsage;
-    }
-    try {
-        ConsoleBoxes boxes(err);
-        FileOpener opener(calls, boxes);
-        run(opener, request, out);
+    } catch (const CLI::CallForVersion& version) {
+        machine.out << version.what();
         return done;
+    } catch (const CLI::ParseError& error) {
+        return tellUsage(complaintOf(error, app), app, machine.err);
+    } catch (const UsageError& error) {
+        return tellUsage(error.what(), app, machine.err);
+    } catch (const InputError& error) {
+        machine.err << error.what() << '\n';
+        return runTimeError;
     } catch (const RunTimeError& error) {
-        return tellRunTimeError(error, err);
+        return tellRunTimeError(error, machine.err);
     }
 }
 
 int tellRunTimeError(const RunTimeError& error, std::ostream& err) {
-    const ErrorWords words = errorWords(error.number(), error.subject());
+    ErrorSubject subject = error.subject();
+    if (subject.file == "-") subject.file = "på standard in";
+    const ErrorWords words = errorWords(error.number(), subject);
     err << words.happened << '\n';
     if (!words.advice.empty()) err << words.advice << '\n';
     err << "run-time error " << error.number() << ": " << error.text() << '\n';

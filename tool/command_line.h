@@ -9,12 +9,19 @@
 
 namespace varno::tool {
 
-/// Runs varnotool with these arguments (UTF-8, without the program's name). The exit code: 0 done, 1 a
-/// run-time error (told on `err`), 2 wrong usage (explained on `err`).
-int runTool(const std::vector<std::string>& arguments, FileCalls& calls, std::ostream& out,
-            std::ostream& err);
+/// What varnotool runs on.
+struct Machine {
+    FileCalls& files;
+    std::istream& in;
+    std::ostream& out;
+    std::ostream& err;
+};
 
-/// Prints "run-time error N: text", on the next line the file that it is about, and gives the exit code that goes with it.
+/// Runs varnotool with these arguments (UTF-8, without the program's name) and gives its exit code (`ExitCode`).
+int runTool(const std::vector<std::string>& arguments, const Machine& machine);
+
+/// Says what happened, what to do and, on the last line, "run-time error N: text", and gives the exit code that goes
+/// with it.
 int tellRunTimeError(const RunTimeError& error, std::ostream& err);
 
 } // namespace varno::tool

@@ -13,8 +13,6 @@
 
 namespace varno::tool {
 
-namespace {
-
 void writeLines(FileOpener& opener, const std::string& path, const std::string& text) {
     File file = opener.openFile(path, FileMode::output);
     for (std::size_t from = 0; from < text.size();) {
@@ -24,6 +22,8 @@ void writeLines(FileOpener& opener, const std::string& path, const std::string& 
     }
     file.close();
 }
+
+namespace {
 
 void drawDiagramOn(Canvas& canvas, FileOpener& opener, const Request& request) {
     const CaseFile loaded = loadCase(opener, request.file);
@@ -51,57 +51,65 @@ CaseFile loadCase(FileOpener& opener, const std::string& path) {
     return VARNO1::readDesignCase(file, presets);
 }
 
-void printJson(FileOpener& opener, const Request& request, std::ostream& out) {
-    out << caseJson(loadCase(opener, request.file));
+ExitCode printJson(const Session& session, const Request& request) {
+    const CaseFile loaded = loadCase(session.opener, request.file);
+    session.out << (request.used ? usedCaseJson(loaded) : caseJson(loaded));
+    return done;
 }
 
-void rewriteCase(FileOpener& opener, const Request& request, std::ostream&) {
-    const CaseFile loaded = loadCase(opener, request.file);
-    File file = opener.openFile(request.target, FileMode::output);
+ExitCode rewriteCase(const Session& session, const Request& request) {
+    const CaseFile loaded = loadCase(session.opener, request.file);
+    File file = session.opener.openFile(request.target, FileMode::output);
     VARNO1::writeDesignCase(file, loaded);
     file.close();
+    return done;
 }
 
-void printResult(FileOpener& opener, const Request& request, std::ostream& out) {
-    File file = opener.openFile(request.file, FileMode::input);
-    out << decodeWindows1252(VARNO1::readResultText(file));
+ExitCode printResult(const Session& session, const Request& request) {
+    File file = session.opener.openFile(request.file, FileMode::input);
+    session.out << decodeWindows1252(VARNO1::readResultText(file));
+    return done;
 }
 
-void printPages(FileOpener& opener, const Request& request, std::ostream& out) {
-    File file = opener.openFile(request.file, FileMode::input);
+ExitCode printPages(const Session& session, const Request& request) {
+    File file = session.opener.openFile(request.file, FileMode::input);
     std::string json;
     for (const Bytes& page : VARNO1::readResultPages(file))
         json += (json.empty() ? "\n  " : ",\n  ") + jsonOf(decodeWindows1252(page));
-    out << "[" << json << (json.empty() ? "]\n" : "\n]\n");
+    session.out << "[" << json << (json.empty() ? "]\n" : "\n]\n");
+    return done;
 }
 
-void printReport(FileOpener& opener, const Request& request, std::ostream& out) {
-    out << caseReport(loadCase(opener, request.file));
+ExitCode printReport(const Session& session, const Request& request) {
+    session.out << caseReport(loadCase(session.opener, request.file));
+    return done;
 }
 
-void drawSketch(FileOpener& opener, const Request& request, std::ostream& out) {
-    const CaseFile loaded = loadCase(opener, request.file);
+ExitCode drawSketch(const Session& session, const Request& request) {
+    const CaseFile loaded = loadCase(session.opener, request.file);
     if (request.list) {
-        ListCanvas loadPicture("load", out);
-        ListCanvas slabStrip("strip", out);
-        ListButtons buttons(out);
+        ListCanvas loadPicture("load", session.out);
+        ListCanvas slabStrip("strip", session.out);
+        ListButtons buttons(session.out);
         SlabSketch(loaded.designCase, loadPicture, slabStrip, buttons).fullRefresh();
     } else {
         SketchPicture picture;
         SlabSketch(loaded.designCase, picture.loadPicture, picture.slabStrip, picture).fullRefresh();
-        writeLines(opener, request.target, svgOf(picture));
+        writeLines(session.opener, request.target, svgOf(picture));
     }
+    return done;
 }
 
-void drawDiagram(FileOpener& opener, const Request& request, std::ostream& out) {
+ExitCode drawDiagram(const Session& session, const Request& request) {
     if (request.list) {
-        ListCanvas canvas("diagram", out);
-        drawDiagramOn(canvas, opener, request);
+        ListCanvas canvas("diagram", session.out);
+        drawDiagramOn(canvas, session.opener, request);
     } else {
         SvgCanvas canvas(diagramWidth, diagramHeight);
-        drawDiagramOn(canvas, opener, request);
-        writeLines(opener, request.target, canvas.svg());
+        drawDiagramOn(canvas, session.opener, request);
+        writeLines(session.opener, request.target, canvas.svg());
     }
+    return done;
 }
 
 } // namespace varno::tool

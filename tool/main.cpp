@@ -39,21 +39,22 @@ std::vector<std::string> utf8Arguments(int, char**) {
     return arguments;
 }
 
-// For as long as it lives, what is written to the standard output arrives byte for byte, and a console takes it for
-// UTF-8.
-class Utf8Output {
+// For as long as it lives, what is read from the standard input and written to the standard output passes byte for byte,
+// and a console takes it for UTF-8.
+class Utf8Streams {
   public:
-    Utf8Output() {
+    Utf8Streams() {
+        _setmode(_fileno(stdin), _O_BINARY);
         _setmode(_fileno(stdout), _O_BINARY);
         SetConsoleOutputCP(CP_UTF8);
     }
-    ~Utf8Output() {
+    ~Utf8Streams() {
         std::cout.flush();
         std::cerr.flush();
         if (codePageBefore_ != 0) SetConsoleOutputCP(codePageBefore_);
     }
-    Utf8Output(const Utf8Output&) = delete;
-    Utf8Output& operator=(const Utf8Output&) = delete;
+    Utf8Streams(const Utf8Streams&) = delete;
+    Utf8Streams& operator=(const Utf8Streams&) = delete;
 
   private:
     const UINT codePageBefore_ = GetConsoleOutputCP();
@@ -65,8 +66,8 @@ std::vector<std::string> utf8Arguments(int count, char** values) {
     return count > 0 ? std::vector<std::string>(values + 1, values + count) : std::vector<std::string>();
 }
 
-// What is written arrives as it is.
-struct Utf8Output {};
+// What is read and written passes as it is.
+struct Utf8Streams {};
 
 #endif
 
@@ -75,8 +76,9 @@ struct Utf8Output {};
 int main(int argc, char** argv) {
     using namespace varno;
     try {
-        [[maybe_unused]] const Utf8Output output{};
-        const int code = tool::runTool(utf8Arguments(argc, argv), systemFileCalls(), std::cout, std::cerr);
+        [[maybe_unused]] const Utf8Streams streams{};
+        const int code =
+            tool::runTool(utf8Arguments(argc, argv), {systemFileCalls(), std::cin, std::cout, std::cerr});
         // Output that did not arrive (a full disk, a closed pipe) is not a success.
         if (!std::cout.flush()) throw RunTimeError(errDeviceIo);
         return code;

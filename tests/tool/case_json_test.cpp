@@ -132,6 +132,25 @@ TEST(CaseJson, WritesTheShortestNumberThatReadsBack) {
     EXPECT_EQ(static_cast<float>(json["spv"][3].get<double>()), std::numeric_limits<float>::denorm_min());
 }
 
+TEST(CaseJson, LeavesOutWhatIsNotInUse) {
+    const ordered_json json = ordered_json::parse(tool::usedCaseJson(testing::sampleCase()));
+    EXPECT_EQ(json.size(), jsonOf(testing::sampleCase()).size());
+    EXPECT_EQ(json["spv"], ordered_json::parse(R"({"1": 6, "2": 12.5, "3": 0.25})"));
+    EXPECT_EQ(json["upl"], ordered_json::parse(R"({"1": 0.1, "2": 0.25})"));
+    EXPECT_EQ(json["safetyClass"], ordered_json::parse(R"({"3": 2})"));
+    EXPECT_EQ(json["lambdaG"], ordered_json::parse(R"({"3": 1.35})"));
+    EXPECT_EQ(json["psi1"], ordered_json::parse(R"({"3": {"2": 0.5}})"));
+    EXPECT_EQ(json["llfnr"], ordered_json::parse(R"({"1": 1, "2": 3})"));
+    EXPECT_EQ(json["lllast"], ordered_json::parse(R"({"1": 10, "2": 7.75})"));
+    EXPECT_EQ(json["konsv"], 1.2);
+    CaseFile none = testing::sampleCase();
+    none.designCase.nllast = 0;
+    none.designCase.loadCode = 0;
+    const ordered_json bare = ordered_json::parse(tool::usedCaseJson(none));
+    EXPECT_EQ(bare["avst"], ordered_json::object());
+    EXPECT_TRUE(bare["ksi"]["0"].is_null());
+}
+
 TEST(CaseJson, KeepsTheSignOfZero) {
     CaseFile loaded = testing::sampleCase();
     loaded.designCase.konsh = -0.0f;

@@ -177,7 +177,8 @@ TEST(CaseReport, NamesTheChoicesAsTheFormDoes) {
 
 TEST(CaseReport, AlignsCharactersAndNotBytes) {
     const std::string report = reportWith([](DesignCase& c) { c.nllast = 1; });
-    expectLine(report, "  Nr  Fack  Avstånd    Last\n                  m    kN/m\n   1     1    2,50   10,00");
+    expectLine(report,
+               "  Nr  Fack  Avstånd    Last\n                  m    kN/m\n   1     1    2,50   10,00");
     EXPECT_EQ(characterCount("Åäö €"), 5u);
 }
 

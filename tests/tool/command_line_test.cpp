@@ -6,6 +6,7 @@
 
 #include "support/case_files.h"
 #include "support/memory_files.h"
+#include "tool/command_table.h"
 #include "tool/told.h"
 
 namespace varno {
@@ -19,10 +20,11 @@ class CommandLine : public ::testing::Test {
     int run(const std::vector<std::string>& arguments) {
         out.str("");
         err.str("");
-        return tool::runTool(arguments, files, out, err);
+        return tool::runTool(arguments, {files, in, out, err});
     }
 
     testing::MemoryFiles files;
+    std::istringstream in;
     std::ostringstream out;
     std::ostringstream err;
 };
@@ -87,11 +89,55 @@ TEST_F(CommandLine, WrongUsageEndsWith2) {
     };
     for (const auto& arguments : wrong) {
         EXPECT_EQ(run(arguments), 2) << ::testing::PrintToString(arguments);
-        EXPECT_TRUE(err.str().starts_with("Fel användning.\n"));
+        EXPECT_TRUE(err.str().starts_with("Fel användning: "));
         EXPECT_NE(err.str().find("Användning: varnotool"), std::string::npos) << err.str();
         EXPECT_EQ(out.str(), "");
     }
     EXPECT_TRUE(files.calls.empty());
+}
+
+TEST_F(CommandLine, NamesTheArgumentThatIsWrong) {
+    const std::pair<std::vector<std::string>, std::string> wrong[] = {
+        {{}, "ett kommando saknas."},
+        {{"nonsense"}, "kommandot \"nonsense\" finns inte."},
+        {{"jsno", "A.IND"}, "kommandot \"jsno\" finns inte; menade Du \"json\"?"},
+        {{"rewrite", "A.IND"}, "varnotool rewrite: argumentet UT saknas."},
+        {{"check"}, "varnotool check: argumentet FIL saknas."},
+        {{"json", "A.IND", "B.IND"}, "varnotool json: argumentet \"B.IND\" är ett för mycket eller okänt."},
+        {{"json", "--usde", "A.IND"},
+         "varnotool json: argumentet \"--usde\" är ett för mycket eller okänt; menade Du \"--used\"?"},
+        {{"sketch", "A.IND", "--svg"}, "varnotool sketch: valet --svg väntar ett värde."},
+        {{"sketch", "A.IND"}, "varnotool sketch: ange antingen --list eller --svg UT."},
+    };
+    for (const auto& [arguments, complaint] : wrong) {
+        EXPECT_EQ(run(arguments), 2) << complaint;
+        EXPECT_TRUE(err.str().starts_with("Fel användning: " + complaint + "\n")) << err.str();
+    }
+}
+
+TEST_F(CommandLine, TellsItsVersion) {
+    EXPECT_EQ(run({"--version"}), 0);
+    EXPECT_EQ(out.str(), "varnotool " VARNO_VERSION "\n");
+}
+
+TEST_F(CommandLine, ReadsTheStandardInputAsAFile) {
+    in.str(testing::sampleFile());
+    EXPECT_EQ(run({"show", "-"}), 0);
+    EXPECT_TRUE(out.str().starts_with("NAMNLÖS.IND\n"));
+    in = std::istringstream("A\r\n");
+    EXPECT_EQ(run({"json", "-"}), 1);
+    EXPECT_TRUE(err.str().starts_with("Filen på standard in tar slut på rad 2 ")) << err.str();
+    EXPECT_TRUE(files.calls.empty());
+}
+
+TEST_F(CommandLine, EveryHelpHasExamples) {
+    for (const tool::CommandRow& command : tool::commandTable()) {
+        EXPECT_EQ(run({command.name, "--help"}), 0);
+        EXPECT_NE(out.str().find("Exempel:\n"), std::string::npos) << command.name;
+        ASSERT_FALSE(command.examples.empty()) << command.name;
+        for (const tool::Example& example : command.examples)
+            EXPECT_NE(out.str().find(example.line), std::string::npos) << out.str();
+    }
 }
 
 TEST_F(CommandLine, ExplainsItselfInSwedish) {

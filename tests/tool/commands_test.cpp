@@ -20,6 +20,7 @@ class Commands : public ::testing::Test {
     std::ostringstream err;
     tool::ConsoleBoxes boxes{err};
     FileOpener opener{files, boxes};
+    tool::Session session{opener, out, err};
 };
 
 TEST_F(Commands, LoadACaseOverThePresets) {
@@ -33,17 +34,17 @@ TEST_F(Commands, LoadACaseOverThePresets) {
 TEST_F(Commands, PrintACase) {
     files.content["A.IND"] = testing::sampleFile();
     const CaseFile loaded = tool::loadCase(opener, "A.IND");
-    tool::printJson(opener, {"A.IND"}, out);
+    tool::printJson(session, {"A.IND"});
     EXPECT_EQ(out.str(), tool::caseJson(loaded));
     out.str("");
-    tool::printReport(opener, {"A.IND"}, out);
+    tool::printReport(session, {"A.IND"});
     EXPECT_EQ(out.str(), tool::caseReport(loaded));
 }
 
 TEST_F(Commands, RewriteGivesTheSameBytes) {
     files.content["A.IND"] = testing::sampleFile();
-    tool::rewriteCase(opener, {.file = "A.IND", .target = "B.IND"}, out);
-    tool::rewriteCase(opener, {.file = "A.IND", .target = "A.IND"}, out);
+    tool::rewriteCase(session, {.file = "A.IND", .target = "B.IND"});
+    tool::rewriteCase(session, {.file = "A.IND", .target = "A.IND"});
     EXPECT_EQ(files.content, (std::map<std::string, Bytes>{{"A.IND", testing::sampleFile()},
                                                            {"B.IND", testing::sampleFile()}}));
 }
@@ -51,14 +52,14 @@ TEST_F(Commands, RewriteGivesTheSameBytes) {
 TEST_F(Commands, RewriteBringsAForeignFileIntoShape) {
     files.content["A.IND"] =
         testing::textOf(testing::linesOf(testing::sampleFileWith(6, "6 12.5    .25")), "\n");
-    tool::rewriteCase(opener, {.file = "A.IND", .target = "A.IND"}, out);
+    tool::rewriteCase(session, {.file = "A.IND", .target = "A.IND"});
     EXPECT_EQ(testing::linesOf(files.content["A.IND"])[5], "612.5000.250  0.000  ");
 }
 
 TEST_F(Commands, RewriteKeepsTheTargetWhenTheSourceIsDamaged) {
     files.content["A.IND"] = "short\r\n";
     files.content["B.IND"] = "old";
-    EXPECT_EQ(errorOf([&] { tool::rewriteCase(opener, {.file = "A.IND", .target = "B.IND"}, out); }),
+    EXPECT_EQ(errorOf([&] { tool::rewriteCase(session, {.file = "A.IND", .target = "B.IND"}); }),
               errInputPastEnd);
     EXPECT_EQ(files.content["B.IND"], "old");
 }
@@ -68,22 +69,22 @@ TEST_F(Commands, RewriteKeepsTheTargetWhenTheDiskIsFull) {
     files.fault = [](const std::string& call, const std::string&) {
         return call == "write" ? errDiskFull : 0;
     };
-    EXPECT_EQ(errorOf([&] { tool::rewriteCase(opener, {.file = "A.IND", .target = "A.IND"}, out); }),
+    EXPECT_EQ(errorOf([&] { tool::rewriteCase(session, {.file = "A.IND", .target = "A.IND"}); }),
               errDiskFull);
     EXPECT_EQ(files.content, (std::map<std::string, Bytes>{{"A.IND", testing::sampleFile()}}));
 }
 
 TEST_F(Commands, AMissingFileIsError52AtTheFirstRead) {
     for (const auto action : {tool::printJson, tool::printReport, tool::printResult})
-        EXPECT_EQ(errorOf([&] { action(opener, {"A.IND"}, out); }), errBadFileNameOrNumber);
-    EXPECT_EQ(errorOf([&] { tool::rewriteCase(opener, {.file = "A.IND", .target = "B.IND"}, out); }),
+        EXPECT_EQ(errorOf([&] { action(session, {"A.IND"}); }), errBadFileNameOrNumber);
+    EXPECT_EQ(errorOf([&] { tool::rewriteCase(session, {.file = "A.IND", .target = "B.IND"}); }),
               errBadFileNameOrNumber);
     EXPECT_EQ(out.str() + err.str(), "");
 }
 
 TEST_F(Commands, PrintAResultAsTheViewerShowsIt) {
     files.content["A.res"] = "B\x84rl\xE4ggning\r\n\r\n  M = 12,5 kNm\xB2 \x80 \x81\r\n";
-    tool::printResult(opener, {"A.res"}, out);
+    tool::printResult(session, {"A.res"});
     EXPECT_EQ(out.str(), "\r\nBärläggning\r\n\r\n  M = 12,5 kNm² € \u0081");
 }
 
@@ -92,7 +93,7 @@ TEST_F(Commands, EveryByteOfAResultBecomesACharacter) {
     for (int byte = 0x80; byte < 0x100; ++byte)
         high += static_cast<char>(byte);
     files.content["A.res"] = "\x8F\x8E\x99\x86\x84\x94\r\n" + high;
-    tool::printResult(opener, {"A.res"}, out);
+    tool::printResult(session, {"A.res"});
     EXPECT_EQ(encodeWindows1252(out.str()).size(), 2 + 6 + 2 + 128u);
     EXPECT_EQ(encodeWindows1252(out.str()).find('?'), std::string::npos);
     EXPECT_TRUE(out.str().starts_with("\r\nÅÄÖåäö\r\n€"));

@@ -46,7 +46,7 @@ TEST_F(Program, Ends1AtARunTimeError) {
 TEST_F(Program, Ends2AtWrongUsage) {
     EXPECT_EQ(run(""), 2);
     EXPECT_EQ(run("nonsense"), 2);
-    EXPECT_TRUE(folder.read("err").starts_with("Fel användning.\n"));
+    EXPECT_TRUE(folder.read("err").starts_with("Fel användning: "));
     EXPECT_EQ(folder.read("out"), "");
 }
 
