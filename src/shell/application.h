@@ -23,6 +23,7 @@
 #include "shell/prompt_window.h"
 #include "shell/rescue_window.h"
 #include "shell/start_up.h"
+#include "shell/status_line.h"
 #include "win32/crash_guard.h"
 #include "win32/gdi_printer.h"
 #include "win32/help.h"
@@ -59,6 +60,7 @@ class Application : public win32::WindowHost,
     bool closing() override;
     void dpiChanged(int dpi) override { form_.changeDpi(dpi); }
     void clientResized(int width, int height) override;
+    void statusDue() override;
     void showRunTimeError() override;
     void helpRequested(const HELPINFO& request) override;
 
@@ -85,6 +87,8 @@ class Application : public win32::WindowHost,
     bool translateStepKey(const MSG& message);
     win32::FormWindow* editedIn(HWND root);
     void calculate();
+    /// When the result file of the case was last written, if there is one.
+    std::optional<std::int64_t> lastResult();
     void showResult();
     /// Offers the cases that a program left in the file dialog's folder when it was ended while saving them.
     void offerLeftovers();
@@ -163,6 +167,7 @@ class Application : public win32::WindowHost,
     win32::GdiPrinter printer_;
     ResultPrinting printing_;
     MomentDiagram diagram_;
+    StatusLine status_{case_, state_, locale_};
     std::unique_ptr<Results> results_;
     std::unique_ptr<DisclaimerWindow> important_;
     std::unique_ptr<Moments> moments_;

@@ -67,6 +67,14 @@ void Toolbar::setDpi(int dpi) {
     SendMessageW(handle_, TB_AUTOSIZE, 0, 0);
 }
 
+int Toolbar::at(POINT place) const {
+    ScreenToClient(handle_, &place);
+    // Beside all buttons a negative number.
+    const auto hit = SendMessageW(handle_, TB_HITTEST, 0, reinterpret_cast<LPARAM>(&place));
+    const auto count = static_cast<LRESULT>(toolbarKeys.size());
+    return hit >= 0 && hit < count ? toolbarKeys[static_cast<std::size_t>(hit)].id : 0;
+}
+
 void Toolbar::setEnabled(int id, bool enabled) {
     SendMessageW(handle_, TB_ENABLEBUTTON, static_cast<WPARAM>(id), MAKELPARAM(enabled ? TRUE : FALSE, 0));
 }

@@ -18,6 +18,8 @@ class Toolbar {
     HWND handle() const { return handle_; }
     /// What the toolbar asks for the tip of a button.
     void tell(NMTBGETINFOTIPW& tip) const;
+    /// The ID of the button at a place of the screen, 0 for none.
+    int at(POINT place) const;
 
   private:
     struct Destroyer {
