@@ -159,46 +159,6 @@ TEST_F(Screen, ANumberThatIsTooWideForEveryFaceStandsBesideItsBox) {
     expectSoon(program(), false, [&] { return shown(whole); });
 }
 
-class Status : public SharedProgram {
-  protected:
-    static std::string part(int id) { return program().main().item(id).text(); }
-    static void expectPart(int id, const std::string& text,
-                           std::source_location place = std::source_location::current()) {
-        expectSoon(
-            program(), text, [&] { return part(id); }, place);
-    }
-    static void pointAt(const Control& control) {
-        RECT box{};
-        GetWindowRect(control.handle(), &box);
-        SetCursorPos((box.left + box.right) / 2, (box.top + box.bottom) / 2);
-    }
-};
-
-TEST_F(Status, TellsWhatBecameOfTheCase) {
-    expectPart(idStatusState, "Nytt fall");
-    program().open("BOSTAD.IND");
-    expectPart(idStatusState, "Sparad");
-    expectPart(idStatusFolder, "Sparas i " + scene().folder());
-    expectPart(idStatusResult, "Inte beräknad");
-    program().calculate();
-    expectSoon(program(), true, [] { return part(idStatusResult).starts_with("Beräknad 20"); });
-    const std::string result = part(idStatusResult);
-    program().typeInto({Field::konsv}, "2");
-    program().field(Field::rubrik).clickInto();
-    expectPart(idStatusState, "Ändrad, inte sparad");
-    expectPart(idStatusResult, result + ", äldre än indata");
-}
-
-TEST_F(Status, TellsWhyABoxIsLocked) {
-    pointAt(program().field(Field::upl, 0));
-    expectPart(idStatusReason, "Låst: ändupplagens bredd är alltid 0.");
-    EXPECT_TRUE(program().main().item(idStatusReason).visible());
-    EXPECT_FALSE(program().main().item(idStatusState).visible());
-    pointAt(program().field(Field::upl, 1));
-    expectPart(idStatusReason, "");
-    EXPECT_TRUE(program().main().item(idStatusState).visible());
-}
-
 // A screen that is small for its scaling: 640 x 400 at 100 %.
 TEST(SmallScreen, NoWindowIsLargerThanTheWorkArea) {
     Scene scene;

@@ -83,15 +83,26 @@ std::vector<ToolbarButton> Program::toolbarButtons() const {
     return buttons;
 }
 
-void Program::clickToolbar(int id) const {
+RECT Program::toolbarButtonPlace(int id) const {
     const Control bar = main().item(idToolbar);
     RemoteMemory memory(process(), sizeof(RECT));
     const LRESULT place = bar.send(TB_COMMANDTOINDEX, static_cast<WPARAM>(id));
     if (bar.send(TB_GETITEMRECT, static_cast<WPARAM>(place), static_cast<LPARAM>(memory.address())) == 0) {
         throw GuiError("the toolbar has no button " + std::to_string(id));
     }
-    const auto box = memory.as<RECT>();
-    bar.clickAt((box.left + box.right) / 2, (box.top + box.bottom) / 2);
+    return memory.as<RECT>();
+}
+
+void Program::clickToolbar(int id) const {
+    const RECT box = toolbarButtonPlace(id);
+    main().item(idToolbar).clickAt((box.left + box.right) / 2, (box.top + box.bottom) / 2);
+}
+
+RECT Program::menuBarPlace(int menu) const {
+    const DWORD window = number(main().handle());
+    RemoteMemory memory(process(), sizeof(RECT));
+    user("GetMenuItemRect", {window, user("GetMenu", {window}), static_cast<DWORD>(menu), memory.address()});
+    return memory.as<RECT>();
 }
 
 std::vector<LOGFONTW> Program::fontsOf(const std::vector<Control>& controls) const {
