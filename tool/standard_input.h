@@ -26,6 +26,7 @@ class WithStandardInput : public FileCalls {
     bool exists(const std::string& path) override { return calls_.exists(path); }
     bool same(const std::string& a, const std::string& b) override { return calls_.same(a, b); }
     std::int64_t lastWritten(const std::string& path) override { return calls_.lastWritten(path); }
+    std::string lastWrittenText(const std::string& path) override { return calls_.lastWrittenText(path); }
 
   private:
     Bytes readStream() {

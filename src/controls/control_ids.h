@@ -39,6 +39,11 @@ enum MainPartId : int {
     idInputForm, ///< the input form itself, inside the MDI client
     idLoadPicture,
     idSlabStrip,
+    idStatusState, ///< the status line: saved or changed
+    idStatusFolder,
+    idStatusLength,
+    idStatusResult,
+    idStatusReason, ///< over all of the line
     idFlag = 3100,          ///< + 0..6
     idSupportButton = 3200, ///< `stod`, + 0..15
     idFirstMdiChild = 3300,

@@ -143,6 +143,19 @@ void InputFormWindow::showHint(Control control, const std::string& text) {
     if (GetFocus() == box) hint_.show(box, text);
 }
 
+std::optional<Control> InputFormWindow::lockedAt(POINT place) const {
+    // Where a locked one is, Windows finds what it stands in.
+    if (WindowFromPoint(place) != handle()) return std::nullopt;
+    for (const ControlSpec& spec : inputFormLayout()) {
+        const HWND box = item(spec.id);
+        if (spec.kind != ControlKind::numberEdit || !IsWindowVisible(box) || IsWindowEnabled(box)) continue;
+        RECT area{};
+        GetWindowRect(box, &area);
+        if (PtInRect(&area, place)) return controlOfId(spec.id);
+    }
+    return std::nullopt;
+}
+
 LRESULT InputFormWindow::defaultProc(UINT message, WPARAM wParam, LPARAM lParam) {
     return DefMDIChildProcW(handle(), message, wParam, lParam);
 }

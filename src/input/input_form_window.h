@@ -27,6 +27,8 @@ class InputFormWindow : public win32::FormWindow, public FormView {
     bool translateKey(const MSG& message);
     /// Gives the focus to the first or the last control that takes it.
     void focusEnd(bool last);
+    /// The locked box at a place of the screen.
+    std::optional<Control> lockedAt(POINT place) const;
     /// Lays the form out at another resolution.
     void changeDpi(int dpi);
     /// Takes the room that the main window has for it, and scrolls where it needs more.

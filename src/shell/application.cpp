@@ -241,6 +241,15 @@ void Application::sketchChanged() {
     tips_.showSketch(sketchTips(case_, sketch_, locale_));
 }
 
+void Application::statusDue() {
+    // Start-up shows the main window before there is a case in it.
+    if (!IsWindowVisible(form_.handle())) return;
+    POINT pointer{};
+    GetCursorPos(&pointer);
+    main_.showStatus(status_.words({document_.changed(), fileDialog_.directory(), sketch_.totalLength(),
+                                    form_.lockedAt(pointer), main_.onGreyDiagram(pointer)}));
+}
+
 void Application::clientResized(int width, int height) {
     tips_.placeAgain();
     if (form_.exists()) form_.fill(width, height);
@@ -254,8 +263,21 @@ void Application::helpRequested(const HELPINFO& request) {
 // Results, files and line loads
 
 void Application::calculate() {
+    const auto before = lastResult();
     CalculationRun(files_, boxes_, processes_, main_, results_->viewer)
         .run(state_, settings_.workFolder, settings_.resultFontName);
+    // A run that was refused, and an engine that failed, leave the result as it was.
+    if (lastResult() != before) status_.calculated(rescueClock_.dateAndTime());
+}
+
+std::optional<std::int64_t> Application::lastResult() {
+    const std::string path = state_.currentFileName + ".res";
+    try {
+        if (files_.calls().exists(path)) return files_.calls().lastWritten(path);
+    } catch (const RunTimeError&) {
+        // One that cannot be asked for is none.
+    }
+    return std::nullopt;
 }
 
 void Application::showResult() {
@@ -292,6 +314,7 @@ void Application::openLineLoads(std::unique_ptr<LineLoads>& editor, const LineLo
 // Document
 
 void Application::caseOpened() {
+    status_.opened();
     steps_.start();
     showBeside();
 }

@@ -26,6 +26,7 @@
 #include "shell/recent_cases.h"
 #include "shell/rescue_window.h"
 #include "shell/start_up.h"
+#include "shell/status_line.h"
 #include "win32/crash_guard.h"
 #include "win32/gdi_printer.h"
 #include "win32/help.h"
@@ -66,6 +67,7 @@ class Application : public win32::WindowHost,
     void dpiChanged(int dpi) override { form_.changeDpi(dpi); }
     void clientResized(int width, int height) override;
     void showRunTimeError() override { boxes_.showNext(); }
+    void statusDue() override;
     void helpRequested(const HELPINFO& request) override;
 
     // DocumentView
@@ -96,6 +98,8 @@ class Application : public win32::WindowHost,
     bool translateRecentKey(const MSG& message);
     win32::FormWindow* editedIn(HWND root);
     void calculate();
+    /// When the result file of the case was last written, if there is one.
+    std::optional<std::int64_t> lastResult();
     void showResult();
     /// Offers the cases that a program left in the file dialog's folder when it was ended while saving them.
     void offerLeftovers() { offerLeftoversIn(fileDialog_.directory()); }
@@ -176,6 +180,7 @@ class Application : public win32::WindowHost,
     win32::GdiPrinter printer_;
     ResultPrinting printing_;
     MomentDiagram diagram_;
+    StatusLine status_{case_, state_, locale_};
     std::unique_ptr<Results> results_;
     std::unique_ptr<DisclaimerWindow> important_;
     std::unique_ptr<Moments> moments_;

@@ -28,6 +28,11 @@ constexpr int besideSketch = stripX + beforeFlag + flagWidth + beforeName + name
 // loads, supports and slab line up.
 constexpr int sketchWidth = static_cast<int>(slabStripStart + loadPictureWidth);
 constexpr int sketchHeight = static_cast<int>(loadPictureHeight + slabStripHeight);
+constexpr int statusHeight = raster(20);
+constexpr int besideStatus = raster(8);
+constexpr int stateWidth = raster(130);
+constexpr int lengthWidth = raster(150);
+constexpr int resultWidth = raster(270);
 constexpr int leastWidth = raster(640);
 constexpr int leastFormHeight = raster(140);
 
@@ -43,7 +48,7 @@ int dpiFor(int pixels, int twips) {
 int sketchDpiFor(int width, int height, int dpi) {
     const int byWidth = dpiFor(width - pixelsOf(besideSketch, dpi), sketchWidth);
     if (byWidth < dpi) return std::max(byWidth, dpi / 2);
-    const int besides = pixelsOf(sketchTop + belowBand, dpi) + pixelsOf(formHeight, dpi);
+    const int besides = pixelsOf(sketchTop + belowBand, dpi) + pixelsOf(formHeight + statusHeight, dpi);
     const int byHeight = dpiFor(height - besides, sketchHeight);
     return std::clamp(byHeight, dpi, byWidth);
 }
@@ -77,18 +82,29 @@ MainLayout mainLayout(int width, int height, int dpi) {
         layout.slabStrip.width = std::min(layout.slabStrip.width, flagX - left);
 
     const int bandEnd = std::max(layout.slabStrip.bottom(), layout.flag.bottom()) + px(belowBand);
-    layout.form = {0, bandEnd, width, std::max(0, height - bandEnd)};
+    const int statusY = height - px(statusHeight);
+    layout.form = {0, bandEnd, width, std::max(0, statusY - bandEnd)};
+
+    const int side = px(besideStatus);
+    const auto inStatus = [&](int x, int right) { return Area{x, statusY, right - x, px(statusHeight)}; };
+    layout.statusReason = inStatus(side, width - side);
+    layout.statusState = inStatus(side, side + px(stateWidth));
+    layout.statusResult = inStatus(width - side - px(resultWidth), width - side);
+    layout.statusLength =
+        inStatus(layout.statusResult.x - side - px(lengthWidth), layout.statusResult.x - side);
+    layout.statusFolder = inStatus(layout.statusState.right() + side, layout.statusLength.x - side);
     return layout;
 }
 
 Area naturalMainArea(int dpi) {
     return {0, 0, pixelsOf(formWidth, dpi),
-            pixelsOf(sketchTop + belowBand, dpi) + pixelsOf(sketchHeight, dpi) + pixelsOf(formHeight, dpi)};
+            pixelsOf(sketchTop + belowBand, dpi) + pixelsOf(sketchHeight, dpi) +
+                pixelsOf(formHeight + statusHeight, dpi)};
 }
 
 Area leastMainArea(int dpi) {
     return {0, 0, pixelsOf(leastWidth, dpi),
-            pixelsOf(sketchTop + belowBand + sketchHeight + leastFormHeight, dpi)};
+            pixelsOf(sketchTop + belowBand + sketchHeight + leastFormHeight + statusHeight, dpi)};
 }
 
 } // namespace varno

@@ -23,6 +23,9 @@ namespace {
 
 constexpr UINT showErrorMessage = WM_APP + 1;
 constexpr int buttonCount = 16; // stod
+constexpr UINT_PTR statusTimer = 1;
+constexpr UINT statusInterval = 200; // ms
+constexpr int statusParts[]{idStatusState, idStatusFolder, idStatusLength, idStatusResult, idStatusReason};
 
 void put(HWND window, const Area& area) {
     win32::setPlace(window, area.x, area.y, area.width, area.height);
@@ -73,6 +76,7 @@ void MainWindow::listen(MainEvents& events) {
     createParts();
     // What is dropped on a part of it comes here.
     DragAcceptFiles(handle(), TRUE);
+    SetTimer(handle(), statusTimer, statusInterval, nullptr);
     setDpi(win32::dpiOf(handle()));
 }
 
@@ -93,6 +97,15 @@ void MainWindow::createParts() {
     flagLabel_ = win32::createControl(handle(), 0, L"STATIC", "", WS_VISIBLE | SS_LEFT | SS_NOPREFIX);
     win32::nameForScreenReaders(flagLabel_, "", ROLE_SYSTEM_STATICTEXT);
     win32::nameForScreenReaders(toolbar_.handle(), "Verktyg", ROLE_SYSTEM_TOOLBAR);
+    for (const int part : statusParts) {
+        const DWORD cut = part == idStatusFolder   ? SS_PATHELLIPSIS
+                          : part == idStatusReason ? SS_ENDELLIPSIS
+                                                   : 0;
+        const DWORD shown = part == idStatusReason ? 0 : WS_VISIBLE;
+        const HWND label = win32::createControl(handle(), part, L"STATIC", "",
+                                                shown | cut | SS_LEFT | SS_NOPREFIX | SS_CENTERIMAGE);
+        win32::nameForScreenReaders(label, "", ROLE_SYSTEM_STATICTEXT);
+    }
     CLIENTCREATESTRUCT client{};
     client.idFirstChild = idFirstMdiChild;
     mdiClient_ = win32::createControl(handle(), idMdiClient, L"MDICLIENT", "",
@@ -104,6 +117,8 @@ void MainWindow::setDpi(int dpi) {
     toolbar_.setDpi(dpi);
     win32::UniqueFont font = win32::systemFont(dpi);
     SendMessageW(flagLabel_, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
+    for (const int part : statusParts)
+        SendMessageW(GetDlgItem(handle(), part), WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
     font_ = std::move(font);
 }
 
@@ -149,6 +164,11 @@ void MainWindow::layOut() {
     for (int flag = 0; flag < flagCount; ++flag)
         put(GetDlgItem(handle(), idFlag + flag), layout.flag);
     put(flagLabel_, layout.flagName);
+    put(GetDlgItem(handle(), idStatusState), layout.statusState);
+    put(GetDlgItem(handle(), idStatusFolder), layout.statusFolder);
+    put(GetDlgItem(handle(), idStatusLength), layout.statusLength);
+    put(GetDlgItem(handle(), idStatusResult), layout.statusResult);
+    put(GetDlgItem(handle(), idStatusReason), layout.statusReason);
     put(mdiClient_, layout.form);
     events_->clientResized(layout.form.width, layout.form.height);
     // Parts that change places would carry pieces of each other along.
@@ -167,6 +187,34 @@ void MainWindow::placeSupportButtons() {
                             toPixels(supportButtonHeight));
         ShowWindow(button, state.visible ? SW_SHOWNA : SW_HIDE);
     }
+}
+
+void MainWindow::showStatus(const StatusWords& words) {
+    if (words == status_) return;
+    const bool swap = words.reason.empty() != status_.reason.empty();
+    status_ = words;
+    const auto show = [this](int part, const std::string& text) {
+        const HWND label = GetDlgItem(handle(), part);
+        if (win32::textOf(label) != text) win32::setText(label, text);
+    };
+    show(idStatusState, words.state);
+    show(idStatusFolder, words.folder);
+    show(idStatusLength, words.length);
+    show(idStatusResult, words.result);
+    show(idStatusReason, words.reason);
+    if (!swap) return;
+    for (const int part : statusParts) {
+        const bool isReason = part == idStatusReason;
+        ShowWindow(GetDlgItem(handle(), part), isReason == words.reason.empty() ? SW_HIDE : SW_SHOWNA);
+    }
+}
+
+bool MainWindow::onGreyDiagram(POINT pointer) const {
+    if (diagramEnabled_) return false;
+    if (menuOnDiagram_) return true;
+    const HWND below = WindowFromPoint(pointer);
+    if (below == toolbar_.handle()) return toolbar_.at(pointer) == idMoment;
+    return below == handle() && MenuItemFromPoint(handle(), GetMenu(handle()), pointer) == diagramMenuPlace;
 }
 
 void MainWindow::sketchChanged() {
@@ -277,6 +325,14 @@ LRESULT MainWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         if (reinterpret_cast<const NMHDR*>(lParam)->code != TBN_GETINFOTIPW) break;
         toolbar_.tell(*reinterpret_cast<NMTBGETINFOTIPW*>(lParam));
         return 0;
+    case WM_TIMER:
+        if (wParam != statusTimer) break;
+        events_->statusDue();
+        return 0;
+    case WM_MENUSELECT:
+        menuOnDiagram_ = lParam != 0 && reinterpret_cast<HMENU>(lParam) == GetMenu(handle()) &&
+                         LOWORD(wParam) == diagramMenuPlace;
+        break;
     case WM_INITMENUPOPUP:
         if (reinterpret_cast<HMENU>(wParam) == fileMenu_) events_->endTyping();
         break;

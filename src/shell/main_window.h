@@ -11,6 +11,7 @@
 #include "controls/main_view.h"
 #include "input/sketch_picture.h"
 #include "shell/main_layout.h"
+#include "shell/status_line.h"
 #include "shell/toolbar_window.h"
 #include "win32/dpi.h"
 #include "win32/picture_window.h"
@@ -45,6 +46,8 @@ class MainEvents {
     virtual void dpiChanged(int dpi) = 0;
     /// The MDI client has this size in pixels.
     virtual void clientResized(int width, int height) = 0;
+    /// A few times a second: the status line is to be brought up to date.
+    virtual void statusDue() = 0;
     /// The next of the run-time errors that were reported.
     virtual void showRunTimeError() = 0;
     /// F1 was pressed in an open menu or in a message box.
@@ -69,6 +72,9 @@ class MainWindow : public win32::Window, public MainView {
     HWND loadPicture() const { return loadPicture_.handle(); }
     /// Below the toolbar button "Öppna...", on the screen.
     POINT belowOpenButton() const;
+    void showStatus(const StatusWords& words);
+    /// "Diagram" is grey, and the pointer, or a menu walked through with keys, is on it: its menu or its toolbar button.
+    bool onGreyDiagram(POINT pointer) const;
     /// Paints the sketch and places the support buttons as they are now.
     void sketchChanged();
     /// Later, when the current event is over, MainEvents::showRunTimeError is called.
@@ -106,6 +112,8 @@ class MainWindow : public win32::Window, public MainView {
     HWND mdiClient_ = nullptr;
     HWND flagLabel_ = nullptr;
     HMENU fileMenu_ = nullptr;
+    StatusWords status_;
+    bool menuOnDiagram_ = false;
     win32::UniqueFont font_;
     bool diagramEnabled_ = true;
     int dpi_ = USER_DEFAULT_SCREEN_DPI;

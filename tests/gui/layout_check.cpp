@@ -72,6 +72,8 @@ bool staticFits(const Control& control, const Measure& measure) {
         const std::string small = split < text.size() ? text.substr(split + 1) : "";
         return measure.width(text.substr(0, split)) * 3 / 2 + measure.width(small) * 5 / 6 <= room.cx;
     }
+    // A long path or reason ends in an ellipsis.
+    if ((control.style() & SS_ELLIPSISMASK) != 0) return true;
     const SIZE needed = measure.broken(text, room.cx);
     return needed.cx <= room.cx && needed.cy <= room.cy;
 }

@@ -72,6 +72,22 @@ TEST_P(Layout, OfTheFormAndTheBandAboveIt) {
     }
 }
 
+// With its longest words.
+TEST_P(Layout, OfTheStatusLine) {
+    Program program(scene, options);
+    program.passStartUp();
+    program.open("TIOFACK.IND");
+    program.calculate();
+    program.typeInto({Field::spv, 1}, "10000");
+    program.field(Field::rubrik).clickInto();
+    const auto result = [&] { return program.main().item(idStatusResult).text(); };
+    expectSoon(program, true, [&] { return result().ends_with(", äldre än indata"); });
+    const auto length = [&] { return program.main().item(idStatusLength).text(); };
+    expectSoon(program, true,
+               [&] { return length().size() >= std::string("Total längd 100000,00 m").size(); });
+    expectBandSound(program);
+}
+
 TEST_P(Layout, OfTheDialogsAndTheViewer) {
     Program program(scene, options);
     program.passStartUp();

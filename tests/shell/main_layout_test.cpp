@@ -24,10 +24,12 @@ bool apart(const Area& one, const Area& other) {
 
 // What holds in every window: everything is inside and nothing lies on anything else.
 void expectSound(const MainLayout& layout, int width, int height) {
-    const Area parts[] = {layout.toolbar, layout.loadPicture, layout.slabStrip,
-                          layout.flag,    layout.flagName,    layout.form};
+    const Area parts[] = {layout.toolbar,      layout.loadPicture, layout.slabStrip,   layout.flag,
+                          layout.flagName,     layout.form,        layout.statusState, layout.statusFolder,
+                          layout.statusLength, layout.statusResult};
     for (const Area& part : parts) {
         EXPECT_GE(part.x, 0);
+        EXPECT_GE(part.width, 0);
         EXPECT_GE(part.y, 0);
         EXPECT_LE(part.right(), width);
         EXPECT_LE(part.bottom(), height);

@@ -138,6 +138,8 @@ class Program {
     std::vector<ToolbarButton> toolbarButtons() const;
     void clickToolbar(int id) const;
     void rightClickToolbar(int id) const;
+    RECT toolbarButtonPlace(int id) const; ///< in the toolbar
+    RECT menuBarPlace(int menu) const;     ///< on the screen
     LOGFONTW fontOf(const Control& control) const { return fontsOf({control}).front(); }
     std::vector<LOGFONTW> fontsOf(const std::vector<Control>& controls) const;
     std::string currentDirectory() const;

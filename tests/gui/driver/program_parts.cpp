@@ -130,14 +130,18 @@ std::vector<ToolbarButton> Program::toolbarButtons() const {
     return buttons;
 }
 
-POINT Program::middleOfToolbarButton(int id) const {
+RECT Program::toolbarButtonPlace(int id) const {
     const Control bar = main().item(idToolbar);
     RemoteMemory memory(process(), sizeof(RECT));
     const LRESULT place = bar.send(TB_COMMANDTOINDEX, static_cast<WPARAM>(id));
     if (bar.send(TB_GETITEMRECT, static_cast<WPARAM>(place), static_cast<LPARAM>(memory.address())) == 0) {
         throw GuiError("the toolbar has no button " + std::to_string(id));
     }
-    const auto box = memory.as<RECT>();
+    return memory.as<RECT>();
+}
+
+POINT Program::middleOfToolbarButton(int id) const {
+    const RECT box = toolbarButtonPlace(id);
     return {(box.left + box.right) / 2, (box.top + box.bottom) / 2};
 }
 
@@ -151,6 +155,13 @@ void Program::rightClickToolbar(int id) const {
     const Control bar = main().item(idToolbar);
     bar.post(WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(place.x, place.y));
     bar.post(WM_RBUTTONUP, 0, MAKELPARAM(place.x, place.y));
+}
+
+RECT Program::menuBarPlace(int menu) const {
+    const DWORD window = number(main().handle());
+    RemoteMemory memory(process(), sizeof(RECT));
+    user("GetMenuItemRect", {window, user("GetMenu", {window}), static_cast<DWORD>(menu), memory.address()});
+    return memory.as<RECT>();
 }
 
 std::vector<LOGFONTW> Program::fontsOf(const std::vector<Control>& controls) const {

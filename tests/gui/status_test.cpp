@@ -1,0 +1,95 @@
+// The line at the foot of the main window.
+#include <gtest/gtest.h>
+
+#include "driver/keyboard.h"
+#include "driver/program.h"
+#include "shell/menu_table.h"
+#include "soon.h"
+
+namespace varno::gui {
+namespace {
+
+class Status : public ::testing::Test {
+  protected:
+    Status() { program.passStartUp(); }
+    std::string part(int id) { return program.main().item(id).text(); }
+    void expectPart(int id, const std::string& text,
+                    std::source_location place = std::source_location::current()) {
+        expectSoon(
+            program, text, [&] { return part(id); }, place);
+    }
+    void pointAt(const RECT& box) { SetCursorPos((box.left + box.right) / 2, (box.top + box.bottom) / 2); }
+    void pointAt(const Control& control) {
+        RECT box{};
+        GetWindowRect(control.handle(), &box);
+        pointAt(box);
+    }
+
+    Scene scene;
+    Program program{scene};
+};
+
+TEST_F(Status, TellsWhatBecameOfTheCase) {
+    expectPart(idStatusState, "Nytt fall");
+    program.open("BOSTAD.IND");
+    expectPart(idStatusState, "Sparad");
+    expectPart(idStatusFolder, "Sparas i " + scene.folder());
+    expectPart(idStatusResult, "Inte beräknad");
+    program.calculate();
+    expectSoon(program, true, [&] { return part(idStatusResult).starts_with("Beräknad 20"); });
+    const std::string result = part(idStatusResult);
+    program.typeInto({Field::konsv}, "2");
+    program.field(Field::rubrik).clickInto();
+    expectPart(idStatusState, "Ändrad, inte sparad");
+    expectPart(idStatusResult, result + ", äldre än indata");
+}
+
+TEST_F(Status, TellsWhyABoxIsLocked) {
+    pointAt(program.field(Field::upl, 0));
+    expectPart(idStatusReason, "Låst: ändupplagens bredd är alltid 0.");
+    EXPECT_TRUE(program.main().item(idStatusReason).visible());
+    EXPECT_FALSE(program.main().item(idStatusState).visible());
+    pointAt(program.field(Field::upl, 1));
+    expectPart(idStatusReason, "");
+    EXPECT_TRUE(program.main().item(idStatusState).visible());
+}
+
+constexpr const char* notCalculated =
+    "Diagram är grå: fallet är inte beräknat. Välj \"Kör...\" i menyn \"Beräkning\".";
+constexpr const char* changedSince =
+    "Diagram är grå: indata har ändrats sedan beräkningen. Välj \"Kör...\" i menyn \"Beräkning\".";
+
+TEST_F(Status, TellsWhyDiagramIsGrey) {
+    program.open("KONTOR.IND");
+    const Control toolbar = program.main().item(idToolbar);
+    RECT button = program.toolbarButtonPlace(idMoment);
+    MapWindowPoints(toolbar.handle(), nullptr, reinterpret_cast<POINT*>(&button), 2);
+    pointAt(button);
+    expectPart(idStatusReason, notCalculated);
+    program.calculate();
+    expectPart(idStatusReason, "");
+    program.typeInto({Field::konsv}, "2");
+    program.field(Field::rubrik).clickInto();
+    expectPart(idStatusReason, changedSince);
+
+    // The same of the menu, walked through with keys.
+    pointAt(program.main().item(idLoadPicture));
+    expectPart(idStatusReason, "");
+    keyboard::press(VK_F10);
+    for (int menu = 0; menu < diagramMenuPlace; ++menu)
+        keyboard::press(VK_RIGHT);
+    expectPart(idStatusReason, changedSince);
+    keyboard::press(VK_ESCAPE);
+    expectPart(idStatusReason, "");
+}
+
+TEST_F(Status, TellsWhyDiagramIsGreyWithThePointerOnItsMenu) {
+    program.open("KONTOR.IND");
+    pointAt(program.menuBarPlace(diagramMenuPlace));
+    expectPart(idStatusReason, notCalculated);
+    pointAt(program.main().item(idLoadPicture));
+    expectPart(idStatusReason, "");
+}
+
+} // namespace
+} // namespace varno::gui
