@@ -95,7 +95,7 @@ class Tour {
     void exit();
 
     const std::string folder_ = currentFolder();
-    Program program_{StartOptions{folder_, folder_ + "\\varno.exe", 0, {}}};
+    Program program_{StartOptions{.currentFolder = folder_, .program = folder_ + "\\varno.exe"}};
     Camera camera_{program_, folder_};
     PaperTour paper_{program_, folder_, camera_};
 };
