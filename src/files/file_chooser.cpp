@@ -54,9 +54,11 @@ void FileChooser::move(const std::function<void()>& step) {
         step();
     } catch (...) {
         view_.refreshLists();
+        moved();
         throw;
     }
     view_.refreshLists();
+    moved();
 }
 
 } // namespace varno

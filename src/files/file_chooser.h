@@ -37,6 +37,7 @@ class FileChooser {
     FileChooser(Folders& folders, FileChooserView& view) : folders_(folders), view_(view) {}
     FileChooser(const FileChooser&) = delete;
     FileChooser& operator=(const FileChooser&) = delete;
+    virtual ~FileChooser() = default;
 
     /// The directory that the lists stand in; the process's current directory until another is chosen.
     const std::string& directory();
@@ -66,6 +67,8 @@ class FileChooser {
     /// Shows the lists again however the step ends: after a drive that is not there, the drive list stands
     /// where the others do.
     void move(const std::function<void()>& step);
+    /// The lists stand elsewhere, or may.
+    virtual void moved() {}
 
   private:
     Folders& folders_;

@@ -1,6 +1,9 @@
 #include "files/file_dialog.h"
 
+#include <string_view>
+
 #include "base/text.h"
+#include "files/case_summary.h"
 
 namespace varno {
 
@@ -15,6 +18,8 @@ bool FileDialog::ask(const FileDialogUse& use, const std::string& name) {
     setPattern(use.pattern);
     dialogAnswer_ = 1;
     view_.setCaption(use.caption);
+    describing_ = use.caption == std::string_view(choosingCase.caption);
+    view_.setNoteLines(use.noteLines);
     view_.setNote(use.dialogForSaving == 1 ? savingNote : "");
     view_.refreshLists();
     view_.setName(name);
@@ -63,6 +68,13 @@ void FileDialog::accepted() {
         throw;
     }
     view_.selectName();
+}
+
+void FileDialog::nameChanged() {
+    if (!describing_) return;
+    const std::string name = view_.name();
+    const bool isName = !trimBlanks(name).empty() && name.find_first_of(":\\*?") == std::string::npos;
+    view_.setNote(isName ? caseSummary(calls_, pathOf(name), locale_) : std::string());
 }
 
 void FileDialog::cancelled() {

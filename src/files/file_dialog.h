@@ -3,7 +3,9 @@
 #include <cstdint>
 #include <string>
 
+#include "base/file_calls.h"
 #include "base/message_boxes.h"
+#include "base/numbers.h"
 #include "files/file_chooser.h"
 
 namespace varno {
@@ -13,10 +15,11 @@ struct FileDialogUse {
     const char* caption;
     const char* pattern;
     std::int16_t dialogForSaving; ///< 1 for saving, 0 for choosing an existing file
+    int noteLines;                ///< the room below the lists
 };
-inline constexpr FileDialogUse choosingCase{"Välj Indatafil", "*.IND", 0};
-inline constexpr FileDialogUse savingCase{"Spara som..", "*.IND", 1};
-inline constexpr FileDialogUse choosingResult{"Välj Resultatfil", "*.RES", 0};
+inline constexpr FileDialogUse choosingCase{"Välj Indatafil", "*.IND", 0, 4};
+inline constexpr FileDialogUse savingCase{"Spara som..", "*.IND", 1, 2};
+inline constexpr FileDialogUse choosingResult{"Välj Resultatfil", "*.RES", 0, 0};
 
 /// The file-name dialog's window (`FileInfo`) as its rules see it.
 class FileDialogView : public FileChooserView {
@@ -28,14 +31,16 @@ class FileDialogView : public FileChooserView {
     virtual void selectName() = 0;
     /// The note below the lists; empty for none.
     virtual void setNote(const std::string& note) = 0;
+    virtual void setNoteLines(int lines) = 0;
 };
 
 /// The file-name dialog that Open, Save as and the printing of a result share. One for the whole run: it
 /// stays in the directory it was left in, and Save writes there.
 class FileDialog : public FileChooser {
   public:
-    FileDialog(Folders& folders, MessageBoxes& boxes, FileDialogView& view)
-        : FileChooser(folders, view), boxes_(boxes), view_(view) {}
+    FileDialog(Folders& folders, FileCalls& calls, MessageBoxes& boxes, FileDialogView& view,
+               const NumberLocale& locale)
+        : FileChooser(folders, view), calls_(calls), boxes_(boxes), view_(view), locale_(locale) {}
 
     // The caller's side.
     /// Shows the dialog, modally; true for "OK": `typedName` is then the name.
@@ -48,6 +53,8 @@ class FileDialog : public FileChooser {
 
     // The window's side.
     void fileClicked(const std::string& name) { view_.setName(name); }
+    /// The text of the box is another: of a case that is to be opened the note tells.
+    void nameChanged();
     /// "OK": a text with ":", "\", "*" or "?" moves the lists and leaves the dialog open; any other is the
     /// name. \throws RunTimeError 68 or 76 for a drive or folder that is not there.
     void accepted();
@@ -57,8 +64,13 @@ class FileDialog : public FileChooser {
     bool ask(const FileDialogUse& use, const std::string& name);
     void moveLists(const std::string& text);
 
+    void moved() override { nameChanged(); }
+
+    FileCalls& calls_;
     MessageBoxes& boxes_;
     FileDialogView& view_;
+    const NumberLocale& locale_;
+    bool describing_ = false;
     std::int16_t dialogAnswer_ = 1; ///< the button that closed it: 0 "OK", 1 "Avbryt"
 };
 

@@ -9,9 +9,17 @@ namespace varno {
 namespace {
 
 constexpr int width = raster(560);
-constexpr int height = raster(392);
 constexpr int heightWithoutNote = raster(340);
+constexpr int noteTop = raster(336);
+constexpr int noteWidth = raster(528);
+constexpr int noteLine = raster(16);
+constexpr int margin = raster(16);
 constexpr int listTop = 64;
+
+constexpr int noteHeight(int lines) {
+    return lines * noteLine + raster(8);
+}
+
 constexpr std::array nameControls{
     inRaster(idFileNameLabel, ControlKind::label, "FILNAMN:", 16, 16, 240, 16),
     inRaster(idFileName, ControlKind::edit, "", 16, 34, 230, 22),
@@ -19,7 +27,7 @@ constexpr std::array nameControls{
 constexpr std::array buttons{
     inRaster(idOkButton, ControlKind::defaultButton, "OK", 458, 33, 86, 26),
     inRaster(idCancelButton, ControlKind::button, "Avbryt", 458, 66, 86, 26),
-    inRaster(idNote, ControlKind::label, "", 16, 336, 528, 40),
+    ControlSpec{idNote, ControlKind::label, "", margin, noteTop, noteWidth, noteHeight(2)},
 };
 
 } // namespace
@@ -38,9 +46,14 @@ void FileInfoWindow::listen(FileDialog& dialog) {
 }
 
 void FileInfoWindow::run() {
-    const bool noted = !win32::textOf(item(idNote)).empty();
-    sizeAndCentre(width, noted ? height : heightWithoutNote, GetWindow(handle(), GW_OWNER));
+    const int height = noteLines_ == 0 ? heightWithoutNote : noteTop + noteHeight(noteLines_) + margin;
+    sizeAndCentre(width, height, GetWindow(handle(), GW_OWNER));
     runModal();
+}
+
+void FileInfoWindow::layOut() {
+    FileChooserWindow::layOut();
+    win32::setPlace(item(idNote), px(margin), px(noteTop), px(noteWidth), px(noteHeight(noteLines_)));
 }
 
 void FileInfoWindow::selectName() {
@@ -55,6 +68,9 @@ void FileInfoWindow::onCommand(int id, int notification) {
         return;
     case idCancelButton:
         dialog_->cancelled();
+        return;
+    case idFileName:
+        if (notification == EN_CHANGE) dialog_->nameChanged();
         return;
     case idFileList: {
         if (notification != LBN_SELCHANGE && notification != LBN_DBLCLK) return;

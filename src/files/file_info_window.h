@@ -20,6 +20,7 @@ class FileInfoWindow : public FileChooserWindow, public FileDialogView {
     void setName(const std::string& name) override { setBoxText(idFileName, name); }
     void selectName() override;
     void setNote(const std::string& note) override { win32::setText(item(idNote), note); }
+    void setNoteLines(int lines) override { noteLines_ = lines; }
     void refreshLists() override { showLists(); }
     void run() override;
     void close() override { closeForm(); }
@@ -27,9 +28,11 @@ class FileInfoWindow : public FileChooserWindow, public FileDialogView {
   protected:
     void onCommand(int id, int notification) override;
     void onCloseBox() override { dialog_->cancelled(); }
+    void layOut() override;
 
   private:
     FileDialog* dialog_ = nullptr;
+    int noteLines_ = 0;
 };
 
 } // namespace varno

@@ -16,8 +16,8 @@ namespace varno {
 
 Application::Application()
     : locale_(win32::userNumberLocale()), files_(systemFileCalls(), boxes_), fileInfo_(*this),
-      fileDialog_(folders_, boxes_, fileInfo_), leftovers_(folders_, systemFileCalls()),
-      main_(*this, picture_), form_(*this),
+      fileDialog_(folders_, systemFileCalls(), boxes_, fileInfo_, locale_),
+      leftovers_(folders_, systemFileCalls()), main_(*this, picture_), form_(*this),
       sketch_(case_, picture_.loadPicture, picture_.slabStrip, picture_, [this] { sketchChanged(); }),
       filler_(case_, form_, main_, locale_), steps_(case_, state_, form_, main_, filler_, *this),
       input_({case_, state_, form_, main_, filler_, sketch_, steps_}),

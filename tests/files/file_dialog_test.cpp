@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "support/case_files.h"
 #include "support/fake_file_dialog.h"
 #include "support/fake_folders.h"
 #include "support/memory_files.h"
@@ -18,7 +19,9 @@ class FileDialogTest : public ::testing::Test {
     FakeFolders folders;
     FakeMessageBoxes boxes;
     FakeFileDialog view;
-    FileDialog dialog{folders, boxes, view};
+    MemoryFiles files;
+    NumberLocale locale;
+    FileDialog dialog{folders, files, boxes, view, locale};
 };
 
 TEST_F(FileDialogTest, ForSavingItProposesATestNameAndShowsTheRule) {
@@ -42,6 +45,37 @@ TEST_F(FileDialogTest, ForChoosingThereIsNoNameAndNoRule) {
     dialog.ask(choosingCase);
     EXPECT_EQ(view.caption, "Välj Indatafil");
     EXPECT_EQ(dialog.pattern(), "*.IND");
+}
+
+TEST_F(FileDialogTest, TheNoteTellsOfTheCaseThatIsNamed) {
+    files.content["C:\\arbete\\HUS1.IND"] = sampleFile();
+    view.whileShown = [&] {
+        EXPECT_EQ(view.noteLines, 4);
+        const auto noteOf = [&](const std::string& name) {
+            view.text = name;
+            dialog.nameChanged();
+            return view.note;
+        };
+        EXPECT_TRUE(noteOf("HUS1.IND").starts_with(sampleCase().title)) << view.note;
+        for (const char* name : {"HUS", "", " ", "gammalt\\HUS1.IND", "*.IND", "C:"})
+            EXPECT_EQ(noteOf(name), "") << name;
+        noteOf("HUS1.IND");
+        dialog.folderChosen("C:\\arbete\\gammalt");
+        EXPECT_EQ(view.note, "") << "there is no such file";
+    };
+    dialog.ask(choosingCase);
+    EXPECT_EQ(view.timesShown, 1);
+
+    dialog.changeDirectory("C:\\arbete");
+    for (const FileDialogUse& use : {savingCase, choosingResult}) {
+        view.whileShown = [&] {
+            const std::string before = view.note;
+            view.text = "HUS1.IND";
+            dialog.nameChanged();
+            EXPECT_EQ(view.note, before) << use.caption;
+        };
+        dialog.ask(use);
+    }
 }
 
 TEST_F(FileDialogTest, ANameIsAcceptedAsItStands) {

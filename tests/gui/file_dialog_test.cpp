@@ -55,6 +55,33 @@ TEST_F(FileDialogs, ShowsTheCasesOfTheCurrentDirectory) {
     EXPECT_EQ(program.focused(), dialog.item(idFileName));
 }
 
+TEST_F(FileDialogs, TellsOfTheChosenCaseBeforeItIsOpened) {
+    scene.write("RECEPT.IND", "3 ägg\r\n");
+    const Control dialog = opened(idOpen);
+    const Control note = dialog.item(idNote);
+    const auto expectNote = [&](const std::string& begin) {
+        expectSoon(program, begin, [&] { return note.text().substr(0, begin.size()); });
+    };
+    dialog.item(idFileList).choose("BOSTAD.IND");
+    expectNote("Bostäder i Ängsgården hus Å väster om ån\r\n3 fack: ");
+    EXPECT_NE(note.text().find("\r\nSvenska byggregler (BKR), ändrad 20"), std::string::npos) << note.text();
+    dialog.item(idFileList).choose("RECEPT.IND");
+    expectNote("Filen är inte som en indatafil ska vara.");
+    // The longest has room in its label.
+    dialog.item(idFileName).setText("tiofack.ind");
+    expectNote("Tio");
+    RECT label{};
+    RECT client{};
+    GetWindowRect(note.handle(), &label);
+    GetClientRect(dialog.handle(), &client);
+    MapWindowPoints(nullptr, dialog.handle(), reinterpret_cast<POINT*>(&label), 2);
+    EXPECT_LE(label.bottom, client.bottom);
+    EXPECT_FALSE(program.shows(messageBoxClass));
+    dialog.item(idFileName).setText("finnsinte.ind");
+    expectSoon(program, std::string(), [&] { return note.text(); });
+    cancel(dialog);
+}
+
 TEST_F(FileDialogs, ForSavingProposesANameAndSaysTheRule) {
     const Control dialog = opened(idSaveAs);
     EXPECT_EQ(dialog.text(), "Spara som..");

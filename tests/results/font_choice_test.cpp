@@ -37,7 +37,8 @@ class FontChoiceTest : public ::testing::Test {
     FakePrinter printer;
     FakeFolders folders;
     FakeFileDialog dialogView;
-    FileDialog dialog{folders, boxes, dialogView};
+    NumberLocale locale;
+    FileDialog dialog{folders, files, boxes, dialogView, locale};
     FontChoice choice{resultFontName, opener, printer, dialog, viewer, chooser};
 
     void edit(const std::vector<std::string>& fonts) {

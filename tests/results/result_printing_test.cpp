@@ -44,7 +44,8 @@ class ResultPrintingTest : public ::testing::Test {
     FakePrinter printer;
     FakeFolders folders;
     FakeFileDialog dialogView;
-    FileDialog dialog{folders, boxes, dialogView};
+    NumberLocale locale;
+    FileDialog dialog{folders, files, boxes, dialogView, locale};
     DocumentState document;
     ResultPrinting printing{opener, boxes, window, printer, dialog};
 };

@@ -58,7 +58,7 @@ TEST_F(GivenFiles, AMissingFileIsToldAndChangesNothing) {
     edit(9);
     EXPECT_EQ(message(), "Filen C:\\arbete\\gammalt\\HUS1.IND finns inte.\n"
                          "Filen har inte lästs in; det som fanns i programmet är kvar.\n"
-                         "Kontrollera namnet och mappen.\r\n\n"
+                         "Kontrollera namnet och mappen.\n\n"
                          "Run-time error '52': Bad file name or number");
     EXPECT_TRUE(prompts.empty());
     EXPECT_EQ(designCase.spv(1), 9);

@@ -48,8 +48,9 @@ struct ShellFixture : DocumentView {
     FakeFolders folders;
     int refreshes = 0;
     FileOpener opener{files, boxes};
+    NumberLocale locale;
     FakeFileDialog dialogView;
-    FileDialog dialog{folders, boxes, dialogView};
+    FileDialog dialog{folders, files, boxes, dialogView, locale};
     CaseFormFiller filler{designCase, form, window, NumberLocale{}};
     Document document{designCase, state, filler, form, window, opener, dialog, boxes, *this};
 

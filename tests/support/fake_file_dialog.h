@@ -15,6 +15,7 @@ class FakeFileDialog : public FileDialogView {
     void setName(const std::string& name) override { text = name; }
     void selectName() override { ++selected; }
     void setNote(const std::string& shown) override { note = shown; }
+    void setNoteLines(int lines) override { noteLines = lines; }
     void refreshLists() override { ++refreshed; }
     void run() override {
         closed = false;
@@ -27,6 +28,7 @@ class FakeFileDialog : public FileDialogView {
     std::string text;
     std::string note;
     std::function<void()> whileShown;
+    int noteLines = 0;
     int selected = 0;
     int refreshed = 0;
     int timesShown = 0;
