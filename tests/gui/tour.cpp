@@ -94,8 +94,15 @@ class Tour {
     void showAgain();
     void exit();
 
+    static StartOptions inFolder(const std::string& folder) {
+        StartOptions options;
+        options.currentFolder = folder;
+        options.program = folder + "\\varno.exe";
+        return options;
+    }
+
     const std::string folder_ = currentFolder();
-    Program program_{StartOptions{.currentFolder = folder_, .program = folder_ + "\\varno.exe"}};
+    Program program_{inFolder(folder_)};
     Camera camera_{program_, folder_};
     PaperTour paper_{program_, folder_, camera_};
 };
