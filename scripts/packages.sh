@@ -18,6 +18,11 @@ test_packages=(
     libcli11-dev
 )
 
+# For varno-setup.exe, the installer.
+setup_packages=(
+    nsis
+)
+
 # For the benchmarks (preset native-release).
 bench_packages=(
     libbenchmark-dev
