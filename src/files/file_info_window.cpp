@@ -19,7 +19,7 @@ constexpr std::array nameControls{
 constexpr std::array buttons{
     inRaster(idOkButton, ControlKind::defaultButton, "OK", 458, 33, 86, 26),
     inRaster(idCancelButton, ControlKind::button, "Avbryt", 458, 66, 86, 26),
-    inRaster(idNote, ControlKind::label, "", 16, 336, 528, 40),
+    inRaster(idNote, ControlKind::paragraph, "", 16, 336, 528, 40),
 };
 
 } // namespace
