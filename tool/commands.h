@@ -64,6 +64,8 @@ Command printResult;
 Command printPages;
 /// The case as a person would like to read it.
 Command printReport;
+/// A case with its sketch, its moments and its result as an HTML page.
+Command printHtmlReport;
 /// What the program tells of a file when it is opened, and what is implausible in it.
 Command checkCases;
 /// The inputs in which two cases differ; of one case, all of them.
