@@ -88,6 +88,11 @@ std::string complaintOf(const CLI::ParseError& error, const CLI::App& app) {
                (rest.front().starts_with('-') ? suggestion(rest.front(), names) : ".");
     }
     if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) return missing(*chosen.front());
+    for (const CLI::Option* option : chosen.front()->get_options()) {
+        if (dynamic_cast<const CLI::ConversionError*>(&error) != nullptr &&
+            std::string_view(error.what()).find(option->get_name()) != std::string_view::npos)
+            return "valet " + option->get_name() + " väntar ett tal.";
+    }
     // "--svg: 1 required UT missing"
     const std::string what = error.what();
     return "valet " + what.substr(0, what.find(':')) + " väntar ett värde.";
@@ -105,7 +110,7 @@ int runCommand(const CommandRow& command, const Request& request, const Machine&
     WithStandardInput calls(machine.files, machine.in);
     ConsoleBoxes boxes(machine.err);
     FileOpener opener(calls, boxes);
-    return command.run({opener, machine.out, machine.err}, request);
+    return command.run({opener, machine.out, machine.err, machine.engines, machine.terminal}, request);
 }
 
 } // namespace

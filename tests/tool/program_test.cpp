@@ -1,30 +1,13 @@
-#include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <sys/wait.h>
-
 #include "support/case_files.h"
-#include "support/temporary_folder.h"
 #include "tool/told.h"
+#include "tool/tool_program.h"
 
 // The real program: what only it can get wrong, its exit codes and its streams.
 namespace varno {
 
 namespace {
 
-class Program : public ::testing::Test {
-  protected:
-    // `arguments` go through the shell.
-    int run(const std::string& arguments) {
-        const std::string command =
-            "'" VARNOTOOL "' " + arguments + " >'" + folder.path("out") + "' 2>'" + folder.path("err") + "'";
-        const int status = std::system(command.c_str());
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    }
-    std::string quoted(const std::string& name) const { return "'" + folder.path(name) + "'"; }
-
-    testing::TemporaryFolder folder;
-};
+using Program = testing::ToolProgram;
 
 TEST_F(Program, Ends0AndPrintsUtf8) {
     folder.write("Å.IND", testing::sampleFile());
@@ -52,10 +35,7 @@ TEST_F(Program, Ends2AtWrongUsage) {
 
 TEST_F(Program, Ends1WhenItsOutputIsLost) {
     folder.write("A.IND", testing::sampleFile());
-    const std::string command = "'" VARNOTOOL "' json " + quoted("A.IND") + " >/dev/full 2>" + quoted("err");
-    const int status = std::system(command.c_str());
-    ASSERT_TRUE(WIFEXITED(status));
-    EXPECT_EQ(WEXITSTATUS(status), 1);
+    EXPECT_EQ(shell("\"$VARNOTOOL\" json A.IND >/dev/full 2>err"), 1);
     testing::expectTold(folder.read("err"), "Något gick fel.", "57: Device I/O error");
 }
 
