@@ -27,6 +27,10 @@ std::string folderNameOf(const std::string& file) {
 }
 
 std::vector<std::string> engineWords(const std::string& commandLine) {
+    std::error_code none;
+    // "C:\\Program Files\\..." is one program, with or without quotation marks.
+    if (std::filesystem::is_regular_file(pathOf(commandLine), none))
+        return {utf8Of(std::filesystem::absolute(pathOf(commandLine)))};
     std::vector<std::string> words;
     char quote = 0;
     bool inWord = false;
@@ -44,7 +48,6 @@ std::vector<std::string> engineWords(const std::string& commandLine) {
         else
             words.back() += c;
     }
-    std::error_code none;
     for (std::string& word : words) {
         if (std::filesystem::is_regular_file(pathOf(word), none))
             word = utf8Of(std::filesystem::absolute(pathOf(word)));

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <sstream>
 
 #include "support/case_files.h"
 #include "tool/tool_program.h"
@@ -95,6 +96,84 @@ TEST_F(ManyCases, AKilledRunIsGoneOnWith) {
     EXPECT_EQ(run("run *.IND --engine \"$VARNOWB\" --out resultat"), 0) << folder.read("out");
     EXPECT_EQ(numberOfResults(), 2);
     EXPECT_FALSE(has("resultat/V1.~tmp"));
+}
+
+// What README shows is what is run here, with folders and machines of its own.
+class ManyMachines : public ManyCases {
+  protected:
+    void SetUp() override {
+        makeCases(60);
+        // An engine that counts its starts, and fails for one case the first time.
+        folder.write(
+            "varnowb",
+            "#!/bin/sh\nname=$(head -n 1 '~indata~.tmp' | tr -d '\\r'); echo \"$name\" >> ../../starts\n"
+            "if [ \"$name\" = V31 ] && [ ! -e ../../failed ]; then touch ../../failed; exit 1; fi\n"
+            "exec \"$VARNOWB\"\n");
+        shell("chmod +x varnowb; mkdir bin cases results; mv *.IND cases; ln -s \"$VARNOTOOL\" "
+              "bin/varnotool; ln -s \"$PWD\" ../srv");
+    }
+    // A folder without a blank in its name leads to this one: the commands are as a shell takes them.
+    /// The block of README that begins so.
+    std::string shownIn(const std::string& first) const {
+        const std::string readme = testing::contentOf(VARNO_README);
+        const auto begin = readme.find("\n    " + first);
+        EXPECT_NE(begin, std::string::npos) << first;
+        std::string block = readme.substr(begin + 1, readme.find("\n\n", begin) - begin - 1);
+        for (const auto& [from, to] : std::vector<std::pair<std::string, std::string>>{
+                 {"/srv/varno", "$SRV"}, {"--sshloginfile hosts", "--sshlogin 2/: --env VARNOWB"}}) {
+            for (auto at = block.find(from); at != std::string::npos; at = block.find(from, at + to.size()))
+                block.replace(at, from.size(), to);
+        }
+        return "export SRV=$(cd -P .. && pwd)/srv PATH=\"$PWD/bin:$PATH\" PARALLEL_HOME=\"$PWD/home\"; mkdir "
+               "-p home; touch "
+               "home/will-cite\n" +
+               block;
+    }
+    std::vector<std::string> starts() const {
+        std::istringstream in(folder.read("starts"));
+        std::vector<std::string> names;
+        for (std::string name; std::getline(in, name);)
+            names.push_back(name);
+        std::ranges::sort(names);
+        return names;
+    }
+    void expectEveryCaseOnce(std::vector<std::string> names) {
+        EXPECT_EQ(names.size(), 60U);
+        EXPECT_EQ(std::ranges::adjacent_find(names), names.end()) << "calculated twice";
+    }
+};
+
+TEST_F(ManyMachines, GnuParallelCalculatesEveryCaseOnceAndAFailedOneAgain) {
+    ASSERT_EQ(shell("command -v parallel >/dev/null"), 0) << "the package parallel is missing";
+    std::string command = shownIn("find ");
+    const auto at = command.find("--max-args 200");
+    ASSERT_NE(at, std::string::npos);
+    command.replace(at, 14, "--max-args 7");
+    EXPECT_EQ(shell(command + " >out 2>err"), 1) << "as many starts as failed: " << folder.read("err");
+    expectEveryCaseOnce(starts());
+    EXPECT_TRUE(has("results/V31.fel"));
+    command.replace(command.find("--joblog"), 8, "--resume-failed --joblog");
+    EXPECT_EQ(shell(command + " >out 2>err"), 0) << folder.read("out") << folder.read("err");
+    auto names = starts();
+    ASSERT_EQ(names.size(), 61U) << "the failed one alone";
+    names.erase(std::ranges::find(names, "V31"));
+    expectEveryCaseOnce(names);
+    EXPECT_EQ(shell("[ $(ls results/*/*.res | wc -l) = 60 ] && [ -z \"$(ls -d results/*.* 2>/dev/null)\" ]"),
+              0);
+}
+
+TEST_F(ManyMachines, AJobArrayCalculatesEveryCaseOnce) {
+    folder.write("failed", "");
+    const std::string task = shownIn("#!/bin/bash\n    #SBATCH");
+    EXPECT_EQ(shell("find \"$(cd -P .. && pwd)/srv/cases\" -name '*.IND' > cases.txt"), 0);
+    for (int i = 0; i < 4; ++i) {
+        const std::string slurm =
+            "export SLURM_ARRAY_TASK_COUNT=4 SLURM_CPUS_PER_TASK=2 SLURM_ARRAY_TASK_ID=" + std::to_string(i) +
+            "\n";
+        EXPECT_EQ(shell(slurm + task + " >out 2>err"), 0) << folder.read("out") << folder.read("err");
+        EXPECT_EQ(folder.read("out"), "15 fall beräknade.\n");
+    }
+    expectEveryCaseOnce(starts());
 }
 
 TEST_F(ManyCases, TwoRunsOfTheSameCasesDoNotCalculateAnyTwice) {

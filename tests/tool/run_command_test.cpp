@@ -245,6 +245,12 @@ TEST(EngineWords, ThatNameAFileNameItFromEverywhere) {
     EXPECT_EQ(words[1], "saknas");
 }
 
+TEST(EngineWords, AProgramWithABlankInItsPathNeedsNoQuotationMarks) {
+    const testing::TemporaryFolder folder;
+    folder.write("motor", "x");
+    EXPECT_EQ(tool::engineWords(folder.path("motor")).size(), 1U) << folder.path("motor");
+}
+
 } // namespace
 
 } // namespace varno
