@@ -6,6 +6,7 @@
 
 #include "base/error_words.h"
 #include "tool/command_table.h"
+#include "tool/manual.h"
 #include "tool/nearest.h"
 #include "tool/standard_input.h"
 
@@ -106,6 +107,13 @@ int tellUsage(const std::string& complaint, const CLI::App& app, std::ostream& e
     return wrongUsage;
 }
 
+// An option that prints a text and nothing else.
+void addPrinting(CLI::App& app, const char* name, const char* description, std::string (*text)()) {
+    app.add_flag_callback(
+           name, [text] { throw CLI::CallForVersion(text(), 0); }, description)
+        ->group("Val");
+}
+
 int runCommand(const CommandRow& command, const Request& request, const Machine& machine) {
     WithStandardInput calls(machine.files, machine.in);
     ConsoleBoxes boxes(machine.err);
@@ -118,8 +126,10 @@ int runCommand(const CommandRow& command, const Request& request, const Machine&
 int runTool(const std::vector<std::string>& arguments, const Machine& machine) {
     CLI::App app(toolDescription, "varnotool");
     speakSwedish(app);
-    app.set_version_flag("--version", std::string("varnotool " VARNO_VERSION "\n"), "Visar versionen");
-    app.get_option("--version")->group("Val");
+    addPrinting(app, "--version", "Visar versionen",
+                [] { return std::string("varnotool " VARNO_VERSION "\n"); });
+    addPrinting(app, "--manual", "Skriver manualsidan för man", manualPage);
+    addPrinting(app, "--bash-completion", "Skriver kompletteringen för bash", bashCompletion);
     app.footer(standardInputRemark);
     app.require_subcommand(1);
     Request request;
