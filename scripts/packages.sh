@@ -16,6 +16,7 @@ test_packages=(
     googletest
     nlohmann-json3-dev
     libcli11-dev
+    parallel
 )
 
 # For varno-setup.exe, the installer.

@@ -6,6 +6,7 @@
 
 #include "base/error_words.h"
 #include "tool/command_table.h"
+#include "tool/manual.h"
 #include "tool/nearest.h"
 #include "tool/standard_input.h"
 
@@ -88,6 +89,11 @@ std::string complaintOf(const CLI::ParseError& error, const CLI::App& app) {
                (rest.front().starts_with('-') ? suggestion(rest.front(), names) : ".");
     }
     if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) return missing(*chosen.front());
+    for (const CLI::Option* option : chosen.front()->get_options()) {
+        if (dynamic_cast<const CLI::ConversionError*>(&error) != nullptr &&
+            std::string_view(error.what()).find(option->get_name()) != std::string_view::npos)
+            return "valet " + option->get_name() + " väntar ett tal.";
+    }
     // "--svg: 1 required UT missing"
     const std::string what = error.what();
     return "valet " + what.substr(0, what.find(':')) + " väntar ett värde.";
@@ -101,11 +107,18 @@ int tellUsage(const std::string& complaint, const CLI::App& app, std::ostream& e
     return wrongUsage;
 }
 
+// An option that prints a text and nothing else.
+void addPrinting(CLI::App& app, const char* name, const char* description, std::string (*text)()) {
+    app.add_flag_callback(
+           name, [text] { throw CLI::CallForVersion(text(), 0); }, description)
+        ->group("Val");
+}
+
 int runCommand(const CommandRow& command, const Request& request, const Machine& machine) {
     WithStandardInput calls(machine.files, machine.in);
     ConsoleBoxes boxes(machine.err);
     FileOpener opener(calls, boxes);
-    return command.run({opener, machine.out, machine.err}, request);
+    return command.run({opener, machine.out, machine.err, machine.engines, machine.terminal}, request);
 }
 
 } // namespace
@@ -113,8 +126,10 @@ int runCommand(const CommandRow& command, const Request& request, const Machine&
 int runTool(const std::vector<std::string>& arguments, const Machine& machine) {
     CLI::App app(toolDescription, "varnotool");
     speakSwedish(app);
-    app.set_version_flag("--version", std::string("varnotool " VARNO_VERSION "\n"), "Visar versionen");
-    app.get_option("--version")->group("Val");
+    addPrinting(app, "--version", "Visar versionen",
+                [] { return std::string("varnotool " VARNO_VERSION "\n"); });
+    addPrinting(app, "--manual", "Skriver manualsidan för man", manualPage);
+    addPrinting(app, "--bash-completion", "Skriver kompletteringen för bash", bashCompletion);
     app.footer(standardInputRemark);
     app.require_subcommand(1);
     Request request;
