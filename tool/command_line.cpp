@@ -36,6 +36,13 @@ std::string footerOf(const CommandRow& row) {
     return text + "\n";
 }
 
+std::string footerOfAll() {
+    std::string text = std::string(standardInputRemark) + "\n\nSlutkoder:";
+    for (std::size_t code = 0; code < exitCodeTexts.size(); ++code)
+        text += "\n  " + std::to_string(code) + "  " + exitCodeTexts[code];
+    return text + "\n  " + std::to_string(interrupted) + "  " + interruptedText + "\n";
+}
+
 CLI::Option* addParameter(CLI::App& command, const Parameter& parameter, Request& request) {
     return std::visit(
         [&](auto member) {
@@ -130,7 +137,7 @@ int runTool(const std::vector<std::string>& arguments, const Machine& machine) {
                 [] { return std::string("varnotool " VARNO_VERSION "\n"); });
     addPrinting(app, "--manual", "Skriver manualsidan för man", manualPage);
     addPrinting(app, "--bash-completion", "Skriver kompletteringen för bash", bashCompletion);
-    app.footer(standardInputRemark);
+    app.footer(footerOfAll());
     app.require_subcommand(1);
     Request request;
     const CommandRow* chosen = nullptr;

@@ -156,8 +156,7 @@ class PosixEngines : public EngineHost {
             int status = 0;
             if (::waitpid(child, &status, WNOHANG) != child) continue;
             std::erase(children_, child);
-            // Whatever it left running would write into a folder that is done with.
-            ::kill(-child, SIGKILL);
+            // What it left running stays: the first engine in Wine starts the services of all of them.
             if (WIFSIGNALED(status)) return Ended{child, WTERMSIG(status), true};
             return Ended{child, WEXITSTATUS(status), false};
         }

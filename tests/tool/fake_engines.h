@@ -50,12 +50,14 @@ class FakeEngines : public tool::EngineHost {
     int mostAtOnce() const override { return 63; }
     std::unique_ptr<Lock> tryLock(const std::string& path) override {
         if (held.contains(path)) return nullptr;
+        if (beforeLock) beforeLock();
         return std::make_unique<HeldLock>(held, path);
     }
 
     std::function<void(const std::string& folder, int child)> work;
     std::function<tool::Milliseconds(int child)> takes = [](int) { return tool::Milliseconds(10); };
     std::function<long(int child)> code = [](int) { return 0L; };
+    std::function<void()> beforeLock; ///< what another process did until it let go
     std::set<int> crashed;
     int startError = 0;
     std::size_t interruptedAfter = static_cast<std::size_t>(-1); ///< so many have ended

@@ -93,6 +93,17 @@ TEST_F(RunCommand, CalculatesNoCaseTwice) {
     EXPECT_EQ(engines.started.size(), 3U);
 }
 
+TEST_F(RunCommand, CalculatesNoCaseThatAnotherProcessHasJustFinished) {
+    engines.beforeLock = [this] {
+        fs::create_directories(folder.file("ut") / "A");
+        writeFile(folder.path("ut/A"), "A.IND", testing::sampleFile());
+        writeResult(folder.path("ut/A"));
+    };
+    EXPECT_EQ(run({"A.IND"}), 0);
+    EXPECT_EQ(out.str(), "0 fall beräknade, 1 fanns redan.\n");
+    EXPECT_EQ(engines.started.size(), 0U);
+}
+
 TEST_F(RunCommand, CalculatesAgainWhatHasChanged) {
     EXPECT_EQ(run({"A.IND"}), 0);
     files.content["A.IND"] = testing::sampleFileWith(20, "33");
