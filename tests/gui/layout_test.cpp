@@ -118,6 +118,58 @@ TEST_P(Layout, OfTheDialogsAndTheViewer) {
     expectSound(program, program.window(savePromptClass));
 }
 
+TEST_P(Layout, OfTheLineLoadEditorsAndTheDiagram) {
+    Program program(scene, options);
+    program.passStartUp();
+    program.open("TIOFACK.IND");
+    program.calculate();
+    program.command(idMoment);
+    const Control diagram = program.window("VarnoMomkurva");
+    expectSound(program, diagram);
+    ShowWindowAsync(diagram.handle(), SW_MAXIMIZE);
+    expectSoon(program, true, [&] { return IsZoomed(diagram.handle()) != FALSE; });
+    diagram.send(WM_NULL);
+    expectSound(program, diagram);
+    diagram.post(WM_COMMAND, idReturn);
+    program.waitGone(diagram);
+
+    program.command(idLineLoads);
+    const Control editor = program.window("VarnoLineLoads");
+    expectSound(program, editor);
+    editor.post(WM_COMMAND, idLayout);
+    program.waitGone(editor);
+    program.command(idFreeLineLoads);
+    const Control free = program.window("VarnoFreeLineLoads");
+    const Control count = free.item(idLineLoadField);
+    for (int loads = 1; loads <= 5; ++loads) {
+        free.item(idLineLoadSpin).clickAt(5, 5);
+        expectSoon(program, std::to_string(loads), [&] { return count.text(); });
+    }
+    // At 200 % the test's screen is too low for it.
+    constexpr int height = 445;
+    RECT area{};
+    GetClientRect(free.handle(), &area);
+    if (GetParam() == 192) area.bottom = MulDiv(height, GetParam(), 96);
+    EXPECT_EQ(layoutFaults(program, free, GetParam(), area), std::vector<std::string>{}) << GetParam();
+}
+
+TEST_P(Layout, OfTheDeletionWindows) {
+    Program program(scene, options);
+    program.passStartUp();
+    program.command(idDeleteBoth);
+    const Control window = program.window("VarnoDelFile");
+    expectSound(program, window);
+    window.item(idDeletionHelp).click();
+    const Control help = program.window("VarnoHelp");
+    expectSound(program, help);
+    close(program, help, idOkButton);
+    window.item(idFileList).send(LB_SETSEL, TRUE, 0);
+    window.item(idDelete).click();
+    const Control question = program.window("VarnoVeri");
+    expectSound(program, question);
+    close(program, question, idCancelButton);
+}
+
 INSTANTIATE_TEST_SUITE_P(Scale, Layout, ::testing::Values(96, 120, 144, 192));
 
 } // namespace
