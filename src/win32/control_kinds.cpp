@@ -26,6 +26,7 @@ constexpr DWORD folders = list | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS;
 
 constexpr KindStyle styles[]{
     {ControlKind::label, L"STATIC", SS_LEFT | SS_NOPREFIX},
+    {ControlKind::paragraph, L"STATIC", SS_OWNERDRAW | SS_NOPREFIX},
     {ControlKind::symbolLabel, L"STATIC", SS_OWNERDRAW | SS_NOPREFIX},
     {ControlKind::edit, L"EDIT", stop | ES_AUTOHSCROLL, sunken},
     {ControlKind::numberEdit, L"EDIT", stop | ES_AUTOHSCROLL | ES_RIGHT, sunken},

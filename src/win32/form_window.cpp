@@ -11,6 +11,7 @@
 #include "win32/control_manners.h"
 #include "win32/control_roles.h"
 #include "win32/group_box.h"
+#include "win32/label_drawing.h"
 #include "win32/line_edit.h"
 #include "win32/resource_ids.h"
 #include "win32/strings.h"
@@ -184,7 +185,7 @@ void FormWindow::addControls(std::span<const ControlSpec> controls) {
         describe(control, spec.kind, takesLabel(spec.kind) ? label_.substr(0, label_.find(':')) : "");
         // A drop-down list's height is that of its open list.
         const int open = spec.kind == ControlKind::dropDown ? raster(220) : 0;
-        placed_.push_back({control, {spec.x, spec.y, spec.right(), spec.bottom() + open}});
+        placed_.push_back({control, spec.kind, {spec.x, spec.y, spec.right(), spec.bottom() + open}});
         setFont(control, FontRole::text);
     }
 }
@@ -286,6 +287,12 @@ void FormWindow::onCommand(int id, int) {
     if (id == IDCANCEL) onCloseBox();
 }
 
+// As Tab does: what stands in a box is selected.
+void FormWindow::enterFirst(HWND control) {
+    SetFocus(control);
+    if (classOf(control) == "Edit") SendMessageW(control, EM_SETSEL, 0, -1);
+}
+
 void FormWindow::showWhole(HWND box, bool shown) {
     whole_.hide();
     if (shown) whole_.show(box, textOf(box));
@@ -300,24 +307,19 @@ void FormWindow::drawPicture(const DRAWITEMSTRUCT& item) {
     if (icon) DrawIconEx(item.hDC, box.left, box.top, icon.get(), size, size, 0, nullptr, DI_NORMAL);
 }
 
-void FormWindow::drawSymbol(const DRAWITEMSTRUCT& item) {
-    const std::wstring text = wide(textOf(item.hwndItem));
-    const auto split = std::min(text.find(L'_'), text.size());
-    FillRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_BTNFACE));
-    SetBkMode(item.hDC, TRANSPARENT);
-    SetTextColor(item.hDC, GetSysColor(COLOR_BTNTEXT));
-
-    const Selected letters(item.hDC, font(FontRole::symbol));
-    TEXTMETRICW metrics{};
-    GetTextMetricsW(item.hDC, &metrics);
-    const int top = item.rcItem.top + (item.rcItem.bottom - item.rcItem.top - metrics.tmHeight) / 2;
-    TextOutW(item.hDC, item.rcItem.left, top, text.c_str(), static_cast<int>(split));
-    if (split == text.size()) return;
-    SIZE size{};
-    GetTextExtentPoint32W(item.hDC, text.c_str(), static_cast<int>(split), &size);
-    const Selected small(item.hDC, font(FontRole::subscript));
-    TextOutW(item.hDC, item.rcItem.left + size.cx, top + metrics.tmAscent * 5 / 12, text.c_str() + split + 1,
-             static_cast<int>(text.size() - split - 1));
+void FormWindow::drawControl(const DRAWITEMSTRUCT& item) {
+    const auto drawn = std::ranges::find(placed_, item.hwndItem, &Placed::control);
+    if (drawn == placed_.end()) return;
+    switch (drawn->kind) {
+    case ControlKind::picture:
+        drawPicture(item);
+        return;
+    case ControlKind::paragraph:
+        drawParagraph(item);
+        return;
+    default:
+        drawSymbol(item, font(FontRole::symbol), font(FontRole::subscript));
+    }
 }
 
 LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -345,16 +347,14 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case returnToBox:
         returnTo(item(static_cast<int>(wParam)));
         return 0;
-    case WM_DRAWITEM: {
-        const auto& drawn = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
-        textOf(drawn.hwndItem).empty() ? drawPicture(drawn) : drawSymbol(drawn);
+    case WM_DRAWITEM:
+        drawControl(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
         return TRUE;
-    }
     case WM_ACTIVATE:
         activationChanged(wParam, lParam);
         if (LOWORD(wParam) != WA_INACTIVE && !restoreFocus()) {
             const HWND first = GetNextDlgTabItem(handle(), nullptr, FALSE);
-            if (first != nullptr) SetFocus(first);
+            if (first != nullptr) enterFirst(first);
         }
         return 0;
     case WM_DPICHANGED:

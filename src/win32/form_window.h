@@ -94,6 +94,7 @@ class FormWindow : public Window, private FieldWindow, private BoxKeys {
   private:
     struct Placed {
         HWND control;
+        ControlKind kind;
         RECT twips;
         FontRole role = FontRole::text;
     };
@@ -105,8 +106,9 @@ class FormWindow : public Window, private FieldWindow, private BoxKeys {
     bool pressFocused();
     void moveTo(HWND control);
     void returnTo(HWND box);
+    static void enterFirst(HWND control);
     void showWhole(HWND box, bool shown);
-    void drawSymbol(const DRAWITEMSTRUCT& item);
+    void drawControl(const DRAWITEMSTRUCT& item);
     HFONT font(FontRole role) const { return fonts_[static_cast<int>(role)].get(); }
     void setFont(HWND control, FontRole role);
 

@@ -66,7 +66,12 @@ bool buttonFits(const Control& control, const Measure& measure, int dpi) {
 bool staticFits(const Control& control, const Measure& measure) {
     const SIZE room = sizeOf(control.place());
     const std::string text = control.text();
-    if ((control.style() & SS_TYPEMASK) == SS_OWNERDRAW) {
+    const bool drawn = (control.style() & SS_TYPEMASK) == SS_OWNERDRAW;
+    if (drawn && text.find(' ') != std::string::npos) {
+        // A paragraph, whose lines end before its edge: some letters are drawn wider than they are measured.
+        return measure.broken(text, room.cx - room.cx / 40).cy <= room.cy;
+    }
+    if (drawn) {
         // Letters half as large again, and a smaller subscript behind the "_".
         const auto split = std::min(text.find('_'), text.size());
         const std::string small = split < text.size() ? text.substr(split + 1) : "";

@@ -4,6 +4,7 @@
 #include "driver/program.h"
 #include "input/form_layout.h"
 #include "layout_check.h"
+#include "picture.h"
 #include "soon.h"
 
 namespace varno::gui {
@@ -33,6 +34,21 @@ class Layout : public ::testing::TestWithParam<int> {
         EXPECT_EQ(layoutFaults(program, program.form(), GetParam(), area), std::vector<std::string>{})
             << "the form at " << GetParam() << " dpi";
     }
+    // Letters that are drawn wider than they are measured would reach the right edge.
+    static void expectUncut(const Program& program, const Control& text) {
+        const auto ink = [&](int fromRight) {
+            const Picture picture = Picture::ofScreen(text.handle());
+            const int x = picture.width() - 1 - fromRight;
+            return picture.height() -
+                   static_cast<int>(picture.rows(x, picture.at(0, picture.height() - 1)).size());
+        };
+        expectSoon(program, true, [&] {
+            const Picture picture = Picture::ofScreen(text.handle());
+            return picture.count(GetSysColor(COLOR_BTNTEXT)) > 500;
+        });
+        for (const int column : {0, 1})
+            EXPECT_EQ(ink(column), 0) << text.text() << " at " << GetParam() << " dpi";
+    }
     static void expectBandSound(const Program& program) { expectSound(program, program.main()); }
     static void close(const Program& program, const Control& window, int button) {
         window.item(button).click();
@@ -48,7 +64,10 @@ TEST_P(Layout, OfTheStartUpWindows) {
     const Control notice = program.window(noticeClass);
     expectSound(program, notice);
     close(program, notice, idOkButton);
-    expectSound(program, program.window(disclaimerClass));
+    const Control disclaimer = program.window(disclaimerClass);
+    expectSound(program, disclaimer);
+    for (const int text : {idTextOne, idTextTwo})
+        expectUncut(program, disclaimer.item(text));
 }
 
 TEST_P(Layout, OfTheFormAndTheBandAboveIt) {
