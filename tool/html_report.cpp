@@ -1,5 +1,6 @@
 #include "tool/html_report.h"
 
+#include "input/field_table.h"
 #include "input/sketch_picture.h"
 #include "tool/case_sheet.h"
 #include "tool/html.h"
@@ -96,7 +97,7 @@ class Page {
         const std::vector<Peak> supports = supportPeaks(c, *content_.moments);
         const std::vector<Peak> spans = spanPeaks(c, *content_.moments);
         const auto shown = [](double value) { return formatNumber(value, "#0.00", swedish); };
-        SheetTable table{{"Stöd", "Minsta moment", "Fack", "Största moment", "Läge"},
+        SheetTable table{{"Stöd", "Minsta moment", std::string(spanHeading), "Största moment", "Läge"},
                          {"", "kNm/m", "", "kNm/m", "m"}};
         for (std::size_t i = 0; i < supports.size(); ++i) {
             table.push_back({std::to_string(i), shown(supports[i].moment), "", "", ""});
