@@ -38,6 +38,7 @@ void StatusLine::calculated(const std::string& when) {
 StatusWords StatusLine::words(const StatusFacts& facts) const {
     StatusWords words;
     words.state = state(facts.changed);
+    if (facts.doubts > 0) words.state += ", se över " + std::to_string(facts.doubts);
     words.folder = "Sparas i " + facts.folder;
     words.length = "Total längd " + formatNumber(facts.totalLength, "#0.00", locale_) + " m";
     words.result = result();
@@ -45,6 +46,8 @@ StatusWords StatusLine::words(const StatusFacts& facts) const {
         words.reason = whyGrey();
     } else if (facts.lockedBox) {
         words.reason = whyLocked(*facts.lockedBox);
+    } else {
+        words.reason = facts.doubt;
     }
     return words;
 }
