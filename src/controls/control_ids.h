@@ -71,6 +71,11 @@ enum DialogId : int {
     idNote,
     idFileTextBox = 301,
     idReturn, ///< "Återgå"
+    idFindLabel,
+    idFindWord,
+    idFindPrevious,
+    idFindNext,
+    idFindNote,
     idInstalledFonts = 401,
     idStoredFont,
     idCurrentFont,

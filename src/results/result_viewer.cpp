@@ -8,7 +8,9 @@ namespace varno {
 void showResultFile(FileOpener& files, ResultViewer& viewer, const std::string& caseName,
                     const std::string& fontName) {
     File file = files.openFile(caseName + ".res", FileMode::input);
-    viewer.setText(decodeWindows1252(VARNO1::readResultText(file)));
+    const std::string text = decodeWindows1252(VARNO1::readResultText(file));
+    viewer.setCase(caseName);
+    viewer.setText(text);
     file.close();
     viewer.setFont(fontName);
     viewer.show();

@@ -14,6 +14,8 @@ namespace varno {
 class ResultViewer {
   public:
     virtual ~ResultViewer() = default;
+    /// The name of the case whose result comes.
+    virtual void setCase(const std::string& caseName) = 0;
     virtual void setText(const std::string& text) = 0;
     /// The font face of the text box.
     virtual void setFont(const std::string& face) = 0;

@@ -69,6 +69,11 @@ void Application::offerRescued() {
 bool Application::translate(MSG& message) {
     if (translateHelpKey(message) || translateStepKey(message) || translateRecentKey(message)) return true;
     const HWND root = GetAncestor(message.hwnd, GA_ROOT);
+    if (root == results_->viewer.handle()) {
+        bool taken = false;
+        guarded([&] { taken = results_->viewer.translateOwn(message); });
+        if (taken) return true;
+    }
     if (root != main_.handle()) return root != nullptr && IsDialogMessageW(root, &message);
     if (TranslateMDISysAccel(main_.mdiClient(), &message)) return true;
     const bool inForm = message.hwnd == form_.handle() || IsChild(form_.handle(), message.hwnd);
@@ -264,7 +269,7 @@ void Application::helpRequested(const HELPINFO& request) {
 
 void Application::calculate() {
     const auto before = lastResult();
-    CalculationRun(files_, boxes_, processes_, main_, results_->viewer)
+    CalculationRun(files_, boxes_, processes_, main_, results_->reader)
         .run(state_, settings_.workFolder, settings_.resultFontName);
     // A run that was refused, and an engine that failed, leave the result as it was.
     if (lastResult() != before) status_.calculated(rescueClock_.dateAndTime());
@@ -281,7 +286,7 @@ std::optional<std::int64_t> Application::lastResult() {
 }
 
 void Application::showResult() {
-    showResults(files_, boxes_, main_, results_->viewer, state_, settings_.resultFontName);
+    showResults(files_, boxes_, main_, results_->reader, state_, settings_.resultFontName);
 }
 
 void Application::showImportant() {

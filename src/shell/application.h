@@ -115,13 +115,15 @@ class Application : public win32::WindowHost,
     struct Results {
         explicit Results(Application& app)
             : viewer(app, app.main_.handle()), chooser(app, viewer.handle()),
+              reader(viewer, app.printing_, app.settings_.resultFontName),
               fonts(app.settings_.resultFontName, app.files_, app.printer_, app.fileDialog_, viewer,
                     chooser) {
-            viewer.listen(fonts);
+            viewer.listen(fonts, reader);
             chooser.listen(fonts);
         }
         ResultViewerWindow viewer;
         FontChooserWindow chooser;
+        ResultReader reader;
         FontChoice fonts;
     };
     struct Moments {

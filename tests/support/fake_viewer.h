@@ -8,10 +8,12 @@ namespace varno::testing {
 
 class FakeViewer : public ResultViewer {
   public:
+    void setCase(const std::string& name) override { caseName = name; }
     void setText(const std::string& shown) override { text = shown; }
     void setFont(const std::string& face) override { font = face; }
     void show() override { ++timesShown; }
 
+    std::string caseName;
     std::string text;
     std::string font;
     int timesShown = 0;
