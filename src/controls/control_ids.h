@@ -43,7 +43,7 @@ enum MainPartId : int {
     idStatusFolder,
     idStatusLength,
     idStatusResult,
-    idStatusReason, ///< over all of the line
+    idStatusReason,         ///< over all of the line
     idFlag = 3100,          ///< + 0..6
     idSupportButton = 3200, ///< `stod`, + 0..15
     idFirstMdiChild = 3300,
@@ -76,6 +76,7 @@ enum DialogId : int {
     idFindPrevious,
     idFindNext,
     idFindNote,
+    idResultAge, ///< which file is shown, and how old it is
     idInstalledFonts = 401,
     idStoredFont,
     idCurrentFont,

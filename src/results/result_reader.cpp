@@ -15,9 +15,9 @@ constexpr auto nowhere = std::u16string::npos;
 
 } // namespace
 
-void ResultReader::setCase(const std::string& caseName) {
-    caseName_ = caseName;
-    view_.setCase(caseName);
+void ResultReader::setShown(const ShownResult& shown) {
+    shown_ = shown;
+    view_.setShown(shown);
 }
 
 void ResultReader::setText(const std::string& text) {

@@ -33,10 +33,12 @@ class ResultReader : public ResultViewer {
     ResultReader(ResultReaderView& view, ResultPrinting& printing, const std::string& resultFontName)
         : view_(view), printing_(printing), resultFontName_(resultFontName) {}
 
-    void setCase(const std::string& caseName) override;
+    void setShown(const ShownResult& shown) override;
     void setText(const std::string& text) override;
     void setFont(const std::string& face) override { view_.setFont(face); }
     void show() override { view_.show(); }
+
+    const ShownResult& shown() const { return shown_; }
 
     // The window's side.
     void findAsked() { view_.showFindLine(); }
@@ -50,7 +52,7 @@ class ResultReader : public ResultViewer {
     void smaller() { setPoints(points_ - step()); }
     void normalSize() { setPoints(normalPoints); }
     /// The result that is shown, which another case may have replaced as the current one.
-    void print() { printing_.printResult(caseName_, resultFontName_); }
+    void print() { printing_.printResult(shown_.caseName, resultFontName_); }
 
     static constexpr int normalPoints = 10;
     static constexpr int leastPoints = 6;
@@ -65,7 +67,7 @@ class ResultReader : public ResultViewer {
     ResultReaderView& view_;
     ResultPrinting& printing_;
     const std::string& resultFontName_;
-    std::string caseName_;
+    ShownResult shown_;
     std::u16string text_; ///< in capitals
     int points_ = normalPoints;
 };

@@ -26,6 +26,7 @@ constexpr std::array controls{
     inRaster(idFindPrevious, ControlKind::button, "Föregående", 0, 0, 84, 24),
     inRaster(idFindNext, ControlKind::button, "Nästa", 0, 0, 64, 24),
     inRaster(idFindNote, ControlKind::label, "", 0, 0, 160, 18),
+    inRaster(idResultAge, ControlKind::label, "", 0, 0, 160, 18),
     ControlSpec{idReturn, ControlKind::defaultButton, "Återgå", 0, 0, raster(96), raster(28)},
 };
 
@@ -64,6 +65,10 @@ void ResultViewerWindow::setText(const std::string& text) {
     std::wstring shown = win32::wide(text);
     std::replace(shown.begin(), shown.end(), L'\0', L' ');
     SetWindowTextW(item(idFileTextBox), shown.c_str());
+}
+
+void ResultViewerWindow::setAge(const std::string& text) {
+    if (win32::textOf(item(idResultAge)) != text) win32::setText(item(idResultAge), text);
 }
 
 void ResultViewerWindow::setFont(const std::string& face) {
@@ -182,6 +187,9 @@ void ResultViewerWindow::layOut() {
     const int textBottom = (findLineShown() ? findTop : buttonTop) - gap;
     win32::setPlace(item(idFileTextBox), gap, gap, std::max(0, right - gap), std::max(0, textBottom - gap));
     win32::setPlace(item(idReturn), right - buttonWidth, buttonTop, buttonWidth, buttonHeight);
+    const int ageHeight = px(raster(18));
+    win32::setPlace(item(idResultAge), gap, buttonTop + (buttonHeight - ageHeight) / 2,
+                    std::max(0, right - buttonWidth - 2 * gap), ageHeight);
     layOutFindLine(findTop, right);
 }
 

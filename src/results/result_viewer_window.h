@@ -17,7 +17,9 @@ class ResultViewerWindow : public win32::FormWindow, public ResultReaderView {
     /// The window's own keys, and the wheel with Ctrl; true when nothing is left to do with the message.
     bool translateOwn(const MSG& message);
 
-    void setCase(const std::string&) override {}
+    void setShown(const ShownResult&) override {}
+    /// The line beside "Återgå".
+    void setAge(const std::string& text);
     void setText(const std::string& text) override;
     void setFont(const std::string& face) override;
     void show() override;

@@ -253,6 +253,8 @@ void Application::statusDue() {
     GetCursorPos(&pointer);
     main_.showStatus(status_.words({document_.changed(), fileDialog_.directory(), sketch_.totalLength(),
                                     form_.lockedAt(pointer), main_.onGreyDiagram(pointer)}));
+    if (IsWindowVisible(results_->viewer.handle()))
+        results_->viewer.setAge(status_.resultLine(results_->reader.shown()));
 }
 
 void Application::clientResized(int width, int height) {

@@ -71,6 +71,27 @@ TEST_F(Reader, SearchesFromTheKeyboard) {
     program.waitGone(viewer);
 }
 
+TEST_F(Reader, TellsWhichFileIsShownAndWhetherItIsOlderThanTheInput) {
+    const auto expectAge = [&](const std::string& begin, const std::string& end) {
+        expectSoon(program, true, [&] {
+            const std::string age = part(idResultAge).text();
+            return age.starts_with(begin) && age.ends_with(end);
+        });
+    };
+    program.command(idRun);
+    expectAge("KONTOR.res, beräknad 20", "");
+    EXPECT_EQ(part(idResultAge).text().size(), std::string("KONTOR.res, beräknad 2026-11-21 15:40").size());
+    program.typeInto({Field::spv, 1}, "5,1");
+    program.field(Field::rubrik).clickInto();
+    expectAge("KONTOR.res, beräknad 20", ", äldre än indata");
+    EXPECT_EQ(viewer.text(), "Utdata");
+    program.command(idSave);
+    program.command(idRun);
+    expectSoon(program, false, [&] { return part(idResultAge).text().ends_with("indata"); });
+    program.open("bostad.ind");
+    expectAge("KONTOR.res, beräknad 20", ". Nu är BOSTAD.IND öppet.");
+}
+
 TEST_F(Reader, GrowsAndShrinks) {
     const int normal = height();
     keyboard::pressWith(VK_CONTROL, VK_ADD);

@@ -15,7 +15,7 @@ using Selection = std::pair<std::size_t, std::size_t>;
 
 class FakeReaderView : public ResultReaderView {
   public:
-    void setCase(const std::string& name) override { caseName = name; }
+    void setShown(const ShownResult& shown) override { caseName = shown.caseName; }
     void setText(const std::string& shown) override { text = shown; }
     void setFont(const std::string& shown) override { face = shown; }
     void show() override { ++timesShown; }
@@ -136,6 +136,23 @@ TEST_F(ResultReaderTest, TheTextGrowsAndShrinksWithinReason) {
     EXPECT_EQ(view.points, 6);
     reader.normalSize();
     EXPECT_EQ(view.points, 10);
+}
+
+TEST_F(ResultReaderTest, KnowsWhichFileIsShownAndHowOldItIs) {
+    files.content["HUS1.res"] = "ett\r\n";
+    showResultFile(opener, reader, "HUS1", font);
+    EXPECT_EQ(reader.shown().file, "HUS1.res");
+    EXPECT_EQ(reader.shown().written, "2026-11-21 15:40:07");
+    EXPECT_FALSE(reader.shown().inputIsNewer);
+    files.content["HUS1.IND"] = "";
+    files.written = {{"HUS1.IND", 2}, {"HUS1.res", 1}};
+    EXPECT_TRUE(shownResult(files, "HUS1", "HUS1.res").inputIsNewer);
+    files.written["HUS1.res"] = 3;
+    EXPECT_FALSE(shownResult(files, "HUS1", "HUS1.res").inputIsNewer);
+    files.fault = [](const std::string& call, const std::string&) {
+        return call == "lastWritten" ? int{errPermissionDenied} : 0;
+    };
+    EXPECT_EQ(shownResult(files, "HUS1", "HUS1.res").written, "");
 }
 
 TEST_F(ResultReaderTest, PrintsTheResultThatIsShown) {

@@ -8,12 +8,12 @@ namespace varno::testing {
 
 class FakeViewer : public ResultViewer {
   public:
-    void setCase(const std::string& name) override { caseName = name; }
+    void setShown(const ShownResult& which) override { result = which; }
     void setText(const std::string& shown) override { text = shown; }
     void setFont(const std::string& face) override { font = face; }
     void show() override { ++timesShown; }
 
-    std::string caseName;
+    ShownResult result;
     std::string text;
     std::string font;
     int timesShown = 0;
