@@ -4,6 +4,7 @@ namespace varno {
 
 enum class ControlKind {
     label,
+    paragraph,    ///< a text of several lines
     symbolLabel,  ///< a letter and a subscript, written "f_yk"
     edit,         ///< one line, text
     numberEdit,   ///< one line, a number at the right

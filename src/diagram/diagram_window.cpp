@@ -3,45 +3,45 @@
 #include <array>
 
 #include "controls/control_ids.h"
+#include "diagram/diagram_layout.h"
 
 namespace varno {
 
 namespace {
 
-constexpr int margin = raster(10);
-constexpr int pictureWidth = static_cast<int>(diagramWidth);
-constexpr int pictureHeight = static_cast<int>(diagramHeight);
-constexpr int width = pictureWidth + 2 * margin;
-constexpr int height = pictureHeight + 2 * margin + raster(40);
-
 constexpr std::array controls{
-    ControlSpec{idPlot, ControlKind::defaultButton, "Plotta på skrivare", margin,
-                pictureHeight + margin + raster(12), raster(150), raster(28)},
+    ControlSpec{idPlot, ControlKind::defaultButton, "Plotta på skrivare", 0, 0, 0, 0},
 };
+
+void put(HWND window, const Area& area) {
+    win32::setPlace(window, area.x, area.y, area.width, area.height);
+}
 
 } // namespace
 
 DiagramWindow::DiagramWindow(win32::WindowHost& host, HWND owner) : FormWindow(host), picture_(host) {
     const HMENU bar = CreateMenu();
     AppendMenuW(bar, MF_STRING, idReturn, L"Återgå");
-    create(L"VarnoMomkurva", "Momentdiagram", WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN,
-           WS_EX_DLGMODALFRAME, owner, bar, {});
+    create(L"VarnoMomkurva", "Momentdiagram", win32::growingWindow | WS_CLIPCHILDREN, 0, owner, bar, {});
     addControls(controls);
     picture_.create(handle(), idDiagramPicture, "Momentdiagram", drawing_);
 }
 
 void DiagramWindow::layOut() {
-    FormWindow::layOut();
     if (!picture_.exists()) return;
-    SetWindowPos(picture_.handle(), nullptr, px(margin), px(margin), px(pictureWidth), px(pictureHeight),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
-    picture_.setScale(dpi(), dpi());
+    RECT client{};
+    GetClientRect(handle(), &client);
+    const DiagramLayout layout = diagramLayout(client.right, client.bottom, dpi());
+    put(picture_.handle(), layout.picture);
+    put(item(idPlot), layout.plotButton);
+    // The lines stay as thin as they are at the picture's own scale.
+    picture_.setScale(layout.pictureDpi, dpi());
 }
 
 void DiagramWindow::show() {
     if (!placed_) {
         placed_ = true;
-        sizeAndCentre(width, height, GetWindow(handle(), GW_OWNER));
+        sizeAndCentre(naturalDiagramWidth, naturalDiagramHeight, GetWindow(handle(), GW_OWNER));
     }
     picture_.redraw();
     ShowWindow(handle(), SW_SHOW);
@@ -59,6 +59,21 @@ void DiagramWindow::onCommand(int id, int notification) {
         return;
     default:
         FormWindow::onCommand(id, notification);
+    }
+}
+
+LRESULT DiagramWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_SIZE:
+        if (wParam != SIZE_MINIMIZED) layOut();
+        return 0;
+    case WM_GETMINMAXINFO: {
+        const Area least = leastDiagramArea(dpi());
+        keepAtLeast(*reinterpret_cast<MINMAXINFO*>(lParam), {least.width, least.height});
+        return 0;
+    }
+    default:
+        return FormWindow::onMessage(message, wParam, lParam);
     }
 }
 

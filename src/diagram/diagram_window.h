@@ -7,7 +7,7 @@
 
 namespace varno {
 
-/// The window "Momentdiagram" (`Momkurva`), modeless.
+/// The window "Momentdiagram" (`Momkurva`), modeless. It can be made larger, and its picture grows with it.
 class DiagramWindow : public win32::FormWindow, public DiagramView {
   public:
     DiagramWindow(win32::WindowHost& host, HWND owner);
@@ -23,6 +23,7 @@ class DiagramWindow : public win32::FormWindow, public DiagramView {
     void onCommand(int id, int notification) override;
     void onCloseBox() override { commands_->back(); }
     void layOut() override;
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   private:
     DiagramCommands* commands_ = nullptr;

@@ -34,6 +34,11 @@ inline constexpr std::array<Rgb, 16> palette{{
     {0xFF, 0xFF, 0xFF}, // 15 bright white
 }};
 
+/// A ground that a foreground of this colour is read on is dark.
+constexpr bool isLight(Rgb rgb) {
+    return rgb.red * 299 + rgb.green * 587 + rgb.blue * 114 > 127 * 1000;
+}
+
 /// The drawing colour of the surface, or one of the palette: what the foreground is, only the surface knows
 /// (black on paper, the system's window text on the screen).
 class Colour {
@@ -50,6 +55,9 @@ class Colour {
     constexpr Rgb rgb(Rgb ofForeground) const {
         return isForeground() ? ofForeground : palette[static_cast<std::size_t>(number_)];
     }
+    /// What takes its place on a dark ground, on which the dark half of the palette cannot be seen: the light twin, which
+    /// stands eight numbers further on.
+    constexpr Colour onDark() const { return number_ >= 1 && number_ <= 6 ? Colour(number_ + 8) : *this; }
     bool operator==(const Colour&) const = default;
 
   private:

@@ -23,7 +23,7 @@ class Printer {
     /// The font face of the text that follows; it stays until the next one.
     virtual void setFontName(const std::string& face) = 0;
     /// Prints a text (UTF-8) and a line end. CR LF within it begins a new line too. Every new page starts at
-    /// the top left of the printable area.
+    /// the top left corner that the margins leave.
     virtual void printLine(const std::string& text) = 0;
     /// The number of the page being printed, from 1 in every document.
     virtual int page() = 0;

@@ -27,7 +27,7 @@ constexpr std::array nameControls{
 constexpr std::array buttons{
     inRaster(idOkButton, ControlKind::defaultButton, "OK", 458, 33, 86, 26),
     inRaster(idCancelButton, ControlKind::button, "Avbryt", 458, 66, 86, 26),
-    ControlSpec{idNote, ControlKind::label, "", margin, noteTop, noteWidth, noteHeight(2)},
+    ControlSpec{idNote, ControlKind::paragraph, "", margin, noteTop, noteWidth, noteHeight(2)},
 };
 
 } // namespace

@@ -76,7 +76,7 @@ void addMultipliers(Layout& form) {
         form.label(multiplierLabels[i], 30, y + 3, 120);
         form.number({LineLoadBox::multiplier, static_cast<int>(i) + 1}, 170, y, 70);
     }
-    form.label(multiplierNote, 14, panelTop + panelHeight + 8, width - 28, 32);
+    form.add(0, ControlKind::paragraph, multiplierNote, 14, panelTop + panelHeight + 8, width - 28, 32);
 }
 
 int heightOf(const LineLoadSet& set) {

@@ -22,7 +22,7 @@ class FontChooserView {
     virtual void showInstalled(const std::vector<std::string>& faces) = 0;
     /// The one entry of "Lagrat fontval", drawn in its own font.
     virtual void showStored(const std::string& face) = 0;
-    /// The one entry of "Visas just nu"; no entry for an empty face.
+    /// The one entry of "Visas just nu".
     virtual void showCurrent(const std::string& face) = 0;
     /// Shows the window, modally, until `close`.
     virtual void run() = 0;
@@ -47,6 +47,8 @@ class FontChoice {
     void cancelled();
 
   private:
+    std::vector<std::string> offered() const;
+
     std::string& resultFontName_;
     FileOpener& files_;
     const Printer& printer_;

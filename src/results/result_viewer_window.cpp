@@ -41,7 +41,7 @@ HMENU viewerMenu() {
 } // namespace
 
 ResultViewerWindow::ResultViewerWindow(win32::WindowHost& host, HWND owner) : FormWindow(host) {
-    create(L"VarnoForm6", "Utdata", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, 0, owner, viewerMenu(), {});
+    create(L"VarnoForm6", "Utdata", win32::growingWindow | WS_CLIPCHILDREN, 0, owner, viewerMenu(), {});
     addControls(controls);
     name(idFileTextBox, ControlKind::memo, "Resultat");
     for (const int part : findLine)
@@ -81,7 +81,7 @@ void ResultViewerWindow::show() {
         sizeAndCentre(width, height, GetWindow(handle(), GW_OWNER));
         placed_ = true;
     }
-    ShowWindow(handle(), IsIconic(handle()) ? SW_RESTORE : SW_SHOW);
+    ShowWindow(handle(), SW_SHOW);
     SetForegroundWindow(handle());
     SetFocus(item(idFileTextBox));
     SendMessageW(item(idFileTextBox), EM_SETSEL, 0, 0);
@@ -233,11 +233,9 @@ LRESULT ResultViewerWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam
     case WM_SIZE:
         layOut();
         return 0;
-    case WM_GETMINMAXINFO: {
-        auto& info = *reinterpret_cast<MINMAXINFO*>(lParam);
-        info.ptMinTrackSize = {px(leastWidth), px(leastHeight)};
+    case WM_GETMINMAXINFO:
+        keepAtLeast(*reinterpret_cast<MINMAXINFO*>(lParam), {px(leastWidth), px(leastHeight)});
         return 0;
-    }
     case WM_CTLCOLORSTATIC:
         if (reinterpret_cast<HWND>(lParam) != item(idFileTextBox)) break;
         // A read-only text box is grey of itself; the result is a page to read.

@@ -1,10 +1,8 @@
 #include "shell/main_layout.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "controls/control_spec.h"
-#include "drawing/canvas.h"
 #include "input/form_layout.h"
 #include "input/sketch.h"
 
@@ -35,15 +33,6 @@ constexpr int lengthWidth = raster(150);
 constexpr int resultWidth = raster(270);
 constexpr int leastWidth = raster(640);
 constexpr int leastFormHeight = raster(140);
-
-int pixelsOf(double twips, int dpi) {
-    return static_cast<int>(std::lround(twips * dpi / twipsPerInch));
-}
-
-// The scale at which something of a size in twips fills so many pixels.
-int dpiFor(int pixels, int twips) {
-    return static_cast<int>(pixels * twipsPerInch / twips);
-}
 
 int sketchDpiFor(int width, int height, int dpi) {
     const int byWidth = dpiFor(width - pixelsOf(besideSketch, dpi), sketchWidth);

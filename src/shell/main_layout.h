@@ -1,18 +1,8 @@
 #pragma once
 
+#include "drawing/area.h"
+
 namespace varno {
-
-/// A rectangle in pixels.
-struct Area {
-    int x;
-    int y;
-    int width;
-    int height;
-
-    int right() const { return x + width; }
-    int bottom() const { return y + height; }
-    bool operator==(const Area&) const = default;
-};
 
 /// Where the parts of the main window stand in its client area.
 struct MainLayout {

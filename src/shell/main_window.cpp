@@ -11,6 +11,7 @@
 #include "shell/flag_painter.h"
 #include "shell/main_layout.h"
 #include "shell/menu_table.h"
+#include "shell/support_painter.h"
 #include "win32/accessible_names.h"
 #include "win32/dpi.h"
 #include "win32/given_files.h"
@@ -29,13 +30,6 @@ constexpr int statusParts[]{idStatusState, idStatusFolder, idStatusLength, idSta
 
 void put(HWND window, const Area& area) {
     win32::setPlace(window, area.x, area.y, area.width, area.height);
-}
-
-RECT workAreaOf(HWND window) {
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY), &monitor);
-    return monitor.rcWork;
 }
 
 } // namespace
@@ -86,7 +80,7 @@ void MainWindow::createParts() {
     slabStrip_.create(handle(), idSlabStrip, "Plattremsa", sketch_.slabStrip);
     for (int i = 0; i < buttonCount; ++i) {
         const HWND support =
-            win32::createControl(slabStrip_.handle(), idSupportButton + i, L"BUTTON", "", BS_PUSHBUTTON);
+            win32::createControl(slabStrip_.handle(), idSupportButton + i, L"BUTTON", "", BS_OWNERDRAW);
         win32::nameForScreenReaders(support, "Stöd " + std::to_string(i), ROLE_SYSTEM_PUSHBUTTON);
     }
     for (int flag = 0; flag < flagCount; ++flag) {
@@ -133,7 +127,7 @@ SIZE MainWindow::frameFor(const Area& client) const {
 void MainWindow::show() {
     if (!shown_) {
         shown_ = true;
-        const RECT work = workAreaOf(handle());
+        const RECT work = win32::workAreaOf(handle());
         SIZE size = frameFor(naturalMainArea(dpi_));
         // Where the form has to scroll, its bar must not hide what stands at the right.
         if (size.cy > work.bottom - work.top)
@@ -345,6 +339,10 @@ LRESULT MainWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_DRAWITEM: {
         const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
         if (item.CtlType != ODT_BUTTON) break;
+        if (item.CtlID >= idSupportButton && item.CtlID < idSupportButton + buttonCount) {
+            paintSupport(item.hDC, item.rcItem, dpi_, (item.itemState & ODS_SELECTED) != 0);
+            return TRUE;
+        }
         paintFlag(item.hDC, item.rcItem, static_cast<int>(item.CtlID) - idFlag,
                   (item.itemState & ODS_SELECTED) != 0, (item.itemState & ODS_FOCUS) != 0);
         return TRUE;
@@ -354,7 +352,7 @@ LRESULT MainWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         if (wParam != SIZE_MINIMIZED) layOut();
         return 0;
     case WM_GETMINMAXINFO: {
-        const RECT work = workAreaOf(handle());
+        const RECT work = win32::workAreaOf(handle());
         const SIZE least = frameFor(leastMainArea(dpi_));
         reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {std::min(least.cx, work.right - work.left),
                                                                  std::min(least.cy, work.bottom - work.top)};

@@ -26,13 +26,13 @@ constexpr std::array disclaimerControls{
     inRaster(idPicture, ControlKind::picture, "", 16, 16, 64, 64),
     inRaster(idProductLabel, ControlKind::label, productLabel, 100, 18, 444, 26),
     inRaster(
-        idTextOne, ControlKind::label,
+        idTextOne, ControlKind::paragraph,
         "OBS! Beräkningen anger armering endast i bjälklagsfält och innerstöd med avseende på bärförmåga för "
         "angivna laster. Annan erforderlig armering för sprickfördelning, inspänning, kantarmering eller för "
         "totalstabilitet redovisas ej.",
         100, 54, 444, 64),
     inRaster(
-        idTextTwo, ControlKind::label,
+        idTextTwo, ControlKind::paragraph,
         "I detta program finns vissa begränsningar inbyggda som gör att storheter utanför vissa gränser inte "
         "accepteras. Det har dock inte varit möjligt att begränsa de kombinationer av indata som är "
         "olämpliga men ändå kan ge ett svar av datorn. Användare av programmet måste därför själv ansvara "
@@ -62,7 +62,7 @@ SaveAnswer askToSave(win32::WindowHost& host, HWND owner, const std::string& cap
     constexpr int top = 72;
     const int left = cancelOffered ? 55 : 105;
     const std::array controls{
-        inRaster(idQuestion, ControlKind::label, text.c_str(), 20, 22, 360, 40),
+        inRaster(idQuestion, ControlKind::paragraph, text.c_str(), 20, 22, 360, 40),
         inRaster(idYesButton, ControlKind::defaultButton, "Ja", left, top, 90, 28),
         inRaster(idNoButton, ControlKind::button, "Nej", left + 100, top, 90, 28),
         inRaster(idCancelButton, ControlKind::button, "Avbryt", left + 200, top, 90, 28),

@@ -9,6 +9,7 @@ namespace varno::win32 {
 long roleOf(ControlKind kind) {
     switch (kind) {
     case ControlKind::label:
+    case ControlKind::paragraph:
     case ControlKind::symbolLabel:
         return ROLE_SYSTEM_STATICTEXT;
     case ControlKind::edit:

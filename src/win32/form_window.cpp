@@ -7,9 +7,11 @@
 #include <utility>
 
 #include "win32/accessible_names.h"
+#include "win32/control_kinds.h"
 #include "win32/control_manners.h"
 #include "win32/control_roles.h"
 #include "win32/group_box.h"
+#include "win32/label_drawing.h"
 #include "win32/line_edit.h"
 #include "win32/resource_ids.h"
 #include "win32/strings.h"
@@ -19,62 +21,6 @@ namespace varno::win32 {
 namespace {
 
 constexpr UINT returnToBox = WM_APP;
-
-struct KindStyle {
-    ControlKind kind;
-    const wchar_t* className;
-    DWORD style;
-    DWORD exStyle = 0;
-};
-
-constexpr DWORD stop = WS_TABSTOP;
-constexpr DWORD readOnly = ES_AUTOHSCROLL | ES_READONLY;
-constexpr DWORD list = stop | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_GROUP;
-constexpr DWORD sunken = WS_EX_CLIENTEDGE;
-constexpr DWORD folders = list | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS;
-
-constexpr KindStyle styles[]{
-    {ControlKind::label, L"STATIC", SS_LEFT | SS_NOPREFIX},
-    {ControlKind::symbolLabel, L"STATIC", SS_OWNERDRAW | SS_NOPREFIX},
-    {ControlKind::edit, L"EDIT", stop | ES_AUTOHSCROLL, sunken},
-    {ControlKind::numberEdit, L"EDIT", stop | ES_AUTOHSCROLL | ES_RIGHT, sunken},
-    {ControlKind::readOnlyEdit, L"EDIT", readOnly},
-    {ControlKind::memo, L"EDIT",
-     stop | readOnly | ES_MULTILINE | ES_AUTOVSCROLL | ES_NOHIDESEL | WS_VSCROLL | WS_HSCROLL, sunken},
-    {ControlKind::button, L"BUTTON", stop | BS_PUSHBUTTON},
-    {ControlKind::defaultButton, L"BUTTON", stop | BS_DEFPUSHBUTTON},
-    {ControlKind::group, L"BUTTON", BS_GROUPBOX | WS_GROUP},
-    {ControlKind::radio, L"BUTTON", BS_AUTORADIOBUTTON},
-    {ControlKind::firstRadio, L"BUTTON", stop | BS_AUTORADIOBUTTON | WS_GROUP},
-    {ControlKind::check, L"BUTTON", stop | BS_AUTOCHECKBOX | WS_GROUP},
-    {ControlKind::dropDown, L"COMBOBOX", stop | CBS_DROPDOWNLIST | WS_VSCROLL | WS_GROUP},
-    {ControlKind::listBox, L"LISTBOX", list, sunken},
-    {ControlKind::multiListBox, L"LISTBOX", list | LBS_MULTIPLESEL, sunken},
-    {ControlKind::folderList, L"LISTBOX", folders, sunken},
-    {ControlKind::spin, UPDOWN_CLASSW, UDS_ARROWKEYS},
-    {ControlKind::picture, L"STATIC", SS_OWNERDRAW},
-};
-
-bool isPushButton(HWND control) {
-    if (classOf(control) != "Button") return false;
-    const LONG_PTR type = GetWindowLongPtrW(control, GWL_STYLE) & BS_TYPEMASK;
-    return type == BS_PUSHBUTTON || type == BS_DEFPUSHBUTTON;
-}
-
-bool isLineEdit(ControlKind kind) {
-    return kind == ControlKind::edit || kind == ControlKind::numberEdit || kind == ControlKind::readOnlyEdit;
-}
-
-// What scrolls nothing of its own.
-bool keepsNoWheel(ControlKind kind) {
-    return kind == ControlKind::dropDown || kind == ControlKind::spin || isLineEdit(kind);
-}
-
-// A label of one line has its text in the middle of its height, as the box beside it has.
-DWORD placeOfText(const ControlSpec& spec) {
-    constexpr int oneLine = raster(18);
-    return spec.kind == ControlKind::label && spec.height <= oneLine ? SS_CENTERIMAGE : 0;
-}
 
 // Every other window of the program, disabled for as long as a modal window runs.
 class DisabledOthers {
@@ -224,9 +170,7 @@ void FormWindow::addControls(std::span<const ControlSpec> controls) {
     if (!fonts_[0]) setDpi(dpiOf(handle()));
     for (const ControlSpec& spec : controls) {
         if (spec.kind == ControlKind::label && *spec.text != '\0') label_ = spec.text;
-        const KindStyle& kind = *std::ranges::find(styles, spec.kind, &KindStyle::kind);
-        const HWND control = createControl(handle(), spec.id, kind.className, spec.text,
-                                           WS_VISIBLE | kind.style | placeOfText(spec), kind.exStyle);
+        const HWND control = createControl(handle(), spec);
         if (spec.kind == ControlKind::memo) {
             SendMessageW(control, EM_SETLIMITTEXT, 0, 0);
             leaveKeysToWindow(control);
@@ -241,7 +185,7 @@ void FormWindow::addControls(std::span<const ControlSpec> controls) {
         describe(control, spec.kind, takesLabel(spec.kind) ? label_.substr(0, label_.find(':')) : "");
         // A drop-down list's height is that of its open list.
         const int open = spec.kind == ControlKind::dropDown ? raster(220) : 0;
-        placed_.push_back({control, {spec.x, spec.y, spec.right(), spec.bottom() + open}});
+        placed_.push_back({control, spec.kind, {spec.x, spec.y, spec.right(), spec.bottom() + open}});
         setFont(control, FontRole::text);
     }
 }
@@ -287,20 +231,29 @@ void FormWindow::layOut() {
     }
 }
 
-void FormWindow::sizeAndCentre(int width, int height, HWND over) {
-    setDpi(dpiOf(handle()));
-    RECT frame{0, 0, px(width), px(height)};
+SIZE FormWindow::frameFor(SIZE client) const {
+    RECT frame{0, 0, client.cx, client.cy};
     AdjustWindowRectExForDpi(
         &frame, static_cast<DWORD>(GetWindowLongPtrW(handle(), GWL_STYLE)), GetMenu(handle()) != nullptr,
         static_cast<DWORD>(GetWindowLongPtrW(handle(), GWL_EXSTYLE)), static_cast<UINT>(dpi_));
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    GetMonitorInfoW(MonitorFromWindow(over != nullptr ? over : handle(), MONITOR_DEFAULTTONEAREST), &monitor);
-    RECT around = monitor.rcWork;
+    return {frame.right - frame.left, frame.bottom - frame.top};
+}
+
+void FormWindow::keepAtLeast(MINMAXINFO& sizes, SIZE client) const {
+    const RECT work = workAreaOf(handle());
+    const SIZE least = frameFor(client);
+    sizes.ptMinTrackSize = {std::min(least.cx, work.right - work.left),
+                            std::min(least.cy, work.bottom - work.top)};
+}
+
+void FormWindow::sizeAndCentre(int width, int height, HWND over) {
+    setDpi(dpiOf(handle()));
+    const RECT work = workAreaOf(over != nullptr ? over : handle());
+    RECT around = work;
     if (over != nullptr && IsWindowVisible(over) && !IsIconic(over)) GetWindowRect(over, &around);
-    const RECT& work = monitor.rcWork;
-    const int w = static_cast<int>(std::min(frame.right - frame.left, work.right - work.left));
-    const int h = static_cast<int>(std::min(frame.bottom - frame.top, work.bottom - work.top));
+    const SIZE frame = frameFor({px(width), px(height)});
+    const int w = static_cast<int>(std::min(frame.cx, work.right - work.left));
+    const int h = static_cast<int>(std::min(frame.cy, work.bottom - work.top));
     const auto middle = [](LONG low, LONG high, int size, LONG least, LONG most) {
         return std::max<LONG>(least, std::min<LONG>(low + (high - low - size) / 2, most - size));
     };
@@ -334,6 +287,12 @@ void FormWindow::onCommand(int id, int) {
     if (id == IDCANCEL) onCloseBox();
 }
 
+// As Tab does: what stands in a box is selected.
+void FormWindow::enterFirst(HWND control) {
+    SetFocus(control);
+    if (classOf(control) == "Edit") SendMessageW(control, EM_SETSEL, 0, -1);
+}
+
 void FormWindow::showWhole(HWND box, bool shown) {
     whole_.hide();
     if (shown) whole_.show(box, textOf(box));
@@ -348,24 +307,19 @@ void FormWindow::drawPicture(const DRAWITEMSTRUCT& item) {
     if (icon) DrawIconEx(item.hDC, box.left, box.top, icon.get(), size, size, 0, nullptr, DI_NORMAL);
 }
 
-void FormWindow::drawSymbol(const DRAWITEMSTRUCT& item) {
-    const std::wstring text = wide(textOf(item.hwndItem));
-    const auto split = std::min(text.find(L'_'), text.size());
-    FillRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_BTNFACE));
-    SetBkMode(item.hDC, TRANSPARENT);
-    SetTextColor(item.hDC, GetSysColor(COLOR_BTNTEXT));
-
-    const Selected letters(item.hDC, font(FontRole::symbol));
-    TEXTMETRICW metrics{};
-    GetTextMetricsW(item.hDC, &metrics);
-    const int top = item.rcItem.top + (item.rcItem.bottom - item.rcItem.top - metrics.tmHeight) / 2;
-    TextOutW(item.hDC, item.rcItem.left, top, text.c_str(), static_cast<int>(split));
-    if (split == text.size()) return;
-    SIZE size{};
-    GetTextExtentPoint32W(item.hDC, text.c_str(), static_cast<int>(split), &size);
-    const Selected small(item.hDC, font(FontRole::subscript));
-    TextOutW(item.hDC, item.rcItem.left + size.cx, top + metrics.tmAscent * 5 / 12, text.c_str() + split + 1,
-             static_cast<int>(text.size() - split - 1));
+void FormWindow::drawControl(const DRAWITEMSTRUCT& item) {
+    const auto drawn = std::ranges::find(placed_, item.hwndItem, &Placed::control);
+    if (drawn == placed_.end()) return;
+    switch (drawn->kind) {
+    case ControlKind::picture:
+        drawPicture(item);
+        return;
+    case ControlKind::paragraph:
+        drawParagraph(item);
+        return;
+    default:
+        drawSymbol(item, font(FontRole::symbol), font(FontRole::subscript));
+    }
 }
 
 LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -393,16 +347,14 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case returnToBox:
         returnTo(item(static_cast<int>(wParam)));
         return 0;
-    case WM_DRAWITEM: {
-        const auto& drawn = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
-        textOf(drawn.hwndItem).empty() ? drawPicture(drawn) : drawSymbol(drawn);
+    case WM_DRAWITEM:
+        drawControl(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
         return TRUE;
-    }
     case WM_ACTIVATE:
         activationChanged(wParam, lParam);
         if (LOWORD(wParam) != WA_INACTIVE && !restoreFocus()) {
             const HWND first = GetNextDlgTabItem(handle(), nullptr, FALSE);
-            if (first != nullptr) SetFocus(first);
+            if (first != nullptr) enterFirst(first);
         }
         return 0;
     case WM_DPICHANGED:

@@ -14,6 +14,10 @@
 
 namespace varno::win32 {
 
+/// The style of a window that can be made larger. It has no box to minimise it: one that belongs to the main window has
+/// no button in the task bar, and would lie as a stub on the desktop.
+inline constexpr DWORD growingWindow = WS_OVERLAPPEDWINDOW & ~static_cast<DWORD>(WS_MINIMIZEBOX);
+
 /// A window made of controls that stand in a table, in twips. It lays them out at its own resolution, keeps
 /// the keyboard focus while another window is active, and draws the symbol labels. Of its controls' events it
 /// hands on those that are the user's doing: a field that lost the focus to another program was not left, and a
@@ -45,6 +49,9 @@ class FormWindow : public Window, private FieldWindow, private BoxKeys {
     /// Gives the client area this size in twips at the window's resolution, as far as the work area has room for it, and
     /// centres it over `over` (or the work area of its monitor).
     void sizeAndCentre(int width, int height, HWND over);
+
+    /// Answers WM_GETMINMAXINFO: the client area is no smaller than this, as far as the work area has room for it.
+    void keepAtLeast(MINMAXINFO& sizes, SIZE client) const;
 
     /// Selects a row of a drop-down list, -1 for none, or empties it; nothing is told of it.
     void showRow(int id, int row) { dropDowns_.show(item(id), row); }
@@ -87,9 +94,11 @@ class FormWindow : public Window, private FieldWindow, private BoxKeys {
   private:
     struct Placed {
         HWND control;
+        ControlKind kind;
         RECT twips;
         FontRole role = FontRole::text;
     };
+    SIZE frameFor(SIZE client) const;
     void leaveKept(int field) override;
     void controlTold(HWND control, int notification);
     static void describe(HWND control, ControlKind kind, const std::string& name);
@@ -97,8 +106,9 @@ class FormWindow : public Window, private FieldWindow, private BoxKeys {
     bool pressFocused();
     void moveTo(HWND control);
     void returnTo(HWND box);
+    static void enterFirst(HWND control);
     void showWhole(HWND box, bool shown);
-    void drawSymbol(const DRAWITEMSTRUCT& item);
+    void drawControl(const DRAWITEMSTRUCT& item);
     HFONT font(FontRole role) const { return fonts_[static_cast<int>(role)].get(); }
     void setFont(HWND control, FontRole role);
 
@@ -109,7 +119,7 @@ class FormWindow : public Window, private FieldWindow, private BoxKeys {
     POINT origin_{};
     DropDowns dropDowns_;
     bool open_ = false;
-    std::string label_; ///< in front of the control that is made now
+    std::string label_;     ///< in front of the control that is made now
     Balloon whole_{host()}; ///< the number that its box has no room for
 };
 

@@ -12,7 +12,8 @@ COLORREF colourRef(Rgb rgb) {
 }
 
 COLORREF GdiCanvas::ref(Colour colour) const {
-    return colour.isForeground() ? foreground_ : colourRef(colour.rgb({}));
+    const Rgb foreground{GetRValue(foreground_), GetGValue(foreground_), GetBValue(foreground_)};
+    return colourRef((isLight(foreground) ? colour.onDark() : colour).rgb(foreground));
 }
 
 LONG GdiCanvas::px(double twips) const {
@@ -22,10 +23,13 @@ LONG GdiCanvas::px(double twips) const {
 }
 
 int GdiCanvas::penWidth(int width) const {
-    return std::max(1, static_cast<int>(std::lround(width * twipsPerPixel * penDpi_ / twipsPerInch)));
+    // Rounded up at 150 %, the lines of a small sketch would run together.
+    return std::max(1, static_cast<int>(width * twipsPerPixel * penDpi_ / twipsPerInch));
 }
 
 void GdiCanvas::line(Point from, Point to, Colour colour, int width) {
+    // GDI makes a speck of it: a line load of 0 kN/m would be seen.
+    if (from == to) return;
     const UniquePen pen(CreatePen(PS_SOLID, penWidth(width), ref(colour)));
     const Selected selected(dc_, pen.get());
     const POINT a = at(from);

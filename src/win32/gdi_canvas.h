@@ -9,7 +9,7 @@ namespace varno::win32 {
 COLORREF colourRef(Rgb rgb);
 
 /// Draws on a device context whose unit is the pixel: twips become pixels here, once. It does not clear; who
-/// owns the surface fills it first.
+/// owns the surface fills it first. A light foreground tells that the ground is dark.
 class GdiCanvas : public Canvas {
   public:
     /// `dpi` is the scale of places and sizes, `penDpi` that of the line widths.

@@ -108,7 +108,7 @@ void GdiPrinter::startPage() {
     if (StartPage(dc_.get()) <= 0) fail();
     pageOpen_ = true;
     drawn_ = false;
-    y_ = 0;
+    y_ = down().begin;
     SetBkMode(dc_.get(), TRANSPARENT);
 }
 
@@ -129,7 +129,19 @@ int GdiPrinter::page() {
     return page_;
 }
 
-// The largest font of the face, up to 10 points, in which a whole result page fits the printable area.
+TextRange GdiPrinter::across() const {
+    return textRange(
+        {deviceCaps(PHYSICALWIDTH), deviceCaps(PHYSICALOFFSETX), deviceCaps(HORZRES), deviceCaps(LOGPIXELSX)},
+        filingMargin, textMargin);
+}
+
+TextRange GdiPrinter::down() const {
+    return textRange({deviceCaps(PHYSICALHEIGHT), deviceCaps(PHYSICALOFFSETY), deviceCaps(VERTRES),
+                      deviceCaps(LOGPIXELSY)},
+                     textMargin, textMargin);
+}
+
+// The largest font of the face, up to 10 points, in which a whole result page fits between the margins.
 void GdiPrinter::chooseFont() {
     if (face_.empty()) face_ = printerFontName();
     if (fontFace_ == face_) return;
@@ -141,8 +153,8 @@ void GdiPrinter::chooseFont() {
         TEXTMETRICW metrics{};
         GetTextMetricsW(dc_.get(), &metrics);
         lineHeight_ = static_cast<int>(metrics.tmHeight + metrics.tmExternalLeading);
-        const bool high = lineHeight_ * linesOnPage > deviceCaps(VERTRES);
-        const bool broad = metrics.tmAveCharWidth * charactersOnLine > deviceCaps(HORZRES);
+        const bool high = lineHeight_ * linesOnPage > down().length();
+        const bool broad = metrics.tmAveCharWidth * charactersOnLine > across().length();
         if (!high && !broad) break;
     }
     fontFace_ = face_;
@@ -151,12 +163,12 @@ void GdiPrinter::chooseFont() {
 void GdiPrinter::printOneLine(const std::wstring& line) {
     startPage();
     chooseFont();
-    if (y_ + lineHeight_ > deviceCaps(VERTRES)) {
+    if (y_ + lineHeight_ > down().end) {
         newPage();
         startPage();
     }
     const Selected selected(dc_.get(), font_.get());
-    TextOutW(dc_.get(), 0, y_, line.c_str(), static_cast<int>(line.size()));
+    TextOutW(dc_.get(), across().begin, y_, line.c_str(), static_cast<int>(line.size()));
     y_ += lineHeight_;
 }
 

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "drawing/paper.h"
 #include "drawing/printer.h"
 #include "win32/gdi_canvas.h"
 #include "win32/printer_fonts.h"
@@ -47,6 +48,8 @@ class GdiPrinter : public Printer {
     [[noreturn]] void fail();
     void startPage();
     void endPage();
+    TextRange across() const;
+    TextRange down() const;
     void chooseFont();
     void printOneLine(const std::wstring& line);
     int deviceCaps(int what) const { return GetDeviceCaps(dc_.get(), what); }

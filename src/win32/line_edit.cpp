@@ -38,7 +38,8 @@ int widthIn(HFONT font, const std::wstring& text) {
 class LineEdit {
   public:
     explicit LineEdit(HWND edit)
-        : edit_(edit), isNumber_((GetWindowLongPtrW(edit, GWL_STYLE) & ES_RIGHT) != 0) {}
+        : edit_(edit), isNumber_((GetWindowLongPtrW(edit, GWL_STYLE) & ES_RIGHT) != 0),
+          isBare_((GetWindowLongPtrW(edit, GWL_EXSTYLE) & WS_EX_CLIENTEDGE) == 0) {}
 
     static LRESULT CALLBACK proc(HWND edit, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                                  DWORD_PTR self) {
@@ -67,6 +68,7 @@ class LineEdit {
 
     HWND edit_;
     bool isNumber_;
+    bool isBare_;
     HFONT font_ = nullptr; ///< the one that was given
     UniqueFont small_;
     NumberFit fit_{0, true};
@@ -132,8 +134,11 @@ void LineEdit::paintCut() {
 void LineEdit::useFont(HFONT font, int margin) {
     defaultProc(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
     // A new font brings margins of its own, which leave a number box so little room that it scrolls the first
-    // digit of "0,170" away when the caret stands behind the last.
-    if (isNumber_) defaultProc(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(margin, margin));
+    // digit of "0,170" away when the caret stands behind the last. A path without a frame begins where the label above
+    // it begins.
+    const int side = isNumber_ ? margin : 0;
+    if (isNumber_ || isBare_)
+        defaultProc(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(side, side));
     SetWindowPos(edit_, nullptr, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
 }

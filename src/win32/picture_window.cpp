@@ -50,6 +50,9 @@ LRESULT PictureWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_KILLFOCUS:
         redraw();
         return 0;
+    case WM_DRAWITEM:
+        // A control that lies on the picture.
+        return SendMessageW(GetParent(handle()), message, wParam, lParam);
     case WM_ERASEBKGND:
         return TRUE;
     default:

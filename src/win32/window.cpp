@@ -15,6 +15,13 @@ HWND createControl(HWND parent, int id, const wchar_t* className, std::string_vi
                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), programInstance(), parameter);
 }
 
+RECT workAreaOf(HWND window) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
+    return monitor.rcWork;
+}
+
 void setPlace(HWND window, int x, int y, int width, int height) {
     SetWindowPos(window, nullptr, x, y, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
 }

@@ -88,6 +88,9 @@ HINSTANCE programInstance();
 /// A control of a class of Windows, not placed yet.
 HWND createControl(HWND parent, int id, const wchar_t* className, std::string_view text, DWORD style,
                    DWORD exStyle = 0, void* parameter = nullptr);
+/// The part of a window's monitor that no task bar covers.
+RECT workAreaOf(HWND window);
+
 /// Moves and sizes a window and does nothing else with it.
 void setPlace(HWND window, int x, int y, int width, int height);
 inline void setPlace(HWND window, const RECT& box) {

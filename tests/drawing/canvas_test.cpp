@@ -31,6 +31,19 @@ TEST(Colour, TheForegroundIsTheSurfacesOwn) {
     EXPECT_NE(Colour::foreground(), Colour::numbered(0));
 }
 
+TEST(Colour, OnADarkGroundTheDarkOnesGiveWayToTheirLightTwins) {
+    EXPECT_EQ(red.onDark(), Colour::numbered(12));
+    EXPECT_EQ(green.onDark(), Colour::numbered(10));
+    EXPECT_EQ(brightWhite.onDark(), brightWhite);
+    EXPECT_EQ(Colour::numbered(0).onDark(), Colour::numbered(0));
+    EXPECT_EQ(Colour::foreground().onDark(), Colour::foreground());
+    EXPECT_TRUE(isLight({255, 255, 255}));
+    EXPECT_TRUE(isLight({255, 255, 0}));
+    EXPECT_TRUE(isLight({0, 255, 0}));
+    EXPECT_FALSE(isLight({0, 0, 0}));
+    EXPECT_FALSE(isLight({0, 0, 255}));
+}
+
 TEST(RecordingCanvas, KeepsWhatIsDrawnInOrder) {
     RecordingCanvas canvas;
     drawSample(canvas);

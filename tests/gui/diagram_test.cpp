@@ -8,12 +8,12 @@ namespace {
 
 constexpr COLORREF black = RGB(0, 0, 0);
 constexpr COLORREF red = RGB(0x80, 0, 0);
-constexpr double twipsOfPixel = 15; // on the screen, at 96 dots per inch
+constexpr int dpi = 96;
 
 // The picture area once it is painted; before, it may show nothing but black.
-Picture painted(const Program& program, const Control& window) {
+Picture painted(const Program& program, const Control& window, int scale = dpi) {
     const Control area = window.item(idDiagramPicture);
-    const int row = 2000 / 15;
+    const int row = (2000 * scale + 720) / 1440;
     Picture picture = Picture::ofScreen(area.handle());
     program.until([&] {
         picture = Picture::ofScreen(area.handle());
@@ -23,9 +23,9 @@ Picture painted(const Program& program, const Control& window) {
 }
 
 // A pixel of the colour at most one pixel from a place in twips.
-bool has(const Picture& picture, COLORREF colour, double x, double y) {
-    const int column = static_cast<int>(x / twipsOfPixel + 0.5);
-    const int row = static_cast<int>(y / twipsOfPixel + 0.5);
+bool has(const Picture& picture, COLORREF colour, double x, double y, int scale = dpi) {
+    const int column = static_cast<int>(x * scale / 1440 + 0.5);
+    const int row = static_cast<int>(y * scale / 1440 + 0.5);
     for (int v = row - 1; v <= row + 1; ++v) {
         for (int u = column - 1; u <= column + 1; ++u) {
             if (picture.at(u, v) == colour) return true;
@@ -70,6 +70,37 @@ TEST_F(Diagrams, CurvesAreToScale) {
     EXPECT_TRUE(has(picture, black, 8740, baseline));
     EXPECT_FALSE(has(picture, black, 8780, baseline));
     EXPECT_FALSE(has(picture, black, 300, baseline));
+}
+
+TEST_F(Diagrams, ThePictureGrowsWithItsWindow) {
+    scene.write("momk.dat", curves(spans, -100, 50, 25));
+    const Control window = diagram();
+    ShowWindowAsync(window.handle(), SW_MAXIMIZE);
+    expectSoon(program, true, [&] { return IsZoomed(window.handle()) != FALSE; });
+    window.send(WM_NULL);
+    const RECT area = window.item(idDiagramPicture).place();
+    const int scale = (area.right - area.left) * 1440 / 9600;
+    EXPECT_GT(scale, dpi * 3 / 2);
+    EXPECT_NEAR(area.bottom - area.top, (area.right - area.left) / 2, 1);
+    const Picture picture = painted(program, window, scale);
+    const double tenth = firstSupport + 10 * spacing * perMetre;
+    EXPECT_TRUE(has(picture, black, tenth, 2950, scale));
+    EXPECT_TRUE(has(picture, red, tenth, 2475, scale));
+    EXPECT_TRUE(has(picture, black, firstSupport, 100, scale));
+    EXPECT_FALSE(has(picture, black, 8780, baseline, scale));
+    // The lines have not grown: but for the edges of the supports no two pixels stand side by side.
+    const std::vector<int> ordinates = picture.columns(2700 * scale / 1440, black);
+    int broad = 0;
+    for (std::size_t i = 1; i < ordinates.size(); ++i)
+        broad += ordinates[i] == ordinates[i - 1] + 1 ? 1 : 0;
+    EXPECT_GT(ordinates.size(), 90u);
+    EXPECT_LT(broad, 12);
+
+    ShowWindowAsync(window.handle(), SW_RESTORE);
+    expectSoon(program, 640L, [&] {
+        const RECT back = window.item(idDiagramPicture).place();
+        return back.right - back.left;
+    });
 }
 
 TEST_F(Diagrams, FilesThatCannotBeDrawnAreReported) {

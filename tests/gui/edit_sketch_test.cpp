@@ -120,6 +120,19 @@ TEST_F(EditSketch, ButtonsStandInPlaceOnASharperScreen) {
     expectButtons({900, 3300, 5700, 8100}, 120);
 }
 
+TEST_F(EditSketch, ButtonsStandOutFromTheGround) {
+    for (const int resolution : {96, 120}) {
+        restartAt(resolution);
+        openFourteenMetres();
+        const int middle = pixel(90 + 195 / 2.0, resolution);
+        const std::vector<int> seen = grab(slabStrip()).columns(middle, black());
+        for (const int left : {900, 3300, 5700, 8100}) {
+            for (const int edge : {pixel(left, resolution), pixel(left + 90, resolution) - 1})
+                EXPECT_TRUE(std::ranges::find(seen, edge) != seen.end()) << edge << " at " << resolution;
+        }
+    }
+}
+
 TEST_F(EditSketch, SlabIsDrawnInItsWholeLength) {
     openFourteenMetres();
     std::vector<int> bar;
@@ -169,6 +182,14 @@ TEST_F(EditSketch, LineLoadsAreArrowsInProportion) {
     // The picture follows a change of the spans.
     enter(Field::konsv, "7");
     expectArrow(grab(loadPicture()), red, 7 * 420, 700);
+}
+
+TEST_F(EditSketch, ALineLoadOfZeroIsNotSeen) {
+    openFourteenMetres({{32, "2"}, {33, "1  0.000  5.000  "}, {34, "3  2.000  0.000  "}});
+    const Picture picture = grab(loadPicture());
+    expectArrow(picture, red, 600, 700);
+    for (int x = pixel(3000); x < pixel(8400); ++x)
+        EXPECT_TRUE(picture.rows(x, red).empty()) << x;
 }
 
 TEST_F(EditSketch, LineLoadBeyondTheLastSpanStandsByTheStoredLengths) {

@@ -66,7 +66,12 @@ bool buttonFits(const Control& control, const Measure& measure, int dpi) {
 bool staticFits(const Control& control, const Measure& measure) {
     const SIZE room = sizeOf(control.place());
     const std::string text = control.text();
-    if ((control.style() & SS_TYPEMASK) == SS_OWNERDRAW) {
+    const bool drawn = (control.style() & SS_TYPEMASK) == SS_OWNERDRAW;
+    if (drawn && text.find(' ') != std::string::npos) {
+        // A paragraph, whose lines end before its edge: some letters are drawn wider than they are measured.
+        return measure.broken(text, room.cx - room.cx / 40).cy <= room.cy;
+    }
+    if (drawn) {
         // Letters half as large again, and a smaller subscript behind the "_".
         const auto split = std::min(text.find('_'), text.size());
         const std::string small = split < text.size() ? text.substr(split + 1) : "";
@@ -94,6 +99,12 @@ bool listFits(const Control& control, const Measure& measure, int dpi) {
     return widest + MulDiv(17 + 8, dpi, 96) <= sizeOf(control.place()).cx;
 }
 
+// The rows of a list are as high as their letters.
+bool rowsFit(const Control& control, const Measure& measure) {
+    const LRESULT height = control.send(LB_GETITEMHEIGHT);
+    return height >= measure.height();
+}
+
 bool fits(const Control& control, const LOGFONTW& font, int dpi) {
     const Measure measure(font);
     const std::string kind = control.className();
@@ -101,6 +112,7 @@ bool fits(const Control& control, const LOGFONTW& font, int dpi) {
     if (kind == "Static") return staticFits(control, measure);
     if (kind == "Edit") return editFits(control, measure);
     if (kind == "ComboBox") return listFits(control, measure, dpi);
+    if (kind == "ListBox") return rowsFit(control, measure);
     return true;
 }
 
@@ -112,7 +124,8 @@ std::string nameOf(const Control& control) {
 bool canBeMeasured(const Control& control) {
     const std::string kind = control.className();
     if (kind == "Button") return (control.style() & BS_TYPEMASK) != BS_OWNERDRAW;
-    return kind == "Edit" || kind == "ComboBox" || (kind == "Static" && !control.text().empty());
+    return kind == "Edit" || kind == "ComboBox" || kind == "ListBox" ||
+           (kind == "Static" && !control.text().empty());
 }
 
 void findCutCaptions(const Program& program, const std::vector<Control>& controls, int dpi,
@@ -167,6 +180,59 @@ void findUnevenLines(const Program& program, const std::vector<Control>& control
     }
 }
 
+// A path without a frame begins where the label above it begins.
+void findIndentedPaths(const std::vector<Control>& controls, std::vector<std::string>& faults) {
+    for (const Control& control : controls) {
+        const bool bare = (GetWindowLongPtrW(control.handle(), GWL_EXSTYLE) & WS_EX_CLIENTEDGE) == 0;
+        if (control.className() != "Edit" || !bare || control.text().empty()) continue;
+        const int first = static_cast<short>(LOWORD(control.send(EM_POSFROMCHAR, 0)));
+        if (first != 0) faults.push_back(nameOf(control) + " is indented by " + std::to_string(first));
+    }
+}
+
+// What lies in a frame lies in it whole, below its caption.
+void findOutOfFrame(const std::vector<Control>& controls, int dpi, std::vector<std::string>& faults) {
+    const LONG caption = MulDiv(10, dpi, 96);
+    for (const Control& frame : controls) {
+        if (!isGroup(frame) || !frame.visible()) continue;
+        const RECT outside = frame.place();
+        RECT inside = outside;
+        inside.top += caption;
+        InflateRect(&inside, -1, -1);
+        for (const Control& control : controls) {
+            RECT box = control.place();
+            const POINT middle{(box.left + box.right) / 2, (box.top + box.bottom) / 2};
+            RECT common{};
+            if (control == frame || !control.visible() || !PtInRect(&outside, middle)) continue;
+            // A frame may lie in a frame.
+            IntersectRect(&common, &box, &outside);
+            if (EqualRect(&common, &outside)) continue;
+            IntersectRect(&common, &box, &inside);
+            if (!EqualRect(&common, &box))
+                faults.push_back(nameOf(control) + " reaches over the frame " + nameOf(frame));
+        }
+    }
+}
+
+// Number boxes that all but touch, as those of the grid do, are of one size, and on one line.
+void findUnevenBoxes(const std::vector<Control>& controls, int dpi, std::vector<std::string>& faults) {
+    std::vector<Control> boxes;
+    for (const Control& control : controls) {
+        if (control.visible() && control.className() == "Edit" && (control.style() & ES_RIGHT) != 0)
+            boxes.push_back(control);
+    }
+    for (std::size_t i = 1; i < boxes.size(); ++i) {
+        const RECT one = boxes[i - 1].place();
+        const RECT next = boxes[i].place();
+        const LONG gap = next.left - one.right;
+        const bool beside =
+            next.top < one.bottom && one.top < next.bottom && gap >= 0 && gap < MulDiv(8, dpi, 96);
+        const LONG wider = sizeOf(next).cx - sizeOf(one).cx;
+        if (beside && (one.top != next.top || one.bottom != next.bottom || wider < -1 || wider > 1))
+            faults.push_back(nameOf(boxes[i]) + " is not in line with " + nameOf(boxes[i - 1]));
+    }
+}
+
 } // namespace
 
 std::vector<std::string> layoutFaults(const Program& program, const Control& window, int dpi) {
@@ -181,6 +247,9 @@ std::vector<std::string> layoutFaults(const Program& program, const Control& win
     const auto children = window.children();
     findCutCaptions(program, children, dpi, faults);
     findUnevenLines(program, children, faults);
+    findUnevenBoxes(children, dpi, faults);
+    findIndentedPaths(children, faults);
+    findOutOfFrame(children, dpi, faults);
     std::vector<Control> shown;
     for (const Control& child : children) {
         const RECT box = child.place();

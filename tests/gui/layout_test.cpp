@@ -4,6 +4,7 @@
 #include "driver/program.h"
 #include "input/form_layout.h"
 #include "layout_check.h"
+#include "picture.h"
 #include "soon.h"
 
 namespace varno::gui {
@@ -33,6 +34,21 @@ class Layout : public ::testing::TestWithParam<int> {
         EXPECT_EQ(layoutFaults(program, program.form(), GetParam(), area), std::vector<std::string>{})
             << "the form at " << GetParam() << " dpi";
     }
+    // Letters that are drawn wider than they are measured would reach the right edge.
+    static void expectUncut(const Program& program, const Control& text) {
+        const auto ink = [&](int fromRight) {
+            const Picture picture = Picture::ofScreen(text.handle());
+            const int x = picture.width() - 1 - fromRight;
+            return picture.height() -
+                   static_cast<int>(picture.rows(x, picture.at(0, picture.height() - 1)).size());
+        };
+        expectSoon(program, true, [&] {
+            const Picture picture = Picture::ofScreen(text.handle());
+            return picture.count(GetSysColor(COLOR_BTNTEXT)) > 500;
+        });
+        for (const int column : {0, 1})
+            EXPECT_EQ(ink(column), 0) << text.text() << " at " << GetParam() << " dpi";
+    }
     static void expectBandSound(const Program& program) { expectSound(program, program.main()); }
     static void close(const Program& program, const Control& window, int button) {
         window.item(button).click();
@@ -48,7 +64,10 @@ TEST_P(Layout, OfTheStartUpWindows) {
     const Control notice = program.window(noticeClass);
     expectSound(program, notice);
     close(program, notice, idOkButton);
-    expectSound(program, program.window(disclaimerClass));
+    const Control disclaimer = program.window(disclaimerClass);
+    expectSound(program, disclaimer);
+    for (const int text : {idTextOne, idTextTwo})
+        expectUncut(program, disclaimer.item(text));
 }
 
 TEST_P(Layout, OfTheFormAndTheBandAboveIt) {
@@ -116,6 +135,58 @@ TEST_P(Layout, OfTheDialogsAndTheViewer) {
     program.typeInto({Field::rubrik}, "Ändrad");
     program.command(idExit);
     expectSound(program, program.window(savePromptClass));
+}
+
+TEST_P(Layout, OfTheLineLoadEditorsAndTheDiagram) {
+    Program program(scene, options);
+    program.passStartUp();
+    program.open("TIOFACK.IND");
+    program.calculate();
+    program.command(idMoment);
+    const Control diagram = program.window("VarnoMomkurva");
+    expectSound(program, diagram);
+    ShowWindowAsync(diagram.handle(), SW_MAXIMIZE);
+    expectSoon(program, true, [&] { return IsZoomed(diagram.handle()) != FALSE; });
+    diagram.send(WM_NULL);
+    expectSound(program, diagram);
+    diagram.post(WM_COMMAND, idReturn);
+    program.waitGone(diagram);
+
+    program.command(idLineLoads);
+    const Control editor = program.window("VarnoLineLoads");
+    expectSound(program, editor);
+    editor.post(WM_COMMAND, idLayout);
+    program.waitGone(editor);
+    program.command(idFreeLineLoads);
+    const Control free = program.window("VarnoFreeLineLoads");
+    const Control count = free.item(idLineLoadField);
+    for (int loads = 1; loads <= 5; ++loads) {
+        free.item(idLineLoadSpin).clickAt(5, 5);
+        expectSoon(program, std::to_string(loads), [&] { return count.text(); });
+    }
+    // At 200 % the test's screen is too low for it.
+    constexpr int height = 445;
+    RECT area{};
+    GetClientRect(free.handle(), &area);
+    if (GetParam() == 192) area.bottom = MulDiv(height, GetParam(), 96);
+    EXPECT_EQ(layoutFaults(program, free, GetParam(), area), std::vector<std::string>{}) << GetParam();
+}
+
+TEST_P(Layout, OfTheDeletionWindows) {
+    Program program(scene, options);
+    program.passStartUp();
+    program.command(idDeleteBoth);
+    const Control window = program.window("VarnoDelFile");
+    expectSound(program, window);
+    window.item(idDeletionHelp).click();
+    const Control help = program.window("VarnoHelp");
+    expectSound(program, help);
+    close(program, help, idOkButton);
+    window.item(idFileList).send(LB_SETSEL, TRUE, 0);
+    window.item(idDelete).click();
+    const Control question = program.window("VarnoVeri");
+    expectSound(program, question);
+    close(program, question, idCancelButton);
 }
 
 INSTANTIATE_TEST_SUITE_P(Scale, Layout, ::testing::Values(96, 120, 144, 192));

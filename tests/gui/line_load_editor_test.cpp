@@ -34,6 +34,7 @@ TEST_F(LineLoadEditing, ShowsTheLoadsOfTheCase) {
     EXPECT_EQ(editor.window().text(), "Linjelaster");
     EXPECT_TRUE(main().enabled()) << "it is modeless";
     EXPECT_EQ(editor.text(nllast), "3");
+    expectSoon(program(), std::pair(0, 1), [&] { return editor.box(nllast).selection(); });
     expectRow(editor, 1, "1 2.50 8.50");
     expectRow(editor, 2, "2 1.25 6.00");
     expectRow(editor, 3, "3 0.50 -4.00");

@@ -43,6 +43,19 @@ TEST_F(WithoutPrinter, PlotSaysSoAndTheDiagramStays) {
     EXPECT_TRUE(diagram.enabled());
 }
 
+// A font of the printer that was there yesterday.
+TEST_F(WithoutPrinter, TheStoredFontIsInTheListOfFonts) {
+    scene.write("Varnfnt.ini", "Skrivarens Egen\r\n");
+    Program again(scene);
+    again.passStartUp();
+    again.open("bostad.ind");
+    again.command(idShowResult);
+    again.window(viewerClass).post(WM_COMMAND, idEditFont);
+    const Control window = again.window(fontChooserClass);
+    EXPECT_EQ(window.item(idStoredFont).rows(), std::vector<std::string>{"Skrivarens Egen"});
+    EXPECT_EQ(window.item(idInstalledFonts).rows().at(0), "Skrivarens Egen");
+}
+
 TEST_F(WithoutPrinter, NothingIsLost) {
     program.typeInto({Field::rubrik}, "Nytt hus");
     program.command(idPrintResult);

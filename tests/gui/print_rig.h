@@ -61,7 +61,11 @@ inline std::vector<std::string> body(const PrintedPage& page) {
     return {page.lines.begin() + 1, page.lines.end()};
 }
 
-/// The header, the lines, and all of it on the part of the paper that can be printed on.
+// From the edges of the paper, points.
+inline constexpr double filingEdge = 20 * 72 / 25.4;
+inline constexpr double textEdge = 15 * 72 / 25.4;
+
+/// The header, the lines, and all of it between the margins.
 inline void expectPage(const PrintedPage& page, int number, const std::vector<std::string>& lines) {
     ASSERT_FALSE(page.lines.empty());
     const std::string header = "sid " + std::to_string(number);
@@ -69,12 +73,11 @@ inline void expectPage(const PrintedPage& page, int number, const std::vector<st
                 page.lines[0].find_first_not_of(' ') == page.lines[0].size() - header.size())
         << page.lines[0];
     EXPECT_EQ(body(page), lines);
-    const double margin = printerMargin / 20;
     for (const PrintedWord& word : page.words) {
         // The boxes are those of the letters' cells, rounded to the printer's pixels.
-        const bool inside = word.left > margin - 0.5 && word.top > margin - 0.5 &&
-                            word.right < page.width - margin + 0.5 &&
-                            word.bottom < page.height - margin + 0.5;
+        const bool inside = word.left > filingEdge - 0.5 && word.top > textEdge - 0.5 &&
+                            word.right < page.width - textEdge + 0.5 &&
+                            word.bottom < page.height - textEdge + 0.5;
         EXPECT_TRUE(inside) << word.text << " reaches " << word.left << "," << word.top << " to "
                             << word.right << "," << word.bottom;
     }

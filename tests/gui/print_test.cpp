@@ -52,12 +52,12 @@ TEST_F(Printing, PageNumberStandsBehind68Blanks) {
     ASSERT_EQ(words.size(), 5u);
     EXPECT_EQ(words[0].text, "sid");
     EXPECT_NEAR(words[0].left, words[3].left, 0.5) << "the 69th column";
-    EXPECT_NEAR(words[2].left, printerMargin / 20, 0.5) << "text begins where the printer can print";
-    EXPECT_LT(words[3].right, 595 - printerMargin / 20) << "80 letters fit the page";
+    EXPECT_NEAR(words[2].left, filingEdge, 0.5) << "there is room to file the page";
+    EXPECT_NEAR(words[0].top, textEdge, 1.5);
+    EXPECT_LT(words[3].right, 595 - textEdge) << "80 letters fit the page";
     const double line = words[4].top - words[2].top;
     EXPECT_NEAR(words[2].top - words[0].top, 2 * line, 0.5) << "an empty line follows the header";
-    EXPECT_GT(line * 72, 0.85 * (842 - 2 * printerMargin / 20))
-        << "the letters are no smaller than they must be";
+    EXPECT_GT(line * 72, 0.85 * (842 - 2 * textEdge)) << "the letters are no smaller than they must be";
 }
 
 TEST_F(Printing, CircumflexEndsItsPage) {

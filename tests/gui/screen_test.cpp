@@ -181,8 +181,27 @@ TEST(SmallScreen, NoWindowIsLargerThanTheWorkArea) {
     program.passStartUp();
     expectInside(program.main());
     program.open("TIOFACK.IND");
+    program.calculate();
+    program.command(idMoment);
+    expectInside(program.window("VarnoMomkurva"));
     program.command(idShowResult);
     expectInside(program.window(viewerClass));
+}
+
+// What belongs to the main window has no button in the task bar.
+TEST(SmallScreen, OnlyTheMainWindowCanBeMinimised) {
+    const Scene scene;
+    Program program(scene);
+    program.passStartUp();
+    program.open("BOSTAD.IND");
+    program.calculate();
+    program.command(idShowResult);
+    program.command(idMoment);
+    for (const char* name : {viewerClass, "VarnoMomkurva"}) {
+        const LONG style = program.window(name).style();
+        EXPECT_EQ(style & WS_MINIMIZEBOX, 0) << name;
+        EXPECT_NE(style & WS_MAXIMIZEBOX, 0) << name;
+    }
 }
 
 } // namespace

@@ -51,8 +51,16 @@ TEST_F(FontChoiceTest, OpensWithThePrintersFontsInItsOrderAndTheStoredChoice) {
     edit({"Times", "Arial", "Courier"});
     EXPECT_EQ(chooser.installed, (std::vector<std::string>{"Times", "Arial", "Courier"}));
     EXPECT_EQ(chooser.stored, "Courier New");
-    EXPECT_EQ(chooser.current, "");
+    EXPECT_EQ(chooser.current, "Courier New");
     EXPECT_EQ(chooser.timesShown, 1);
+}
+
+TEST_F(FontChoiceTest, WithoutAPrinterTheStoredFontIsInTheListAllTheSame) {
+    printer.there = false;
+    edit({"Arial", "Tahoma"});
+    EXPECT_EQ(chooser.installed, (std::vector<std::string>{"Courier New", "Arial", "Tahoma"}));
+    edit({"Arial", "Courier New"});
+    EXPECT_EQ(chooser.installed, (std::vector<std::string>{"Arial", "Courier New"}));
 }
 
 TEST_F(FontChoiceTest, AClickTakesTheFontAtOnce) {

@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
-#include "drawing/canvas.h"
 #include "input/form_layout.h"
 #include "input/sketch.h"
 
@@ -12,10 +9,6 @@ namespace varno {
 namespace {
 
 constexpr int scales[] = {96, 120, 144, 192};
-
-int pixelsOf(double twips, int dpi) {
-    return static_cast<int>(std::lround(twips * dpi / twipsPerInch));
-}
 
 bool apart(const Area& one, const Area& other) {
     return one.right() <= other.x || other.right() <= one.x || one.bottom() <= other.y ||

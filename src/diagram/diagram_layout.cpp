@@ -1,0 +1,42 @@
+#include "diagram/diagram_layout.h"
+
+#include <algorithm>
+
+#include "diagram/moment_diagram.h"
+
+namespace varno {
+
+namespace {
+
+constexpr int margin = raster(10);
+constexpr int pictureWidth = static_cast<int>(diagramWidth);
+constexpr int pictureHeight = static_cast<int>(diagramHeight);
+constexpr int aboveButton = raster(2);
+constexpr int buttonWidth = raster(150);
+constexpr int buttonHeight = raster(28);
+constexpr int besidePicture = 2 * margin;
+constexpr int belowPicture = aboveButton + buttonHeight + margin;
+static_assert(naturalDiagramWidth == pictureWidth + besidePicture);
+static_assert(naturalDiagramHeight == pictureHeight + 2 * margin + belowPicture);
+
+} // namespace
+
+DiagramLayout diagramLayout(int width, int height, int dpi) {
+    const auto px = [dpi](int twips) { return pixelsOf(twips, dpi); };
+    const int room = std::max(0, width - px(besidePicture));
+    const int high = std::max(0, height - px(2 * margin + belowPicture));
+    DiagramLayout layout{};
+    layout.pictureDpi = std::max(1, std::min(dpiFor(room, pictureWidth), dpiFor(high, pictureHeight)));
+    const int across = pixelsOf(pictureWidth, layout.pictureDpi);
+    const int down = pixelsOf(pictureHeight, layout.pictureDpi);
+    layout.picture = {(width - across) / 2, px(margin) + (high - down) / 2, across, down};
+    layout.plotButton = {px(margin), height - px(margin + buttonHeight), px(buttonWidth), px(buttonHeight)};
+    return layout;
+}
+
+Area leastDiagramArea(int dpi) {
+    return {0, 0, pixelsOf(pictureWidth / 2 + besidePicture, dpi),
+            pixelsOf(pictureHeight / 2 + 2 * margin + belowPicture, dpi)};
+}
+
+} // namespace varno

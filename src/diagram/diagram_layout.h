@@ -1,0 +1,24 @@
+#pragma once
+
+#include "controls/control_spec.h"
+#include "drawing/area.h"
+
+namespace varno {
+
+/// Where the parts of the window "Momentdiagram" stand in its client area.
+struct DiagramLayout {
+    Area picture;
+    Area plotButton;
+    int pictureDpi; ///< pixels to the inch of the picture area: its scale
+};
+
+/// The picture takes all of the window that its proportions let it, in the middle of its room; the button stands below.
+DiagramLayout diagramLayout(int width, int height, int dpi);
+
+/// The client area in which the picture has its own scale, twips.
+inline constexpr int naturalDiagramWidth = raster(660);
+inline constexpr int naturalDiagramHeight = raster(380);
+/// The smallest one: the picture at half its scale.
+Area leastDiagramArea(int dpi);
+
+} // namespace varno
