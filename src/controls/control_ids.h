@@ -86,6 +86,8 @@ enum DialogId : int {
     idPosition, ///< the hidden label with the place of the file in its list
     idPlot = 601,
     idDiagramPicture,
+    idDiagramReading,
+    idDiagramAge,
     idLineLoadSpin = 701,
     idLineLoadField = 710, ///< + 10 * LineLoadBox + row
 };

@@ -77,10 +77,7 @@ void ResultViewerWindow::setFont(const std::string& face) {
 }
 
 void ResultViewerWindow::show() {
-    if (!placed_) {
-        sizeAndCentre(width, height, GetWindow(handle(), GW_OWNER));
-        placed_ = true;
-    }
+    stand(width, height, GetWindow(handle(), GW_OWNER));
     ShowWindow(handle(), SW_SHOW);
     SetForegroundWindow(handle());
     SetFocus(item(idFileTextBox));

@@ -49,7 +49,6 @@ class ResultViewerWindow : public win32::FormWindow, public ResultReaderView {
     int points_ = ResultReader::normalPoints;
     std::string face_ = "Courier New";
     win32::UniqueFont textFont_;
-    bool placed_ = false;
 };
 
 } // namespace varno
