@@ -1,5 +1,6 @@
 @echo off
-rem Builds the program and starts it in build\work. Needs on the PATH: CMake, Ninja and a 32-bit MinGW-w64.
+rem Builds the program and starts it in build\work. Needs on the PATH: CMake, Ninja and a 32-bit MinGW-w64, and for the
+rem help Halibut and Python 3.
 setlocal
 cd /d "%~dp0"
 cmake --preset windows-host
@@ -15,6 +16,8 @@ for /r build\windows %%f in (varno*.exe) do (
 )
 if not exist "%work%\varno.exe" exit /b 1
 if not exist "%work%\varnowb.exe" exit /b 1
+for %%f in (Varno.HLP Varno.cnt) do copy /y "build\windows\help\%%f" "%work%\" >nul
+xcopy /e /i /y /q build\windows\help\html "%work%\help" >nul
 rem A case that already lies in the work folder is the user's own.
 for %%f in (samples\*.IND samples\varno.def) do (
     if not exist "%work%\%%~nxf" copy "%%f" "%work%\" >nul

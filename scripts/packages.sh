@@ -16,6 +16,12 @@ test_packages=(
     googletest
     nlohmann-json3-dev
     libcli11-dev
+    parallel
+)
+
+# For varno-setup.exe, the installer.
+setup_packages=(
+    nsis
 )
 
 # For the benchmarks (preset native-release).

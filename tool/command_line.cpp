@@ -6,6 +6,7 @@
 
 #include "base/error_words.h"
 #include "tool/command_table.h"
+#include "tool/manual.h"
 #include "tool/nearest.h"
 #include "tool/standard_input.h"
 
@@ -33,6 +34,13 @@ std::string footerOf(const CommandRow& row) {
     for (const Example& example : row.examples)
         text += std::string("\n  ") + example.line + "\n      " + example.does;
     return text + "\n";
+}
+
+std::string footerOfAll() {
+    std::string text = std::string(standardInputRemark) + "\n\nSlutkoder:";
+    for (std::size_t code = 0; code < exitCodeTexts.size(); ++code)
+        text += "\n  " + std::to_string(code) + "  " + exitCodeTexts[code];
+    return text + "\n  " + std::to_string(interrupted) + "  " + interruptedText + "\n";
 }
 
 CLI::Option* addParameter(CLI::App& command, const Parameter& parameter, Request& request) {
@@ -88,6 +96,11 @@ std::string complaintOf(const CLI::ParseError& error, const CLI::App& app) {
                (rest.front().starts_with('-') ? suggestion(rest.front(), names) : ".");
     }
     if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) return missing(*chosen.front());
+    for (const CLI::Option* option : chosen.front()->get_options()) {
+        if (dynamic_cast<const CLI::ConversionError*>(&error) != nullptr &&
+            std::string_view(error.what()).find(option->get_name()) != std::string_view::npos)
+            return "valet " + option->get_name() + " väntar ett tal.";
+    }
     // "--svg: 1 required UT missing"
     const std::string what = error.what();
     return "valet " + what.substr(0, what.find(':')) + " väntar ett värde.";
@@ -101,11 +114,18 @@ int tellUsage(const std::string& complaint, const CLI::App& app, std::ostream& e
     return wrongUsage;
 }
 
+// An option that prints a text and nothing else.
+void addPrinting(CLI::App& app, const char* name, const char* description, std::string (*text)()) {
+    app.add_flag_callback(
+           name, [text] { throw CLI::CallForVersion(text(), 0); }, description)
+        ->group("Val");
+}
+
 int runCommand(const CommandRow& command, const Request& request, const Machine& machine) {
     WithStandardInput calls(machine.files, machine.in);
     ConsoleBoxes boxes(machine.err);
     FileOpener opener(calls, boxes);
-    return command.run({opener, machine.out, machine.err}, request);
+    return command.run({opener, machine.out, machine.err, machine.engines, machine.terminal}, request);
 }
 
 } // namespace
@@ -113,9 +133,11 @@ int runCommand(const CommandRow& command, const Request& request, const Machine&
 int runTool(const std::vector<std::string>& arguments, const Machine& machine) {
     CLI::App app(toolDescription, "varnotool");
     speakSwedish(app);
-    app.set_version_flag("--version", std::string("varnotool " VARNO_VERSION "\n"), "Visar versionen");
-    app.get_option("--version")->group("Val");
-    app.footer(standardInputRemark);
+    addPrinting(app, "--version", "Visar versionen",
+                [] { return std::string("varnotool " VARNO_VERSION "\n"); });
+    addPrinting(app, "--manual", "Skriver manualsidan för man", manualPage);
+    addPrinting(app, "--bash-completion", "Skriver kompletteringen för bash", bashCompletion);
+    app.footer(footerOfAll());
     app.require_subcommand(1);
     Request request;
     const CommandRow* chosen = nullptr;

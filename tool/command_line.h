@@ -6,6 +6,7 @@
 
 #include "base/file_calls.h"
 #include "base/run_time_error.h"
+#include "tool/engine_host.h"
 
 namespace varno::tool {
 
@@ -15,6 +16,8 @@ struct Machine {
     std::istream& in;
     std::ostream& out;
     std::ostream& err;
+    EngineHost& engines;
+    bool terminal = false; ///< `err` is one
 };
 
 /// Runs varnotool with these arguments (UTF-8, without the program's name) and gives its exit code (`ExitCode`).

@@ -18,6 +18,14 @@ std::string eitherListOrSvg(const Request& request) {
     return request.list != request.target.empty() ? "ange antingen --list eller --svg UT." : "";
 }
 
+std::string runComplaint(const Request& request) {
+    if (request.jobs < 0) return "valet --jobs väntar ett antal, 1 eller fler.";
+    // A time beyond this does not fit the clock.
+    constexpr double longest = 1e9;
+    return request.timeout >= 0 && request.timeout <= longest ? ""
+                                                              : "valet --timeout väntar ett antal sekunder.";
+}
+
 std::vector<CommandRow> makeTable() {
     const auto file = argument("FIL", &Request::file, "Filen som läses");
     const auto files = argument("FIL", &Request::files, "Filerna som läses");
@@ -60,12 +68,47 @@ std::vector<CommandRow> makeTable() {
                        "HUS1 med en annan spännvidd i fack 2"}},
          .remark = "Motsatsen till json, i båda dess former. Fält som inte finns nekas. Ett fall utan eget "
                    "namn får filens."},
+        {.name = "run",
+         .description = "Beräknar fall utan fönster, vart och ett i en egen mapp",
+         .run = runCases,
+         .parameters = {files,
+                        {.name = "--engine",
+                         .stored = &Request::engine,
+                         .description = "Beräkningsmotorn, med sina argument",
+                         .value = "KOMMANDO",
+                         .required = true},
+                        option("--jobs", "N", &Request::jobs,
+                               "Beräkningar på en gång, annars så många som datorn har kärnor"),
+                        option("--out", "MAPP", &Request::folder,
+                               "Mappen för fallens mappar, annars den Du står i"),
+                        option("--timeout", "S", &Request::timeout,
+                               "Sekunder som ett fall får ta, annars hur länge som helst")},
+         .examples = {{"varnotool run *.IND --engine ./varnowb --out resultat", "alla fall i mappen"},
+                      {"varnotool run HUS1.IND --engine \"wine varnowb.exe\" --timeout 60",
+                       "med en motor för Windows, en minut"}},
+         .remark = "Resultatet av HUS1.IND står i mappen HUS1. Ett fall som redan är beräknat, med samma "
+                   "indata, beräknas inte igen; ett som misslyckas lämnar mappen HUS1.fel och beräknas när "
+                   "kommandot körs nästa gång. Ctrl+C avslutar motorerna och lämnar inga halva resultat.",
+         .complaint = runComplaint},
         {.name = "rewrite",
          .description = "Läser en indatafil och skriver den igen",
          .run = rewriteCase,
          .parameters = {argument("IN", &Request::file, "Filen som läses"),
                         argument("UT", &Request::target, "Filen som skrivs, gärna samma")},
          .examples = {{"varnotool rewrite HUS1.IND HUS1.IND", "filen i den form som programmet ger den"}}},
+        {.name = "report",
+         .description = "Skriver en HTML-sida med indata, skiss, moment och resultat",
+         .run = printHtmlReport,
+         .parameters = {file,
+                        option("--out", "UT", &Request::target,
+                               "Sidan som skrivs, i stället för standard ut"),
+                        option("--result", "RES", &Request::result,
+                               "Resultatfilen, i stället för den bredvid indatafilen"),
+                        option("--moments", "MOMK", &Request::moments,
+                               "Filen med momentkurvorna, i stället för momk.dat bredvid indatafilen")},
+         .examples = {{"varnotool report HUS1.IND --out HUS1.html", "en sida att skriva ut eller skicka"}},
+         .remark = "Sidan behöver inga andra filer. Det som saknas, eller är äldre än indata, står överst på "
+                   "den."},
         {.name = "moments",
          .description = "Skriver momentkurvorna som CSV",
          .run = printMoments,

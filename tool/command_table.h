@@ -12,7 +12,8 @@
 
 namespace varno::tool {
 
-using Stored = std::variant<std::string Request::*, std::vector<std::string> Request::*, bool Request::*>;
+using Stored = std::variant<std::string Request::*, std::vector<std::string> Request::*, bool Request::*,
+                            int Request::*, double Request::*>;
 
 /// An argument, or an option when its name begins with a hyphen. Texts are Swedish.
 struct Parameter {
@@ -51,7 +52,10 @@ inline constexpr std::array exitCodeTexts{
     "klart",
     "ett fel, som står på felutmatningen",
     "fel användning",
-    "klart, men det finns något att se efter: kontrollen fann något, eller fallen skiljer sig åt",
+    "klart, men det finns något att se efter: kontrollen fann något, fallen skiljer sig åt eller en "
+    "beräkning "
+    "misslyckades",
 };
+inline constexpr const char* interruptedText = "avbrutet med Ctrl+C";
 
 } // namespace varno::tool

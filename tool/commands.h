@@ -7,6 +7,7 @@
 #include "base/message_boxes.h"
 #include "base/open_file.h"
 #include "model/design_input_file.h"
+#include "tool/engine_host.h"
 #include "tool/request.h"
 
 namespace varno::tool {
@@ -16,7 +17,9 @@ enum ExitCode {
     done = 0,
     runTimeError = 1, ///< told on the error stream
     wrongUsage = 2,   ///< explained on the error stream
-    found = 3,        ///< done, and there is something to see to: `check` found something, two cases differ
+    found = 3, ///< done, and there is something to see to: `check` found something, two cases differ, a
+               ///< calculation failed
+    interrupted = 130, ///< ended by Ctrl+C, as shells count it
 };
 
 /// The arguments make no sense. The text is Swedish, names the argument.
@@ -42,11 +45,13 @@ class ConsoleBoxes : public MessageBoxes {
     std::ostream& err_;
 };
 
-/// What a command reads with and prints on: UTF-8 with LF.
+/// What a command reads with, prints on (UTF-8 with LF) and calculates with.
 struct Session {
     FileOpener& opener;
     std::ostream& out;
     std::ostream& err;
+    EngineHost& host;
+    bool terminal; ///< somebody watches the error stream
 };
 
 /// \throws RunTimeError 52 for a file that did not open, and what the readers, the sketch and the diagram raise. A list
@@ -64,12 +69,16 @@ Command printResult;
 Command printPages;
 /// The case as a person would like to read it.
 Command printReport;
+/// A case with its sketch, its moments and its result as an HTML page.
+Command printHtmlReport;
 /// What the program tells of a file when it is opened, and what is implausible in it.
 Command checkCases;
 /// The inputs in which two cases differ; of one case, all of them.
 Command compareCases;
 /// The curves of a moment curve file as comma-separated values.
 Command printMoments;
+/// Calculates cases without windows, each in a folder of its own.
+Command runCases;
 /// A full refresh of the sketch: surfaces "strip" and "load".
 Command drawSketch;
 /// The curves of a moment curve file along the slab of a case: surface "diagram".

@@ -18,6 +18,8 @@
 #include <memory>
 
 #include "win32/strings.h"
+#else
+#include <unistd.h>
 #endif
 
 namespace {
@@ -60,10 +62,18 @@ class Utf8Streams {
     const UINT codePageBefore_ = GetConsoleOutputCP();
 };
 
+bool errorsAreWatched() {
+    return _isatty(_fileno(stderr)) != 0;
+}
+
 #else
 
 std::vector<std::string> utf8Arguments(int count, char** values) {
     return count > 0 ? std::vector<std::string>(values + 1, values + count) : std::vector<std::string>();
+}
+
+bool errorsAreWatched() {
+    return ::isatty(STDERR_FILENO) != 0;
 }
 
 // What is read and written passes as it is.
@@ -78,7 +88,8 @@ int main(int argc, char** argv) {
     try {
         [[maybe_unused]] const Utf8Streams streams{};
         const int code =
-            tool::runTool(utf8Arguments(argc, argv), {systemFileCalls(), std::cin, std::cout, std::cerr});
+            tool::runTool(utf8Arguments(argc, argv), {systemFileCalls(), std::cin, std::cout, std::cerr,
+                                                      tool::systemEngines(), errorsAreWatched()});
         // Output that did not arrive (a full disk, a closed pipe) is not a success.
         if (!std::cout.flush()) throw RunTimeError(errDeviceIo);
         return code;

@@ -13,15 +13,21 @@ std::string fullPath(const std::string& path) {
     return full.empty() ? path : narrow(full);
 }
 
-std::vector<std::string> filesOnCommandLine() {
-    std::vector<std::string> files;
+CommandLine commandLine() {
+    CommandLine line;
     int count = 0;
     LPWSTR* const words = CommandLineToArgvW(GetCommandLineW(), &count);
     // The first is the program.
-    for (int i = 1; words != nullptr && i < count; ++i)
-        files.push_back(fullPath(narrow(words[i])));
+    int i = 1;
+    if (words != nullptr && count > 2 &&
+        CompareStringOrdinal(words[1], -1, L"/work", -1, TRUE) == CSTR_EQUAL) {
+        line.folder = fullPath(narrow(words[2]));
+        i = 3;
+    }
+    for (; words != nullptr && i < count; ++i)
+        line.files.push_back(fullPath(narrow(words[i])));
     LocalFree(words);
-    return files;
+    return line;
 }
 
 std::vector<std::string> filesDropped(HDROP drop) {

@@ -11,8 +11,14 @@ namespace varno::win32 {
 
 /// A path as it is from the process's current directory.
 std::string fullPath(const std::string& path);
-/// The files that the program was started with, as full paths.
-std::vector<std::string> filesOnCommandLine();
+/// What the program was started with: [/work FOLDER] [FILE...].
+struct CommandLine {
+    /// The folder to be started in, where the settings lie. A double click on a case starts a program in the folder of the
+    /// case. Empty: where it is.
+    std::string folder;
+    std::vector<std::string> files; ///< full paths, from where it was started
+};
+CommandLine commandLine();
 /// The files of a drop, which is over then.
 std::vector<std::string> filesDropped(HDROP drop);
 /// Windows' own list of what was used last.

@@ -7,6 +7,7 @@
 #include "support/case_files.h"
 #include "support/memory_files.h"
 #include "tool/command_table.h"
+#include "tool/fake_engines.h"
 #include "tool/told.h"
 
 namespace varno {
@@ -20,13 +21,14 @@ class CommandLine : public ::testing::Test {
     int run(const std::vector<std::string>& arguments) {
         out.str("");
         err.str("");
-        return tool::runTool(arguments, {files, in, out, err});
+        return tool::runTool(arguments, {files, in, out, err, engines});
     }
 
     testing::MemoryFiles files;
     std::istringstream in;
     std::ostringstream out;
     std::ostringstream err;
+    testing::FakeEngines engines;
 };
 
 TEST_F(CommandLine, RunsItsCommands) {

@@ -6,6 +6,7 @@
 
 #include "support/case_files.h"
 #include "support/memory_files.h"
+#include "tool/fake_engines.h"
 
 namespace varno {
 
@@ -20,7 +21,8 @@ class Commands : public ::testing::Test {
     std::ostringstream err;
     tool::ConsoleBoxes boxes{err};
     FileOpener opener{files, boxes};
-    tool::Session session{opener, out, err};
+    testing::FakeEngines engines;
+    tool::Session session{opener, out, err, engines, false};
 };
 
 TEST_F(Commands, LoadACaseOverThePresets) {

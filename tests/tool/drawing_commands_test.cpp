@@ -1,4 +1,5 @@
 #include "tool/command_line.h"
+#include "tool/fake_engines.h"
 #include "tool/told.h"
 
 #include <gtest/gtest.h>
@@ -42,7 +43,7 @@ class DrawingCommands : public ::testing::Test {
     int run(const std::vector<std::string>& arguments) {
         out.str("");
         err.str("");
-        return tool::runTool(arguments, {files, nothing, out, err});
+        return tool::runTool(arguments, {files, nothing, out, err, engines});
     }
     std::vector<std::string> listed() const {
         std::vector<std::string> lines;
@@ -56,6 +57,7 @@ class DrawingCommands : public ::testing::Test {
     std::istringstream nothing;
     std::ostringstream out;
     std::ostringstream err;
+    testing::FakeEngines engines;
 };
 
 TEST_F(DrawingCommands, ListTheSketchInDrawingOrder) {

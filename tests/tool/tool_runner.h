@@ -7,6 +7,7 @@
 #include "support/case_files.h"
 #include "support/memory_files.h"
 #include "tool/command_line.h"
+#include "tool/fake_engines.h"
 
 namespace varno::testing {
 
@@ -17,7 +18,7 @@ class ToolRunner : public ::testing::Test {
         std::istringstream in(standardInput);
         out.str("");
         err.str("");
-        return tool::runTool(arguments, {files, in, out, err});
+        return tool::runTool(arguments, {files, in, out, err, engines});
     }
     /// Puts the sample case, changed, on the disk.
     template <typename Change>
@@ -30,6 +31,7 @@ class ToolRunner : public ::testing::Test {
     MemoryFiles files;
     std::ostringstream out;
     std::ostringstream err;
+    FakeEngines engines;
 };
 
 } // namespace varno::testing

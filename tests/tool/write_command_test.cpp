@@ -126,6 +126,7 @@ TEST_F(WriteCommand, RefusesWhatAFileCannotHold) {
                                                       "En indatafil kan inte hålla det. Ingen fil skrevs.\n");
     EXPECT_EQ(refusal(R"({"rubrik": "Hus, 4"})"),
               "Rubrik: \"Hus, 4\" blir \"Hus\"\nEn indatafil kan inte hålla det. Ingen fil skrevs.\n");
+    EXPECT_TRUE(refusal(R"({"rubrik": "två\nrader"})").starts_with("Rubrik: \"två\nrader\" blir \"två\"\n"));
     EXPECT_EQ(refusal(R"({"rubrik": "π"})"),
               "Rubrik: \"π\" blir \"?\"\nEn indatafil kan inte hålla det. Ingen fil skrevs.\n");
 }

@@ -81,6 +81,14 @@ Program::Program(const StartOptions& options) {
     if (WaitForInputIdle(process(), patience) == 0 && running()) prepareForCalls(process());
 }
 
+Program::Program(DWORD process) : process_(OpenProcess(PROCESS_ALL_ACCESS, FALSE, process)), id_(process) {
+    if (!process_) throw GuiError("the program does not run");
+    if (!until([&] { return !visibleWindows(this->process()).empty(); }))
+        throw GuiError("the program shows nothing");
+    thread_ = GetWindowThreadProcessId(visibleWindows(this->process()).front().handle(), nullptr);
+    prepareForCalls(this->process());
+}
+
 Program::~Program() {
     if (running()) TerminateProcess(process(), 99);
     WaitForSingleObject(process(), patience);

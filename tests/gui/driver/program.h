@@ -77,6 +77,8 @@ class Program {
   public:
     explicit Program(const Scene& scene, const StartOptions& options = {});
     explicit Program(const StartOptions& options);
+    /// One that was started in another way and shows a window. \param process its ID
+    explicit Program(DWORD process);
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
