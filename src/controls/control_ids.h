@@ -43,7 +43,7 @@ enum MainPartId : int {
     idStatusFolder,
     idStatusLength,
     idStatusResult,
-    idStatusReason, ///< over all of the line
+    idStatusReason,         ///< over all of the line
     idFlag = 3100,          ///< + 0..6
     idSupportButton = 3200, ///< `stod`, + 0..15
     idFirstMdiChild = 3300,
@@ -71,6 +71,12 @@ enum DialogId : int {
     idNote,
     idFileTextBox = 301,
     idReturn, ///< "Återgå"
+    idFindLabel,
+    idFindWord,
+    idFindPrevious,
+    idFindNext,
+    idFindNote,
+    idResultAge, ///< which file is shown, and how old it is
     idInstalledFonts = 401,
     idStoredFont,
     idCurrentFont,
@@ -80,6 +86,8 @@ enum DialogId : int {
     idPosition, ///< the hidden label with the place of the file in its list
     idPlot = 601,
     idDiagramPicture,
+    idDiagramReading,
+    idDiagramAge,
     idLineLoadSpin = 701,
     idLineLoadField = 710, ///< + 10 * LineLoadBox + row
 };

@@ -10,7 +10,25 @@ void DiagramCommands::moment() {
     diagram_.measure(measured);
     measured.close();
     pass([this](File& file) { diagram_.draw(file, view_.picture()); });
+    File numbers = files_.openFile(momentFileName, FileMode::input);
+    reading_ = diagram_.read(numbers);
+    numbers.close();
+    shown_ = shownResult(files_.calls(), document_.currentFileName, momentFileName);
+    showTexts();
     view_.show();
+}
+
+void DiagramCommands::pointedAt(std::optional<double> x) {
+    view_.showReading(x ? reading_.at(*x, locale_) : std::string());
+}
+
+void DiagramCommands::toggleValues() {
+    valuesShown_ = !valuesShown_;
+    showTexts();
+}
+
+void DiagramCommands::showTexts() {
+    view_.setTexts(valuesShown_ ? reading_.peaks(locale_) : std::vector<PictureText>());
 }
 
 void DiagramCommands::plot() {

@@ -14,6 +14,7 @@ constexpr int pictureHeight = static_cast<int>(diagramHeight);
 constexpr int aboveButton = raster(2);
 constexpr int buttonWidth = raster(150);
 constexpr int buttonHeight = raster(28);
+constexpr int textLine = raster(16);
 constexpr int besidePicture = 2 * margin;
 constexpr int belowPicture = aboveButton + buttonHeight + margin;
 static_assert(naturalDiagramWidth == pictureWidth + besidePicture);
@@ -31,6 +32,11 @@ DiagramLayout diagramLayout(int width, int height, int dpi) {
     const int down = pixelsOf(pictureHeight, layout.pictureDpi);
     layout.picture = {(width - across) / 2, px(margin) + (high - down) / 2, across, down};
     layout.plotButton = {px(margin), height - px(margin + buttonHeight), px(buttonWidth), px(buttonHeight)};
+    const int beside = layout.plotButton.right() + px(margin);
+    const int line = px(textLine);
+    const int lineWidth = std::max(0, width - px(margin) - beside);
+    layout.reading = {beside, layout.plotButton.y - px(aboveButton), lineWidth, line};
+    layout.age = {beside, layout.reading.bottom(), lineWidth, line};
     return layout;
 }
 

@@ -9,6 +9,8 @@ namespace varno {
 struct DiagramLayout {
     Area picture;
     Area plotButton;
+    Area reading;   ///< the line about the place that is pointed at
+    Area age;       ///< below it: how old the curves are
     int pictureDpi; ///< pixels to the inch of the picture area: its scale
 };
 

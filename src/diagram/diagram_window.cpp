@@ -4,6 +4,9 @@
 
 #include "controls/control_ids.h"
 #include "diagram/diagram_layout.h"
+#include "win32/picture_files.h"
+#include "win32/popup_menu.h"
+#include "win32/strings.h"
 
 namespace varno {
 
@@ -11,6 +14,8 @@ namespace {
 
 constexpr std::array controls{
     ControlSpec{idPlot, ControlKind::defaultButton, "Plotta på skrivare", 0, 0, 0, 0},
+    inRaster(idDiagramReading, ControlKind::label, "", 0, 0, 100, 16),
+    inRaster(idDiagramAge, ControlKind::label, "", 0, 0, 100, 16),
 };
 
 void put(HWND window, const Area& area) {
@@ -25,6 +30,7 @@ DiagramWindow::DiagramWindow(win32::WindowHost& host, HWND owner) : FormWindow(h
     create(L"VarnoMomkurva", "Momentdiagram", win32::growingWindow | WS_CLIPCHILDREN, 0, owner, bar, {});
     addControls(controls);
     picture_.create(handle(), idDiagramPicture, "Momentdiagram", drawing_);
+    picture_.listen(*this);
 }
 
 void DiagramWindow::layOut() {
@@ -34,18 +40,49 @@ void DiagramWindow::layOut() {
     const DiagramLayout layout = diagramLayout(client.right, client.bottom, dpi());
     put(picture_.handle(), layout.picture);
     put(item(idPlot), layout.plotButton);
+    put(item(idDiagramReading), layout.reading);
+    put(item(idDiagramAge), layout.age);
     // The lines stay as thin as they are at the picture's own scale.
     picture_.setScale(layout.pictureDpi, dpi());
 }
 
 void DiagramWindow::show() {
-    if (!placed_) {
-        placed_ = true;
-        sizeAndCentre(naturalDiagramWidth, naturalDiagramHeight, GetWindow(handle(), GW_OWNER));
-    }
+    stand(naturalDiagramWidth, naturalDiagramHeight, GetWindow(handle(), GW_OWNER));
     picture_.redraw();
     ShowWindow(handle(), SW_SHOW);
     SetForegroundWindow(handle());
+}
+
+void DiagramWindow::setLine(int id, const std::string& text) {
+    if (win32::textOf(item(id)) != text) win32::setText(item(id), text);
+}
+
+void DiagramWindow::copyPicture() {
+    win32::copyPicture(handle(), picture_.annotated(diagramWidth, diagramHeight));
+}
+
+void DiagramWindow::savePicture(const std::string& name) {
+    win32::savePicture(handle(), picture_.annotated(diagramWidth, diagramHeight), name, systemFileCalls());
+}
+
+void DiagramWindow::showMenu(POINT place) {
+    switch (win32::chooseFromMenu(handle(), place,
+                                  {{"Visa värden", commands_->valuesShown()},
+                                   {"-"},
+                                   {"Kopiera bild"},
+                                   {"Kopiera värden"},
+                                   {"Spara som bild..."}})) {
+    case 0:
+        return commands_->toggleValues();
+    case 2:
+        return commands_->copyPicture();
+    case 3:
+        return commands_->copyValues();
+    case 4:
+        return commands_->savePicture();
+    default:
+        return;
+    }
 }
 
 void DiagramWindow::onCommand(int id, int notification) {
@@ -66,6 +103,9 @@ LRESULT DiagramWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_SIZE:
         if (wParam != SIZE_MINIMIZED) layOut();
+        return 0;
+    case WM_CONTEXTMENU:
+        showMenu(win32::placeOfMenu(picture_.handle(), lParam));
         return 0;
     case WM_GETMINMAXINFO: {
         const Area least = leastDiagramArea(dpi());

@@ -8,10 +8,8 @@ namespace varno {
 
 namespace {
 
-constexpr double baseline = 2000;
-constexpr double highestCurve = 2000 - 100; // of the largest moment
+constexpr double baseline = momentBaseline;
 constexpr double slabEnd = slabStripStart + sketchLength;
-constexpr float shortestCantilever = 0.1f; // m; one this short is not drawn
 constexpr double intervals = 20; // of a span: the spacing of the neighbouring cantilever's ordinates
 
 constexpr const char* noMoments = "Alla moment i momk.dat är 0.\n"
@@ -20,7 +18,7 @@ constexpr const char* noMoments = "Alla moment i momk.dat är 0.\n"
 
 double scaleFor(float momentMax) {
     if (momentMax == 0) throw RunTimeError(errDivisionByZero, {.said = noMoments});
-    return highestCurve / momentMax;
+    return highestMoment / momentMax;
 }
 
 // The drawing pass over an open file.

@@ -3,15 +3,13 @@
 #include <functional>
 
 #include "base/file.h"
+#include "diagram/diagram_scale.h"
+#include "diagram/moment_reading.h"
 #include "drawing/canvas.h"
 #include "input/sketch.h"
 #include "model/design_case.h"
 
 namespace varno {
-
-// The picture area of the diagram, twips.
-inline constexpr double diagramWidth = 9600;
-inline constexpr double diagramHeight = 4800;
 
 /// The moment curves of the whole slab, at the horizontal scale of the sketch: the slab runs from x = 340 to
 /// x = 8740 on the base line y = 2000, the largest moment stands 1900 twips from it. Positive moments are
@@ -32,6 +30,10 @@ class MomentDiagram {
 
     /// The maximum pass, over both curves.
     void measure(File& file);
+    /// The numbers of the file, laid out as it is drawn. Scaled by the file last measured.
+    MomentReading read(File& file) const {
+        return {case_, readCurveValues(file), sketch_.sketchScale(), momentMax_};
+    }
     /// The drawing pass on the screen, which is cleared first. Scaled by the file last measured.
     void draw(File& file, Canvas& picture) const;
     /// The drawing pass on paper. `paper` is asked for when the first line is about to be drawn. The

@@ -54,6 +54,20 @@ std::string viewBox(Point corner, double width, double height) {
                      number(corner.x) + " " + number(corner.y) + " " + number(width) + " " + number(height));
 }
 
+std::string escaped(const std::string& words) {
+    std::string text;
+    for (const char letter : words) {
+        if (letter == '&') {
+            text += "&amp;";
+        } else if (letter == '<') {
+            text += "&lt;";
+        } else {
+            text += letter;
+        }
+    }
+    return text;
+}
+
 } // namespace
 
 void SvgCanvas::line(Point from, Point to, Colour colour, int width) {
@@ -72,6 +86,13 @@ void SvgCanvas::box(Point corner, Point opposite, Colour colour, Fill fill) {
 void SvgCanvas::disc(Point centre, double radius, Colour rim, Colour inside) {
     body_ += "<circle" + attribute("cx", number(centre.x)) + attribute("cy", number(centre.y)) +
              attribute("r", number(radius)) + attribute("fill", rgbText(inside)) + stroke(rim, 1) + "/>\n";
+}
+
+void SvgCanvas::text(Point baseline, const std::string& words) {
+    body_ += "<text" + attribute("x", number(baseline.x)) + attribute("y", number(baseline.y)) +
+             attribute("font-family", "Segoe UI, Arial, sans-serif") + attribute("font-size", number(textHeight)) +
+             attribute("text-anchor", "middle") + attribute("fill", "#000000") + attribute("stroke", "#ffffff") +
+             attribute("stroke-width", "40") + attribute("paint-order", "stroke") + ">" + escaped(words) + "</text>\n";
 }
 
 void SvgCanvas::openSurface(Point place, Point corner, double width, double height) {

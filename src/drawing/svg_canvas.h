@@ -18,6 +18,10 @@ class SvgCanvas : public Canvas {
     void box(Point corner, Point opposite, Colour colour, Fill fill = Fill::none) override;
     void disc(Point centre, double radius, Colour rim, Colour inside) override;
 
+    /// A word, its middle over the place, on a ground of its own colour so that lines do not run through it.
+    void text(Point baseline, const std::string& words);
+    static constexpr double textHeight = 180;
+
     /// What is drawn from here to `closeSurface` belongs to a surface of its own within the picture: of its
     /// drawing only what lies in the given area is seen, and the area's corner stands at `place`.
     void openSurface(Point place, Point corner, double width, double height);

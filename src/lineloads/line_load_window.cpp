@@ -139,12 +139,8 @@ void LineLoadWindow::returnTo(LineLoadControl control) {
 }
 
 void LineLoadWindow::show() {
-    if (!placed_) {
-        placed_ = true;
-        // Over the input form, so that the sketch above it stays in sight.
-        sizeAndCentre(raster(width), raster(heightOf(set_)),
-                      GetDlgItem(GetWindow(handle(), GW_OWNER), idMdiClient));
-    }
+    // Over the input form, so that the sketch above it stays in sight.
+    stand(raster(width), raster(heightOf(set_)), GetDlgItem(GetWindow(handle(), GW_OWNER), idMdiClient));
     ShowWindow(handle(), SW_SHOW);
     SetForegroundWindow(handle());
 }

@@ -35,7 +35,6 @@ class LineLoadWindow : public win32::FormWindow, public LineLoadView {
 
     const LineLoadSet& set_;
     LineLoadEditor* rules_ = nullptr;
-    bool placed_ = false;
 };
 
 } // namespace varno

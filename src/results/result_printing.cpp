@@ -27,10 +27,9 @@ void ResultPrinting::print(const std::string& path, const std::string* fontName)
     printer_.endDocument();
 }
 
-void ResultPrinting::printCurrent(const DocumentState& document, const std::string& resultFontName) {
+void ResultPrinting::printResult(const std::string& caseName, const std::string& resultFontName) {
     if (!printerThere(printer_, boxes_)) return;
-    showingMissingResult(boxes_, document.currentFileName,
-                         [&] { print(document.currentFileName + ".res", &resultFontName); });
+    showingMissingResult(boxes_, caseName, [&] { print(caseName + ".res", &resultFontName); });
 }
 
 void ResultPrinting::printChosen(const DocumentState& document) {

@@ -23,7 +23,11 @@ class ResultPrinting {
         : files_(files), boxes_(boxes), window_(window), printer_(printer), dialog_(dialog) {}
 
     /// "Resultat på skrivare": the result of the current case, in the result font.
-    void printCurrent(const DocumentState& document, const std::string& resultFontName);
+    void printCurrent(const DocumentState& document, const std::string& resultFontName) {
+        printResult(document.currentFileName, resultFontName);
+    }
+    /// The same of any case.
+    void printResult(const std::string& caseName, const std::string& resultFontName);
     /// "Skriv ut...": a result file that the user chooses. It is printed in whatever font the printer has.
     void printChosen(const DocumentState& document);
 

@@ -5,10 +5,24 @@
 
 namespace varno {
 
+ShownResult shownResult(FileCalls& calls, const std::string& caseName, const std::string& file) {
+    ShownResult shown{caseName, file, {}, false};
+    try {
+        shown.written = calls.lastWrittenText(file);
+        const std::string input = caseName + ".IND";
+        shown.inputIsNewer = calls.exists(input) && calls.lastWritten(input) > calls.lastWritten(file);
+    } catch (const RunTimeError&) {
+        // It is shown all the same.
+    }
+    return shown;
+}
+
 void showResultFile(FileOpener& files, ResultViewer& viewer, const std::string& caseName,
                     const std::string& fontName) {
     File file = files.openFile(caseName + ".res", FileMode::input);
-    viewer.setText(decodeWindows1252(VARNO1::readResultText(file)));
+    const std::string text = decodeWindows1252(VARNO1::readResultText(file));
+    viewer.setShown(shownResult(files.calls(), caseName, file.path()));
+    viewer.setText(text);
     file.close();
     viewer.setFont(fontName);
     viewer.show();

@@ -10,10 +10,21 @@
 
 namespace varno {
 
+/// A file of the engine that is shown, and the case that it belongs to.
+struct ShownResult {
+    std::string caseName;
+    std::string file;
+    std::string written;       ///< "2026-11-21 15:40:07"; empty when it cannot be told
+    bool inputIsNewer = false; ///< the case's file beside it was written after it
+};
+ShownResult shownResult(FileCalls& calls, const std::string& caseName, const std::string& file);
+
 /// The window "Utdata" with its text box.
 class ResultViewer {
   public:
     virtual ~ResultViewer() = default;
+    /// Which result comes.
+    virtual void setShown(const ShownResult& shown) = 0;
     virtual void setText(const std::string& text) = 0;
     /// The font face of the text box.
     virtual void setFont(const std::string& face) = 0;

@@ -9,7 +9,10 @@
 #include "shell/help_contexts.h"
 #include "win32/dpi.h"
 #include "win32/given_files.h"
+#include "win32/picture_files.h"
 #include "win32/popup_menu.h"
+#include "win32/screens.h"
+#include "win32/strings.h"
 #include "win32/user_locale.h"
 
 namespace varno {
@@ -37,6 +40,9 @@ Application::~Application() {
 }
 
 int Application::run(const std::vector<std::string>& given) {
+    const std::string own = rescueFolder();
+    recent_.start(own);
+    places_.start(own);
     try {
         startUp(settings_, document_, files_, main_, *this);
     } catch (const RunTimeError& error) {
@@ -57,9 +63,7 @@ void Application::offerLeftoversIn(const std::string& folder) {
 }
 
 void Application::offerRescued() {
-    const std::string own = rescueFolder();
-    recent_.start(own);
-    rescue_.start(own, rescueInstance());
+    rescue_.start(rescueFolder(), rescueInstance());
     rescueWindow_ = std::make_unique<RescueWindow>(*this, rescue_);
     guarded([&] { rescue_.offer(); });
 }
@@ -69,6 +73,11 @@ void Application::offerRescued() {
 bool Application::translate(MSG& message) {
     if (translateHelpKey(message) || translateStepKey(message) || translateRecentKey(message)) return true;
     const HWND root = GetAncestor(message.hwnd, GA_ROOT);
+    if (root == results_->viewer.handle()) {
+        bool taken = false;
+        guarded([&] { taken = results_->viewer.translateOwn(message); });
+        if (taken) return true;
+    }
     if (root != main_.handle()) return root != nullptr && IsDialogMessageW(root, &message);
     if (TranslateMDISysAccel(main_.mdiClient(), &message)) return true;
     const bool inForm = message.hwnd == form_.handle() || IsChild(form_.handle(), message.hwnd);
@@ -206,8 +215,18 @@ void Application::flagMenu(POINT place) {
 }
 
 void Application::loadPictureMenu(POINT place) {
-    if (win32::chooseFromMenu(main_.handle(), place, {{"Fria linjelaster"}}) == 0)
-        openLineLoads(freeLoads_, freeLineLoads);
+    switch (win32::chooseFromMenu(main_.handle(), place,
+                                  {{"Fria linjelaster"}, {"-"}, {"Kopiera bild"}, {"Spara som bild..."}})) {
+    case 0:
+        return openLineLoads(freeLoads_, freeLineLoads);
+    case 2:
+        return win32::copyPicture(main_.handle(), main_.loadPictureDrawn());
+    case 3:
+        return win32::savePicture(main_.handle(), main_.loadPictureDrawn(), state_.currentFileName + "-last",
+                                  systemFileCalls());
+    default:
+        return;
+    }
 }
 
 void Application::openButtonMenu(POINT place) {
@@ -252,6 +271,10 @@ void Application::statusDue() {
         status_.words({document_.changed(), fileDialog_.directory(), sketch_.totalLength(),
                        form_.lockedAt(pointer), main_.onGreyDiagram(pointer), static_cast<int>(doubts.size()),
                        main_.onStatusState(pointer) ? doubtsInOneLine(doubts) : form_.doubtAt(pointer)}));
+    if (IsWindowVisible(results_->viewer.handle()))
+        results_->viewer.setAge(status_.resultLine(results_->reader.shown()));
+    if (moments_ && IsWindowVisible(moments_->window.handle()))
+        moments_->window.setAge(status_.resultLine(moments_->commands.shown()));
 }
 
 void Application::clientResized(int width, int height) {
@@ -268,7 +291,7 @@ void Application::helpRequested(const HELPINFO& request) {
 
 void Application::calculate() {
     const auto before = lastResult();
-    CalculationRun(files_, boxes_, processes_, main_, results_->viewer)
+    CalculationRun(files_, boxes_, processes_, main_, results_->reader)
         .run(state_, settings_.workFolder, settings_.resultFontName);
     // A run that was refused, and an engine that failed, leave the result as it was.
     if (lastResult() != before) status_.calculated(rescueClock_.dateAndTime());
@@ -285,7 +308,7 @@ std::optional<std::int64_t> Application::lastResult() {
 }
 
 void Application::showResult() {
-    showResults(files_, boxes_, main_, results_->viewer, state_, settings_.resultFontName);
+    showResults(files_, boxes_, main_, results_->reader, state_, settings_.resultFontName);
 }
 
 void Application::showImportant() {
@@ -340,9 +363,34 @@ SaveAnswer Application::askToSave(const std::string& caption, const std::string&
 }
 
 void Application::endProgram() {
+    keepPlaces();
     rescue_.giveUp();
     ended_ = true;
     PostQuitMessage(0);
+}
+
+std::optional<WindowPlace> Application::keptPlace(const std::string& windowClass) {
+    std::optional<WindowPlace> place = places_.of(windowClass);
+    if (!place) return std::nullopt;
+    const std::optional<Area> area = placeOnScreens(*place, win32::screens());
+    if (!area) return std::nullopt;
+    place->area = *area;
+    return place;
+}
+
+void Application::keepPlaces() {
+    const auto keep = [this](HWND window, int dpi) {
+        places_.keep(win32::classOf(window), win32::placeOf(window, dpi));
+    };
+    keep(main_.handle(), main_.dpi());
+    std::vector<const win32::FormWindow*> others{&results_->viewer};
+    if (moments_) others.push_back(&moments_->window);
+    if (lineLoads_) others.push_back(&lineLoads_->window);
+    if (freeLoads_) others.push_back(&freeLoads_->window);
+    for (const win32::FormWindow* window : others) {
+        if (window->stands()) keep(window->handle(), window->dpi());
+    }
+    places_.save();
 }
 
 // Start-up

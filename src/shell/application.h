@@ -27,6 +27,7 @@
 #include "shell/rescue_window.h"
 #include "shell/start_up.h"
 #include "shell/status_line.h"
+#include "shell/window_places.h"
 #include "win32/crash_guard.h"
 #include "win32/gdi_printer.h"
 #include "win32/help.h"
@@ -53,6 +54,7 @@ class Application : public win32::WindowHost,
     // win32::WindowHost
     void report(const RunTimeError& error) override { boxes_.report(error); }
     bool translate(MSG& message) override;
+    std::optional<WindowPlace> keptPlace(const std::string& windowClass) override;
 
     // MainEvents
     void command(int id) override;
@@ -115,19 +117,21 @@ class Application : public win32::WindowHost,
     struct Results {
         explicit Results(Application& app)
             : viewer(app, app.main_.handle()), chooser(app, viewer.handle()),
+              reader(viewer, app.printing_, app.settings_.resultFontName),
               fonts(app.settings_.resultFontName, app.files_, app.printer_, app.fileDialog_, viewer,
                     chooser) {
-            viewer.listen(fonts);
+            viewer.listen(fonts, reader);
             chooser.listen(fonts);
         }
         ResultViewerWindow viewer;
         FontChooserWindow chooser;
+        ResultReader reader;
         FontChoice fonts;
     };
     struct Moments {
         explicit Moments(Application& app)
-            : window(app, app.main_.handle()),
-              commands(app.diagram_, app.files_, app.boxes_, app.main_, app.printer_, window) {
+            : window(app, app.main_.handle()), commands(app.diagram_, app.state_, app.locale_, app.files_,
+                                                        app.boxes_, app.main_, app.printer_, window) {
             window.listen(commands);
         }
         DiagramWindow window;
@@ -145,6 +149,7 @@ class Application : public win32::WindowHost,
     };
     void openLineLoads(std::unique_ptr<LineLoads>& editor, const LineLoadSet& set);
     void offerRescued();
+    void keepPlaces();
 
     NumberLocale locale_;
     DesignCase case_;
@@ -163,6 +168,7 @@ class Application : public win32::WindowHost,
     FileDialog fileDialog_;
     Leftovers leftovers_;
     RecentCases recent_{systemFileCalls()};
+    WindowPlaces places_{systemFileCalls()};
 
     MainWindow main_;
     MainTips tips_;

@@ -136,8 +136,10 @@ void MainWindow::show() {
         const LONG height = std::min(size.cy, work.bottom - work.top);
         win32::setPlace(handle(), work.left + (work.right - work.left - width) / 2,
                         work.top + (work.bottom - work.top - height) / 2, width, height);
+        const auto kept = host().keptPlace(win32::classOf(handle()));
+        if (kept) put(handle(), kept->area);
         layOut();
-        ShowWindow(handle(), SW_SHOW);
+        ShowWindow(handle(), kept && kept->maximized ? SW_SHOWMAXIMIZED : SW_SHOW);
         UpdateWindow(handle());
         return;
     }
@@ -376,7 +378,7 @@ LRESULT MainWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_ACTIVATE:
         return onActivate(wParam, lParam);
     case WM_DPICHANGED:
-        setDpi(win32::dpiOf(handle()));
+        setDpi(HIWORD(wParam));
         events_->dpiChanged(dpi_);
         win32::setPlace(handle(), *reinterpret_cast<const RECT*>(lParam));
         layOut();

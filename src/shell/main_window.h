@@ -70,6 +70,9 @@ class MainWindow : public win32::Window, public MainView {
     /// The flag that is shown: what stands beside the form for Tab.
     HWND flagButton() const { return GetDlgItem(handle(), idFlag + flag_); }
     HWND loadPicture() const { return loadPicture_.handle(); }
+    AnnotatedPicture loadPictureDrawn() const {
+        return loadPicture_.annotated(loadPictureWidth, loadPictureHeight);
+    }
     /// Below the toolbar button "Öppna...", on the screen.
     POINT belowOpenButton() const;
     void showStatus(const StatusWords& words);

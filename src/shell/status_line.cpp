@@ -1,5 +1,6 @@
 #include "shell/status_line.h"
 
+#include "base/text.h"
 #include "controls/rule_sets.h"
 #include "input/field_table.h"
 
@@ -35,6 +36,22 @@ void StatusLine::calculated(const std::string& when) {
     calculated_ = Calculated{when.substr(0, toTheMinute), calculatedPart(case_)};
 }
 
+void StatusLine::opened() {
+    calculated_.reset();
+    opened_ = calculatedPart(case_);
+}
+
+std::string StatusLine::resultLine(const ShownResult& shown) const {
+    constexpr std::size_t toTheMinute = 16;
+    std::string line = shown.file;
+    if (!shown.written.empty()) line += ", beräknad " + shown.written.substr(0, toTheMinute);
+    if (shown.caseName != document_.currentFileName)
+        return line + ". Nu är " + upperCase(document_.currentFileName) + ".IND öppet.";
+    // Of a result that was there before only the files tell what it was calculated from.
+    const bool old = resultIsOld() || (!calculated_ && (shown.inputIsNewer || document_.dataChanged));
+    return line + (old ? ", äldre än indata" : "");
+}
+
 StatusWords StatusLine::words(const StatusFacts& facts) const {
     StatusWords words;
     words.state = state(facts.changed);
@@ -58,7 +75,7 @@ std::string StatusLine::state(bool changed) const {
 }
 
 bool StatusLine::resultIsOld() const {
-    return calculatedPart(case_) != calculated_->from;
+    return calculatedPart(case_) != (calculated_ ? calculated_->from : opened_);
 }
 
 std::string StatusLine::result() const {

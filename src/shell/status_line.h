@@ -6,6 +6,7 @@
 #include "base/numbers.h"
 #include "controls/field.h"
 #include "model/design_case.h"
+#include "results/result_viewer.h"
 
 namespace varno {
 
@@ -40,9 +41,11 @@ class StatusLine {
     /// The case was calculated. \param when "2026-11-21 15:40:07"
     void calculated(const std::string& when);
     /// Another case is open; nothing is known of its result.
-    void opened() { calculated_.reset(); }
+    void opened();
 
     StatusWords words(const StatusFacts& facts) const;
+    /// Which file a window shows, when it was calculated, and whether it is older than the input.
+    std::string resultLine(const ShownResult& shown) const;
 
   private:
     struct Calculated {
@@ -59,6 +62,7 @@ class StatusLine {
     const DocumentState& document_;
     const NumberLocale& locale_;
     std::optional<Calculated> calculated_;
+    DesignCase opened_;
 };
 
 } // namespace varno

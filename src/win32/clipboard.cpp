@@ -56,4 +56,11 @@ void setClipboardText(HWND owner, const std::string& text) {
     if (SetClipboardData(CF_UNICODETEXT, data) == nullptr) GlobalFree(data);
 }
 
+void setClipboardPicture(HWND owner, HENHMETAFILE metafile, HBITMAP bitmap) {
+    const ClipboardAccess clipboard(owner);
+    if (clipboard) EmptyClipboard();
+    if (!clipboard || SetClipboardData(CF_ENHMETAFILE, metafile) == nullptr) DeleteEnhMetaFile(metafile);
+    if (!clipboard || SetClipboardData(CF_BITMAP, bitmap) == nullptr) DeleteObject(bitmap);
+}
+
 } // namespace varno::win32

@@ -11,4 +11,7 @@ std::string clipboardText(HWND owner);
 /// Another program may hold the clipboard; then it stays as it is.
 void setClipboardText(HWND owner, const std::string& text);
 
+/// A picture in both its kinds, which belong to the clipboard from here on.
+void setClipboardPicture(HWND owner, HENHMETAFILE metafile, HBITMAP bitmap);
+
 } // namespace varno::win32

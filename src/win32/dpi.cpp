@@ -23,6 +23,19 @@ int dpiOf(HWND window) {
     return dpi != 0 ? static_cast<int>(dpi) : USER_DEFAULT_SCREEN_DPI;
 }
 
+int dpiOf(HMONITOR monitor) {
+    if (const int overridden = overriddenDpi(); overridden != 0) return overridden;
+    // Of Windows 8.1 and later; the import of a library for it is not worth it.
+    using Asked = HRESULT(WINAPI*)(HMONITOR, int, UINT*, UINT*);
+    static const auto ask = reinterpret_cast<Asked>(
+        reinterpret_cast<void*>(GetProcAddress(LoadLibraryW(L"shcore.dll"), "GetDpiForMonitor")));
+    UINT across = 0;
+    UINT down = 0;
+    constexpr int effective = 0;
+    if (ask == nullptr || ask(monitor, effective, &across, &down) != S_OK) return dpiOf(HWND{nullptr});
+    return static_cast<int>(across);
+}
+
 UniqueFont systemFont(int dpi, FontRole role) {
     NONCLIENTMETRICSW metrics{};
     metrics.cbSize = sizeof metrics;

@@ -9,6 +9,8 @@ namespace varno::win32 {
 /// Dots per inch of a window. The environment variable VARNO_DPI overrides it, so that scaling can be tried
 /// without a second monitor.
 int dpiOf(HWND window);
+/// The same of a screen.
+int dpiOf(HMONITOR monitor);
 
 /// Twips to pixels at a resolution, rounded to nearest.
 inline int pixels(int twips, int dpi) {

@@ -246,6 +246,17 @@ void FormWindow::keepAtLeast(MINMAXINFO& sizes, SIZE client) const {
                             std::min(least.cy, work.bottom - work.top)};
 }
 
+void FormWindow::stand(int width, int height, HWND over) {
+    if (std::exchange(stands_, true)) return;
+    sizeAndCentre(width, height, over);
+    const auto kept = host().keptPlace(classOf(handle()));
+    if (!kept) return;
+    const bool grows = (GetWindowLongPtrW(handle(), GWL_STYLE) & WS_THICKFRAME) != 0;
+    const UINT size = grows ? 0 : SWP_NOSIZE;
+    SetWindowPos(handle(), nullptr, kept->area.x, kept->area.y, kept->area.width, kept->area.height,
+                 size | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 void FormWindow::sizeAndCentre(int width, int height, HWND over) {
     setDpi(dpiOf(handle()));
     const RECT work = workAreaOf(over != nullptr ? over : handle());
@@ -358,7 +369,7 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         }
         return 0;
     case WM_DPICHANGED:
-        setDpi(dpiOf(handle()));
+        setDpi(HIWORD(wParam));
         setPlace(handle(), *reinterpret_cast<const RECT*>(lParam));
         layOut();
         return 0;

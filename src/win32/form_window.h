@@ -39,6 +39,9 @@ class FormWindow : public Window, private FieldWindow, private BoxKeys {
     /// What stands in the control that has the focus is taken over, as if it were left.
     void takeOver();
     void setFontRole(int id, FontRole role);
+    /// It was shown and has a place of its own.
+    bool stands() const { return stands_; }
+    int dpi() const { return dpi_; }
 
   protected:
     /// The window itself, with a frame that cannot be resized; without a close box where `closeBox` is 0.
@@ -49,6 +52,8 @@ class FormWindow : public Window, private FieldWindow, private BoxKeys {
     /// Gives the client area this size in twips at the window's resolution, as far as the work area has room for it, and
     /// centres it over `over` (or the work area of its monitor).
     void sizeAndCentre(int width, int height, HWND over);
+    /// The first time it is shown: the same, or where it was left by an earlier run.
+    void stand(int width, int height, HWND over);
 
     /// Answers WM_GETMINMAXINFO: the client area is no smaller than this, as far as the work area has room for it.
     void keepAtLeast(MINMAXINFO& sizes, SIZE client) const;
@@ -86,7 +91,6 @@ class FormWindow : public Window, private FieldWindow, private BoxKeys {
 
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    int dpi() const { return dpi_; }
     int px(int twips) const { return pixels(twips, dpi_); }
     void setDpi(int dpi);
     void drawPicture(const DRAWITEMSTRUCT& item);
@@ -119,6 +123,7 @@ class FormWindow : public Window, private FieldWindow, private BoxKeys {
     POINT origin_{};
     DropDowns dropDowns_;
     bool open_ = false;
+    bool stands_ = false;
     std::string label_;     ///< in front of the control that is made now
     Balloon whole_{host()}; ///< the number that its box has no room for
 };

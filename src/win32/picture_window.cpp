@@ -1,9 +1,13 @@
 #include "win32/picture_window.h"
 
 #include <oleacc.h>
+#include <windowsx.h>
+
+#include <utility>
 
 #include "win32/accessible_names.h"
 #include "win32/gdi_canvas.h"
+#include "win32/picture_files.h"
 #include "win32/unique.h"
 
 namespace varno::win32 {
@@ -22,6 +26,11 @@ void PictureWindow::setScale(int surfaceDpi, int penDpi) {
     redraw();
 }
 
+void PictureWindow::setTexts(std::vector<PictureText> texts) {
+    texts_ = std::move(texts);
+    redraw();
+}
+
 void PictureWindow::paint() {
     PAINTSTRUCT paint{};
     const HDC screen = BeginPaint(handle(), &paint);
@@ -34,11 +43,26 @@ void PictureWindow::paint() {
         FillRect(memory.get(), &client, GetSysColorBrush(COLOR_BTNFACE));
         GdiCanvas canvas(memory.get(), surfaceDpi_, penDpi_, GetSysColor(COLOR_BTNTEXT));
         replay(*picture_, canvas);
+        const AnnotatedPicture words{{},
+                                     client.right * twipsPerInch / surfaceDpi_,
+                                     client.bottom * twipsPerInch / surfaceDpi_,
+                                     texts_};
+        drawTexts(memory.get(), words, surfaceDpi_, penDpi_, GetSysColor(COLOR_BTNTEXT),
+                  GetSysColor(COLOR_BTNFACE));
         // Before the keyboard can open its menu, one sees that it is here.
         if (GetFocus() == handle()) DrawFocusRect(memory.get(), &client);
         BitBlt(screen, 0, 0, client.right, client.bottom, memory.get(), 0, 0, SRCCOPY);
     }
     EndPaint(handle(), &paint);
+}
+
+void PictureWindow::pointerMoved(int x) {
+    if (events_ == nullptr) return;
+    if (!pointedAt_) {
+        TRACKMOUSEEVENT leaving{sizeof leaving, TME_LEAVE, handle(), 0};
+        pointedAt_ = TrackMouseEvent(&leaving) != FALSE;
+    }
+    events_->pointedAt(x * twipsPerInch / surfaceDpi_);
 }
 
 LRESULT PictureWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -53,6 +77,13 @@ LRESULT PictureWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_DRAWITEM:
         // A control that lies on the picture.
         return SendMessageW(GetParent(handle()), message, wParam, lParam);
+    case WM_MOUSEMOVE:
+        pointerMoved(GET_X_LPARAM(lParam));
+        return 0;
+    case WM_MOUSELEAVE:
+        pointedAt_ = false;
+        if (events_ != nullptr) events_->pointedAt(std::nullopt);
+        return 0;
     case WM_ERASEBKGND:
         return TRUE;
     default:

@@ -2,10 +2,12 @@
 
 #include <windows.h>
 
+#include <optional>
 #include <string>
 
 #include "base/run_time_error.h"
 #include "controls/activation.h"
+#include "controls/window_place.h"
 
 namespace varno::win32 {
 
@@ -19,6 +21,9 @@ class WindowHost {
     /// Handles the dialog keys and accelerators of one message of the queue; true when nothing is left to do
     /// with it.
     virtual bool translate(MSG& message) = 0;
+    /// Where a window of a class was left by an earlier run, on the screens that there are now; nothing when it is to
+    /// stand where it stands of itself.
+    virtual std::optional<WindowPlace> keptPlace(const std::string&) { return std::nullopt; }
     /// Which of the program's windows is the active one.
     Activation& activation() { return activation_; }
     /// Runs one event's rules; a run-time error stops it and is reported.

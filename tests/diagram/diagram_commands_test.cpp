@@ -15,11 +15,20 @@ class FakeDiagramWindow : public DiagramView {
     void paint() override { ++painted; }
     void show() override { ++shown; }
     void close() override { ++closed; }
+    void showReading(const std::string& text) override { reading = text; }
+    void setTexts(std::vector<PictureText> shownTexts) override { texts = std::move(shownTexts); }
+    void copyText(const std::string& text) override { copied = text; }
+    void copyPicture() override { copied = "picture"; }
+    void savePicture(const std::string& name) override { saved = name; }
 
     RecordingCanvas drawing;
     int painted = 0;
     int shown = 0;
     int closed = 0;
+    std::string reading;
+    std::vector<PictureText> texts;
+    std::string copied;
+    std::string saved;
 };
 
 class Diagram : public ::testing::Test {
@@ -34,13 +43,17 @@ class Diagram : public ::testing::Test {
     FakeMainWindow window;
     FakePrinter printer;
     FakeDiagramWindow view;
-    DiagramCommands commands{rig.diagram, opener, boxes, window, printer, view};
+    DocumentState document;
+    NumberLocale locale;
+    DiagramCommands commands{rig.diagram, document, locale, opener, boxes, window, printer, view};
 };
 
 TEST_F(Diagram, OpensTheFileForEachPassAndShowsTheWindow) {
     write(10);
     commands.moment();
-    EXPECT_EQ(rig.files.calls, (std::vector<std::string>{"readAll momk.dat", "readAll momk.dat"}));
+    EXPECT_EQ(rig.files.calls, (std::vector<std::string>{"readAll momk.dat", "readAll momk.dat",
+                                                         "readAll momk.dat", "lastWritten momk.dat"}))
+        << "the two passes, the numbers, the age";
     EXPECT_EQ(rig.diagram.momentMax(), 10.0f);
     EXPECT_EQ(view.drawing.drawn(), rig.show(rig.files.content["momk.dat"]));
     EXPECT_EQ(view.painted, 1);
@@ -48,6 +61,40 @@ TEST_F(Diagram, OpensTheFileForEachPassAndShowsTheWindow) {
     EXPECT_TRUE(window.wasBusy);
     EXPECT_FALSE(window.busy);
     EXPECT_TRUE(printer.open.empty());
+}
+
+TEST_F(Diagram, ValuesAreShownWhenTheyAreAskedFor) {
+    document.currentFileName = "KONTOR";
+    write(10);
+    commands.moment();
+    EXPECT_FALSE(commands.valuesShown());
+    EXPECT_TRUE(view.texts.empty());
+    const auto plain = view.drawing.drawn();
+    commands.toggleValues();
+    ASSERT_EQ(view.texts.size(), 4u) << "two supports, a span and the unit";
+    EXPECT_EQ(view.texts[2].text, "10.00");
+    EXPECT_EQ(view.drawing.drawn(), plain);
+    write(20);
+    commands.moment();
+    ASSERT_EQ(view.texts.size(), 4u);
+    EXPECT_EQ(view.texts[2].text, "20.00") << "they follow the next result";
+    commands.plot();
+    EXPECT_EQ(printer.open.size(), 1u);
+    commands.toggleValues();
+    EXPECT_TRUE(view.texts.empty());
+
+    commands.pointedAt(5000);
+    EXPECT_TRUE(view.reading.starts_with("Fack 1, x = ")) << view.reading;
+    commands.pointedAt(std::nullopt);
+    EXPECT_EQ(view.reading, "");
+    commands.copyValues();
+    EXPECT_TRUE(view.copied.starts_with("Fack\tx (m)"));
+    commands.copyPicture();
+    EXPECT_EQ(view.copied, "picture");
+    commands.savePicture();
+    EXPECT_EQ(view.saved, "KONTOR-moment");
+    EXPECT_EQ(commands.shown().file, "momk.dat");
+    EXPECT_EQ(commands.shown().caseName, "KONTOR");
 }
 
 TEST_F(Diagram, WithoutTheFileItIsError52AndNoWindow) {

@@ -35,8 +35,10 @@ TEST(DiagramLayout, ThePictureTakesTheRoomAndStaysWhole) {
             for (int height = least.height; height < 2200; height += 61) {
                 const DiagramLayout layout = diagramLayout(width, height, dpi);
                 expectInside(layout.picture, width, height);
-                expectInside(layout.plotButton, width, height);
+                for (const Area& part : {layout.plotButton, layout.reading, layout.age})
+                    expectInside(part, width, height);
                 EXPECT_LE(layout.picture.bottom(), layout.plotButton.y);
+                EXPECT_LE(layout.picture.bottom(), layout.reading.y + 1);
                 EXPECT_GE(layout.pictureDpi, dpi / 2);
                 // A little larger it would not go in.
                 const bool across =

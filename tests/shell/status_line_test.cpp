@@ -69,6 +69,39 @@ TEST_F(StatusLineTest, FreeLineLoadsAreNotCalculatedWith) {
     EXPECT_NE(words().result, "Beräknad 2026-11-21 15:40");
 }
 
+TEST_F(StatusLineTest, WhatIsShownIsTold) {
+    document.currentFileName = "KONTOR";
+    ShownResult shown{"KONTOR", "KONTOR.res", "2026-11-21 15:40:07", false};
+    line.opened();
+    EXPECT_EQ(line.resultLine(shown), "KONTOR.res, beräknad 2026-11-21 15:40");
+    designCase.spv(2) = 7;
+    EXPECT_EQ(line.resultLine(shown), "KONTOR.res, beräknad 2026-11-21 15:40, äldre än indata");
+    line.calculated("2026-11-21 15:41:00");
+    EXPECT_EQ(line.resultLine(shown), "KONTOR.res, beräknad 2026-11-21 15:40");
+    designCase.spv(2) = 8;
+    EXPECT_EQ(line.resultLine(shown), "KONTOR.res, beräknad 2026-11-21 15:40, äldre än indata");
+    shown.written.clear();
+    EXPECT_EQ(line.resultLine(shown), "KONTOR.res, äldre än indata");
+    document.currentFileName = "Bostad";
+    shown.written = "2026-11-21 15:40:07";
+    EXPECT_EQ(line.resultLine(shown), "KONTOR.res, beräknad 2026-11-21 15:40. Nu är BOSTAD.IND öppet.");
+}
+
+TEST_F(StatusLineTest, AResultOfBeforeIsAsOldAsItsFiles) {
+    document.currentFileName = "KONTOR";
+    ShownResult shown{"KONTOR", "KONTOR.res", "2026-11-21 15:40:07", true};
+    line.opened();
+    EXPECT_TRUE(line.resultLine(shown).ends_with(", äldre än indata"));
+    line.calculated("2026-11-21 15:41:00");
+    EXPECT_FALSE(line.resultLine(shown).ends_with(", äldre än indata"))
+        << "a title that was saved is not calculated with";
+    line.opened();
+    shown.inputIsNewer = false;
+    document.dataChanged = true;
+    EXPECT_TRUE(line.resultLine(shown).ends_with(", äldre än indata"))
+        << "a rescued case came as a changed one";
+}
+
 TEST_F(StatusLineTest, SaysWhyABoxIsLocked) {
     EXPECT_EQ(words().reason, "");
     EXPECT_EQ(why({Field::upl, 0}), "Låst: ändupplagens bredd är alltid 0.");
