@@ -27,7 +27,11 @@ class DiagramReading : public Diagrams {
         keyboard::press(VK_RETURN);
         program.waitGone(menu);
     }
-    void ask() { window.post(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(area.handle()), -1); }
+    void ask() {
+        // A pointer that lies on the menu would choose a row of its own.
+        SetCursorPos(2, 2);
+        window.post(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(area.handle()), -1);
+    }
     std::vector<MenuLine> menu() {
         ask();
         const auto lines = program.popupMenu();
