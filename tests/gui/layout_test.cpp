@@ -115,6 +115,10 @@ TEST_P(Layout, OfTheDialogsAndTheViewer) {
         program.command(command);
         const Control dialog = program.window(fileDialogClass);
         expectSound(program, dialog);
+        // With what it tells of the chosen case.
+        dialog.item(idFileList).choose("TIOFACK.IND");
+        dialog.send(WM_NULL);
+        expectSound(program, dialog);
         close(program, dialog, idCancelButton);
     }
     program.command(idShowResult);
