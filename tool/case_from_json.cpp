@@ -49,6 +49,8 @@ json parsed(const std::string& text) {
         return json::parse(text, watch);
     } catch (const json::parse_error& error) {
         throw InputError("Texten är ingen JSON: felet står vid tecken " + std::to_string(error.byte) + ".");
+    } catch (const json::out_of_range&) {
+        throw InputError("Texten har ett tal som är för stort.");
     }
 }
 

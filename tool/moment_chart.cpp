@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "input/field_table.h"
 #include "tool/case_sheet.h"
 #include "tool/html.h"
 
@@ -105,7 +106,8 @@ class Chart {
             text(at, bottom, std::to_string(support));
             if (support == 0) continue;
             const double before = x(supportPlace(case_, support));
-            if (at - before > roomForSpan) text((at + before) / 2, bottom, "Fack " + std::to_string(support));
+            if (at - before > roomForSpan)
+                text((at + before) / 2, bottom, std::string(spanHeading) + " " + std::to_string(support));
         }
     }
 

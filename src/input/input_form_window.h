@@ -2,8 +2,10 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "controls/control_ids.h"
+#include "input/doubts.h"
 #include "input/form_scroll.h"
 #include "input/input_form.h"
 #include "win32/balloon.h"
@@ -29,6 +31,10 @@ class InputFormWindow : public win32::FormWindow, public FormView {
     void focusEnd(bool last);
     /// The locked box at a place of the screen.
     std::optional<Control> lockedAt(POINT place) const;
+    /// Marks the boxes of these and no other.
+    void showDoubts(const std::vector<Doubt>& doubts);
+    /// What there is to say of the marked box at a place of the screen, or of the one that has the focus.
+    std::string doubtAt(POINT place) const;
     /// Lays the form out at another resolution.
     void changeDpi(int dpi);
     /// Takes the room that the main window has for it, and scrolls where it needs more.
@@ -87,6 +93,10 @@ class InputFormWindow : public win32::FormWindow, public FormView {
     ScrollAxis down_;
     WheelSteps wheel_;
     bool fitting_ = false; ///< a scroll bar that comes or goes tells of another size
+    const Doubt* doubtOf(int id) const;
+    LRESULT markedGround(HDC dc) const;
+
+    std::vector<Doubt> doubts_;
 };
 
 } // namespace varno

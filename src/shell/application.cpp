@@ -265,8 +265,12 @@ void Application::statusDue() {
     if (!IsWindowVisible(form_.handle())) return;
     POINT pointer{};
     GetCursorPos(&pointer);
-    main_.showStatus(status_.words({document_.changed(), fileDialog_.directory(), sketch_.totalLength(),
-                                    form_.lockedAt(pointer), main_.onGreyDiagram(pointer)}));
+    const std::vector<Doubt> doubts = doubtsOf(case_);
+    form_.showDoubts(doubts);
+    main_.showStatus(
+        status_.words({document_.changed(), fileDialog_.directory(), sketch_.totalLength(),
+                       form_.lockedAt(pointer), main_.onGreyDiagram(pointer), static_cast<int>(doubts.size()),
+                       main_.onStatusState(pointer) ? doubtsInOneLine(doubts) : form_.doubtAt(pointer)}));
     if (IsWindowVisible(results_->viewer.handle()))
         results_->viewer.setAge(status_.resultLine(results_->reader.shown()));
     if (moments_ && IsWindowVisible(moments_->window.handle()))

@@ -205,6 +205,12 @@ void MainWindow::showStatus(const StatusWords& words) {
     }
 }
 
+bool MainWindow::onStatusState(POINT pointer) const {
+    RECT area{};
+    GetWindowRect(GetDlgItem(handle(), idStatusState), &area);
+    return PtInRect(&area, pointer) && GetAncestor(WindowFromPoint(pointer), GA_ROOT) == handle();
+}
+
 bool MainWindow::onGreyDiagram(POINT pointer) const {
     if (diagramEnabled_) return false;
     if (menuOnDiagram_) return true;

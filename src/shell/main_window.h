@@ -78,6 +78,8 @@ class MainWindow : public win32::Window, public MainView {
     void showStatus(const StatusWords& words);
     /// "Diagram" is grey, and the pointer, or a menu walked through with keys, is on it: its menu or its toolbar button.
     bool onGreyDiagram(POINT pointer) const;
+    /// The pointer is where the status line tells the state, whatever it shows just now.
+    bool onStatusState(POINT pointer) const;
     /// Paints the sketch and places the support buttons as they are now.
     void sketchChanged();
     /// Later, when the current event is over, MainEvents::showRunTimeError is called.

@@ -55,6 +55,7 @@ std::string StatusLine::resultLine(const ShownResult& shown) const {
 StatusWords StatusLine::words(const StatusFacts& facts) const {
     StatusWords words;
     words.state = state(facts.changed);
+    if (facts.doubts > 0) words.state += ", se över " + std::to_string(facts.doubts);
     words.folder = "Sparas i " + facts.folder;
     words.length = "Total längd " + formatNumber(facts.totalLength, "#0.00", locale_) + " m";
     words.result = result();
@@ -62,6 +63,8 @@ StatusWords StatusLine::words(const StatusFacts& facts) const {
         words.reason = whyGrey();
     } else if (facts.lockedBox) {
         words.reason = whyLocked(*facts.lockedBox);
+    } else {
+        words.reason = facts.doubt;
     }
     return words;
 }

@@ -27,6 +27,8 @@ struct StatusFacts {
     float totalLength = 0;            ///< m
     std::optional<Control> lockedBox; ///< the locked box that the pointer or the focus is on
     bool greyDiagram = false;         ///< they are on "Diagram", and it is grey
+    int doubts = 0;                   ///< values to look at twice
+    std::string doubt;                ///< what there is to say of the one that they are on
 };
 
 /// The words of the status line. A result is older than the input as soon as what it was calculated from is another:

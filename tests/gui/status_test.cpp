@@ -3,6 +3,7 @@
 
 #include "driver/keyboard.h"
 #include "driver/program.h"
+#include "picture.h"
 #include "shell/menu_table.h"
 #include "soon.h"
 
@@ -52,6 +53,29 @@ TEST_F(Status, TellsWhyABoxIsLocked) {
     pointAt(program.field(Field::upl, 1));
     expectPart(idStatusReason, "");
     EXPECT_TRUE(program.main().item(idStatusState).visible());
+}
+
+TEST_F(Status, MarksAndTellsWhatToLookAtTwice) {
+    program.open("KONTOR.IND");
+    expectPart(idStatusState, "Sparad");
+    const Control box = program.field(Field::upl, 4);
+    const auto ground = [&] { return Picture::ofScreen(box.handle()).at(4, 4); };
+    const COLORREF before = ground();
+    program.typeInto({Field::upl, 4}, "0");
+    program.field(Field::rubrik).clickInto();
+    pointAt(program.main().item(idLoadPicture));
+    expectSoon(program, true, [&] { return part(idStatusState).ends_with(", se över 1"); });
+    expectSoon(program, true, [&] { return ground() != before; });
+    pointAt(box);
+    expectPart(idStatusReason, "Upplagsbredden vid stöd 4 är 0 m.");
+    pointAt(program.main().item(idLoadPicture));
+    expectPart(idStatusReason, "");
+    pointAt(program.main().item(idStatusState));
+    expectPart(idStatusReason, "Se över: Upplagsbredden vid stöd 4 är 0 m.");
+    program.typeInto({Field::upl, 4}, "0,2");
+    program.field(Field::rubrik).clickInto();
+    expectPart(idStatusState, "Ändrad, inte sparad");
+    expectSoon(program, before, [&] { return ground(); });
 }
 
 constexpr const char* notCalculated =

@@ -6,9 +6,29 @@
 #include <string>
 
 #include "input/form_filling.h"
+#include "model/plausibility.h"
 
 namespace varno {
 namespace {
+
+// Of a case with something wrong in every respect.
+TEST(FieldTable, HasTheFieldsOfWhatIsImplausible) {
+    DesignCase c;
+    c.nfack = 2;
+    c.loadCode = 3;
+    c.lokt = 1;
+    c.konsv = c.konsh = 1;
+    c.nllast = 0;
+    std::set<std::string_view> names;
+    for (const TextField& row : textFields)
+        names.insert(row.name);
+    std::set<Finding::Kind> kinds;
+    for (const Finding& finding : implausible(c)) {
+        EXPECT_TRUE(names.contains(finding.field)) << finding.field;
+        kinds.insert(finding.kind);
+    }
+    EXPECT_EQ(kinds.size(), 5U) << "all but those of the line loads, which have windows of their own";
+}
 
 TEST(FieldTable, EveryFieldHasOneRowAndANameOfItsOwn) {
     std::set<Field> fields;

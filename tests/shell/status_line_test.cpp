@@ -34,6 +34,16 @@ TEST_F(StatusLineTest, SavedOrChangedAndWhereItIsSaved) {
     EXPECT_EQ(words().folder, "Sparas i C:\\fall");
 }
 
+TEST_F(StatusLineTest, WhatToLookAtTwiceIsCountedAndToldAtItsBox) {
+    facts.doubts = 2;
+    EXPECT_EQ(words().state, "Nytt fall, se över 2");
+    EXPECT_EQ(words().reason, "");
+    facts.doubt = "Permanent last saknas i fack 2.";
+    EXPECT_EQ(words().reason, "Permanent last saknas i fack 2.");
+    EXPECT_EQ(why({Field::upl, 0}), "Låst: ändupplagens bredd är alltid 0.")
+        << "what cannot be done comes first";
+}
+
 TEST_F(StatusLineTest, TheLengthHasTheUsersDecimalSign) {
     EXPECT_EQ(words().length, "Total längd 16,50 m");
 }

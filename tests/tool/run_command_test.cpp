@@ -26,7 +26,7 @@ class RunCommand : public ::testing::Test {
         engines.work = [this](const std::string& path, int) { writeResult(path); };
     }
     void writeFile(const std::string& path, const std::string& name, const std::string& text = "x") {
-        std::ofstream(tool::pathOf(path) / name) << text;
+        std::ofstream(tool::pathOf(path) / name, std::ios::binary) << text;
     }
     void writeResult(const std::string& path) {
         writeFile(path, "NAMN.res");

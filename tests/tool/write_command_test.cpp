@@ -1,3 +1,5 @@
+#include <random>
+
 #include "tool/tool_runner.h"
 
 namespace varno {
@@ -107,6 +109,7 @@ TEST_F(WriteCommand, RefusesValuesOfTheWrongKind) {
               "Fältet \"ktack\": ska vara ett heltal från -32768 till 32767.\n");
     EXPECT_EQ(refusal(R"({"konsv": null})"), "Fältet \"konsv\": ska vara ett tal.\n");
     EXPECT_EQ(refusal(R"({"konsv": 1e300})"), "Fältet \"konsv\": är för stort.\n");
+    EXPECT_EQ(refusal(R"({"konsv": 1e999})"), "Texten har ett tal som är för stort.\n");
     EXPECT_EQ(refusal(R"({"rubrik": 1})"), "Fältet \"rubrik\": ska vara en text.\n");
     EXPECT_EQ(refusal(R"({"spv": 1})"),
               "Fältet \"spv\": ska vara en lista, eller ett objekt med element efter nummer.\n");
@@ -134,6 +137,32 @@ TEST_F(WriteCommand, RefusesWhatAFileCannotHold) {
 TEST_F(WriteCommand, TellsADecimalThatDoesNotFitAndGoesOn) {
     EXPECT_EQ(written(R"({"spv": {"1": 5.33333}})").designCase.spv(1), 5.333f);
     EXPECT_EQ(err.str(), "Spännvidd (m), fack 1: 5,33333 blir 5,333\n");
+}
+
+TEST_F(WriteCommand, ReadsOrRefusesWhateverTheTextIs) {
+    ASSERT_EQ(run({"json", "--used", "A.IND"}), 0);
+    const std::string whole = out.str();
+    std::mt19937 random(11);
+    const auto upTo = [&](std::size_t count) { return random() % count; };
+    int read = 0;
+    for (int trial = 0; trial < 500; ++trial) {
+        std::string damaged = whole;
+        for (std::size_t i = 0; i <= upTo(3); ++i) {
+            const std::size_t at = upTo(damaged.size());
+            if (upTo(2) == 0)
+                damaged.erase(at, 1 + upTo(4));
+            else
+                damaged[at] = "0123456789-+.eE{}[],:\"\\ntf\xC3\x00"[upTo(29)];
+        }
+        files.content.erase("D.IND");
+        const int code = run({"write", "-", "D.IND", "--base", "A.IND"}, damaged);
+        ASSERT_TRUE(code == 0 || code == 1) << damaged;
+        ASSERT_EQ(files.content.contains("D.IND"), code == 0) << damaged;
+        ASSERT_EQ(err.str().find("run-time error"), std::string::npos) << damaged << err.str();
+        read += code == 0 ? 1 : 0;
+    }
+    EXPECT_GT(read, 20) << "damage that leaves a case";
+    EXPECT_LT(read, 480);
 }
 
 TEST_F(WriteCommand, NamesTheFileThatIsMissing) {
