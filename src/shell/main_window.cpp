@@ -371,6 +371,10 @@ LRESULT MainWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         // The pointer stands on the sketch; what can scroll is the form.
         SendMessageW(GetWindow(mdiClient_, GW_CHILD), message, wParam, lParam);
         return 0;
+    case WM_SYSCOLORCHANGE:
+        // Windows tells it to top-level windows only.
+        SendMessageW(toolbar_.handle(), message, wParam, lParam);
+        break;
     case WM_SETCURSOR:
         if (busy_ == 0) break;
         SetCursor(LoadCursorW(nullptr, IDC_WAIT));
