@@ -4,7 +4,7 @@
 passed=0
 failed=0
 repeated=() # the tests that passed only when they were run again
-most_repeated=3
+most_repeated=5
 
 # The number of tests and of those that failed in a GoogleTest report. A test that was skipped or disabled counts as failed and is named.
 count_report() {
