@@ -33,9 +33,9 @@ struct Envelope {
     std::vector<Curve> upper, lower;  ///< largest and smallest moment at the curve points of each span
 };
 
-/// All 2^n patterns of variable load on n spans are evaluated, each with its own support moments; these are put
-/// together from those of the n + 1 load cases, since the beam is linear. A cantilever has the variable load when
-/// the span next to it has.
+/// Of all 2^n patterns of variable load on n spans, without going through them: the beam is linear, so a value is largest
+/// under the loads that make it larger one by one, and smallest under the others. The value itself is put together from
+/// those of the n + 1 load cases. A cantilever has the variable load when the span next to it has.
 ///
 /// Curve point k = 0 to 20 of span i lies at upl(i-1) + k dx(i) from its left support, dx(i) = (spv(i) - upl(i-1)) /
 /// 20, so the last one lies on its right support: the moment is meant to be drawn level over the width of the left

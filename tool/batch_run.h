@@ -39,8 +39,8 @@ class BatchRun {
     BatchRun(FileOpener& opener, EngineHost& host, BatchOptions options, Progress& progress)
         : opener_(opener), host_(host), options_(std::move(options)), progress_(progress) {}
 
-    /// \throws InputError when the engine cannot be started, filesystem_error when a folder cannot be made. No engine is left running and no
-    /// half result then.
+    /// \throws InputError when the engine cannot be started, filesystem_error when a folder cannot be made. No engine is
+    /// left running and no half result then.
     BatchSummary run(const std::vector<std::string>& files);
 
   private:

@@ -57,7 +57,7 @@ std::string utf8Of(const fs::path& path) {
     return {text.begin(), text.end()};
 }
 
-CaseFolder::CaseFolder(fs::path runFolder, std::string name, std::string inputName)
+CaseFolder::CaseFolder(const fs::path& runFolder, const std::string& name, std::string inputName)
     : folder_(runFolder / pathOf(name)), work_(withEnding(folder_, draftEnding)),
       failed_(withEnding(folder_, ".fel")), lockPath_(withEnding(folder_, ".~lock")),
       inputName_(std::move(inputName)) {}

@@ -17,7 +17,7 @@ std::string utf8Of(const std::filesystem::path& path);
 class CaseFolder {
   public:
     /// `inputName` is what the copy of the case file is called in it.
-    CaseFolder(std::filesystem::path runFolder, std::string name, std::string inputName);
+    CaseFolder(const std::filesystem::path& runFolder, const std::string& name, std::string inputName);
     ~CaseFolder();
     CaseFolder(CaseFolder&&) noexcept = default;
     CaseFolder& operator=(CaseFolder&&) = delete;

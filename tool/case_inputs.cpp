@@ -65,10 +65,11 @@ class Inputs {
     }
 
     void addNumbers(CasePlace place, const CaseLine& line) {
-        forEachNumber(line, case_, [&](CellFormat cell, auto field, std::optional<int> element, auto at) {
-            if (cell.isColumn()) ++place.cell;
-            if (inUse(line, field, element)) add(place, valueText(at(case_)));
-        });
+        forEachNumber(line, case_,
+                      [&](const CellFormat& cell, auto field, std::optional<int> element, auto at) {
+                          if (cell.isColumn()) ++place.cell;
+                          if (inUse(line, field, element)) add(place, valueText(at(case_)));
+                      });
     }
     // The end supports have no width, and a line load beyond the count is kept but not calculated with.
     template <typename Place>

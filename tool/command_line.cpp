@@ -83,6 +83,7 @@ std::string complaintOf(const CLI::ParseError& error, const CLI::App& app) {
     const std::vector<std::string> rest = app.remaining(true);
     if (chosen.empty()) {
         if (rest.empty()) return "ett kommando saknas.";
+        if (rest.front().starts_with('-')) return "valet \"" + rest.front() + "\" finns inte.";
         std::vector<std::string> names;
         for (const CommandRow& row : commandTable())
             names.emplace_back(row.name);

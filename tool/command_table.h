@@ -38,7 +38,8 @@ struct CommandRow {
     std::vector<Parameter> parameters;
     std::vector<Example> examples;
     const char* remark = ""; ///< what one might not expect
-    /// Says what is wrong with arguments that are each right, for example "ange antingen --list eller --svg UT."; empty when nothing is.
+    /// Says what is wrong with arguments that are each right, for example "ange antingen --list eller --svg UT."; empty
+    /// when nothing is.
     std::string (*complaint)(const Request&) = nullptr;
 };
 

@@ -55,6 +55,9 @@ ExitCode printMoments(const Session& session, const Request& request) {
     if (!request.file.empty()) designCase = loadCase(session.opener, request.file).designCase;
     File file = session.opener.openFile(request.moments, FileMode::input);
     const CurveValues values = readCurveValues(file);
+    if (values.spans() == 0)
+        throw InputError(request.moments +
+                         " har inga kurvor: en fil med momentkurvor börjar med antalet fack.");
     if (designCase && designCase->nfack != values.spans())
         throw InputError(request.moments + " har " + std::to_string(values.spans()) + " fack, men " +
                          request.file + " har " + std::to_string(designCase->nfack) +

@@ -41,7 +41,7 @@ class Collector {
   private:
     // The file that was named, or the one beside the case when there is one.
     std::string fileFor(const std::string& named, const std::string& name, const std::string& what) {
-        const std::string path = named.empty() ? beside(request_.file, name) : named;
+        std::string path = named.empty() ? beside(request_.file, name) : named;
         FileCalls& calls = opener_.calls();
         if (!calls.exists(path)) {
             // Opening one that was named says what is wrong with it.

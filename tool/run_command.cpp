@@ -63,8 +63,8 @@ ExitCode runCases(const Session& session, const Request& request) {
         Progress progress(session.err, session.terminal, static_cast<int>(request.files.size()));
         summary = BatchRun(session.opener, session.host, options, progress).run(request.files);
     } catch (const std::filesystem::filesystem_error& error) {
-        throw InputError("Mappen " + utf8Of(error.path1()) + " kan inte användas: " + error.code().message() +
-                         ".");
+        const int number = runTimeErrorOfErrno(error.code().default_error_condition().value());
+        throw RunTimeError(number).about(utf8Of(error.path1()), FileAction::writing);
     }
     tell(summary, session.out);
     if (summary.interrupted) return interrupted;

@@ -56,6 +56,12 @@ void FileInfoWindow::layOut() {
     win32::setPlace(item(idNote), px(margin), px(noteTop), px(noteWidth), px(noteHeight(noteLines_)));
 }
 
+void FileInfoWindow::setNote(const std::string& note) {
+    win32::setText(item(idNote), note);
+    // Windows does not promise to paint what the program draws anew for another text.
+    InvalidateRect(item(idNote), nullptr, FALSE);
+}
+
 void FileInfoWindow::selectName() {
     SetFocus(item(idFileName));
     SendMessageW(item(idFileName), EM_SETSEL, 0, -1);

@@ -19,7 +19,7 @@ class FileInfoWindow : public FileChooserWindow, public FileDialogView {
     std::string name() const override { return win32::textOf(item(idFileName)); }
     void setName(const std::string& name) override { setBoxText(idFileName, name); }
     void selectName() override;
-    void setNote(const std::string& note) override { win32::setText(item(idNote), note); }
+    void setNote(const std::string& note) override;
     void setNoteLines(int lines) override { noteLines_ = lines; }
     void refreshLists() override { showLists(); }
     void run() override;

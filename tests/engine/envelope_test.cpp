@@ -2,6 +2,7 @@
 // in beam_test.cpp.
 #include "engine/envelope.h"
 
+#include "tests/engine/enumeration.h"
 #include "tests/engine/stiffness.h"
 
 #include <algorithm>
@@ -204,6 +205,78 @@ TEST(EngineEnvelope, TenSpansAgreeWithTheDisplacementMethod) {
         EXPECT_NEAR(e.supportMoment[i].max, moments.max[nodeAt(support)], 1e-6);
         EXPECT_NEAR(e.supportMoment[i].min, moments.min[nodeAt(support)], 1e-6);
         if (i < 10) support += beam.spv[i];
+    }
+}
+
+void expectSame(const Range& a, const Range& b, double size) {
+    EXPECT_NEAR(a.max, b.max, 1e-12 * size);
+    EXPECT_NEAR(a.min, b.min, 1e-12 * size);
+}
+
+// A moment, its place and what stands there; of two places with one moment either may be told.
+void expectSame(const FieldMoment& a, const FieldMoment& b, double size) {
+    EXPECT_NEAR(a.moment, b.moment, 1e-11 * size);
+    EXPECT_EQ(a.place, b.place);
+    EXPECT_NEAR(a.x, b.x, 1e-6);
+}
+
+TEST(EngineEnvelope, TheSignsGiveWhatAllPatternsGive) {
+    std::mt19937 random{12};
+    const auto within = [&](double from, double to) {
+        return std::uniform_real_distribution<double>(from, to)(random);
+    };
+    constexpr int cases = 400;
+    for (int number = 0; number < cases && !::testing::Test::HasFailure(); ++number) {
+        SCOPED_TRACE(number);
+        const auto spans = std::uniform_int_distribution<std::size_t>(1, number % 20 == 0 ? 10 : 6)(random);
+        // Cantilevers that are missing, loads that lift, and spans without any variable load among them.
+        Beam beam{number % 3 == 0 ? 0 : within(0, 2), number % 5 == 0 ? 0 : within(0, 2), {}};
+        DesignLoads loads;
+        std::vector<double> upl{0};
+        for (std::size_t i = 0; i < spans; ++i) {
+            beam.spv.push_back(within(1, 9));
+            loads.permanent.push_back(within(0, 6));
+            loads.variable.push_back(number % 7 == 0 ? within(-4, 4) : std::max(0.0, within(-1, 6)));
+            upl.push_back(i + 1 < spans ? within(0, 0.4) : 0);
+        }
+        for (int line = 0; line < number % 6; ++line)
+            loads.lines.push_back({within(0, 1 + 5 * static_cast<double>(spans)), within(-10, 20)});
+
+        const Envelope a = envelope(beam, loads, upl);
+        const Envelope b = test::enumerated(beam, loads, upl);
+        EXPECT_EQ(a.patterns, b.patterns);
+        EXPECT_EQ(a.dx, b.dx);
+        constexpr double size = 1000;
+        for (std::size_t i = 0; i <= spans; ++i) {
+            expectSame(a.supportMoment[i], b.supportMoment[i], size);
+            expectSame(a.reaction[i], b.reaction[i], size);
+        }
+        for (std::size_t i = 0; i < spans; ++i) {
+            expectSame(a.field[i].max, b.field[i].max, size);
+            expectSame(a.field[i].min, b.field[i].min, size);
+            for (std::size_t k = 0; k < curvePoints; ++k)
+                expectSame(Range{a.upper[i][k], a.lower[i][k]}, Range{b.upper[i][k], b.lower[i][k]}, size);
+        }
+    }
+}
+
+// Where spans are equal, moments are equal too, and of those the same one must be told.
+TEST(EngineEnvelope, OfEqualSpansTheSignsTellTheSamePlaceAsAllPatterns) {
+    for (int n = 1; n <= 10; ++n) {
+        const auto count = static_cast<std::size_t>(n);
+        for (const double cantilever : {0.0, 1.5}) {
+            const Beam beam{cantilever, cantilever, std::vector<double>(count, 5)};
+            const DesignLoads loads{std::vector<double>(count, 3), std::vector<double>(count, 2.5), {}};
+            const std::vector<double> upl(count + 1);
+            const Envelope a = envelope(beam, loads, upl);
+            const Envelope b = test::enumerated(beam, loads, upl);
+            for (std::size_t i = 0; i < count; ++i) {
+                SCOPED_TRACE(std::to_string(n) + " spans, cantilevers " + std::to_string(cantilever) +
+                             ", span " + std::to_string(i + 1));
+                expectSame(a.field[i].max, b.field[i].max, 100);
+                expectSame(a.field[i].min, b.field[i].min, 100);
+            }
+        }
     }
 }
 

@@ -158,5 +158,26 @@ TEST_F(Accessibility, OfTheDialogsAndTheResult) {
     program().waitGone(prompt);
 }
 
+TEST_F(Accessibility, OfTheNoticeAndWhatDeletingAsks) {
+    Scene scene;
+    scene.remove("varno.ver");
+    Program fresh(scene);
+    expectSpoken(fresh.window(noticeClass));
+    fresh.passStartUp();
+    fresh.command(idDeleteBoth);
+    const Control window = fresh.window("VarnoDelFile");
+    window.item(idDeletionHelp).click();
+    const Control help = fresh.window("VarnoHelp");
+    expectSpoken(help);
+    help.item(idOkButton).click();
+    fresh.waitGone(help);
+    window.item(idFileList).send(LB_SETSEL, TRUE, 0);
+    window.item(idDelete).click();
+    const Control question = fresh.window("VarnoVeri");
+    expectSpoken(question);
+    question.item(idCancelButton).click();
+    fresh.waitGone(question);
+}
+
 } // namespace
 } // namespace varno::gui

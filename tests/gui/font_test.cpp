@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "driver/keyboard.h"
 #include "driver/program.h"
 #include "soon.h"
 #include "win32/strings.h"
@@ -106,6 +107,25 @@ TEST_F(Fonts, OkStoresTheChoiceForTheNextStart) {
     program.passStartUp();
     EXPECT_EQ(chooser(program).item(idStoredFont).rows(), only(face));
     EXPECT_EQ(viewerFace(program), face);
+}
+
+TEST_F(Fonts, KeysChooseGiveUpAndStore) {
+    Program program(scene);
+    program.passStartUp();
+    for (const WORD key : {WORD{VK_ESCAPE}, WORD{VK_RETURN}}) {
+        const Control window = chooser(program);
+        const Control list = window.item(idInstalledFonts);
+        expectSoon(program, list, [&] { return program.focused(); });
+        keyboard::press(VK_DOWN);
+        keyboard::press(VK_DOWN);
+        const std::string second = list.rows().at(1);
+        expectSoon(program, second, [&] { return viewerFace(program); });
+        EXPECT_NE(second, stored);
+        keyboard::press(key);
+        program.waitGone(window);
+        EXPECT_EQ(viewerFace(program), key == VK_RETURN ? second : stored);
+        EXPECT_EQ(scene.read("Varnfnt.ini"), encodeWindows1252(key == VK_RETURN ? second : stored) + "\r\n");
+    }
 }
 
 TEST_F(Fonts, OkWithoutAClickStoresTheFontInUseIntoTheDialogsFolder) {

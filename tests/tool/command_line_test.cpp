@@ -103,6 +103,7 @@ TEST_F(CommandLine, NamesTheArgumentThatIsWrong) {
         {{}, "ett kommando saknas."},
         {{"nonsense"}, "kommandot \"nonsense\" finns inte."},
         {{"jsno", "A.IND"}, "kommandot \"jsno\" finns inte; menade Du \"json\"?"},
+        {{"--nonsense"}, "valet \"--nonsense\" finns inte."},
         {{"rewrite", "A.IND"}, "varnotool rewrite: argumentet UT saknas."},
         {{"check"}, "varnotool check: argumentet FIL saknas."},
         {{"json", "A.IND", "B.IND"}, "varnotool json: argumentet \"B.IND\" är ett för mycket eller okänt."},

@@ -45,7 +45,7 @@ TEST_F(ManyCases, AreCalculatedByTheSampleEngine) {
 TEST_F(ManyCases, AnEngineIsFoundFromEveryFolder) {
     makeCases(1);
     folder.write("motor", "#!/bin/sh\nexec \"$VARNOWB\"\n");
-    EXPECT_EQ(shell("chmod +x motor; \"$VARNOTOOL\" run V1.IND --engine ./motor --out resultat"), 0);
+    EXPECT_EQ(shell("chmod +x motor; \"$VARNOTOOL\" run V1.IND --engine ./motor --out resultat >out"), 0);
     EXPECT_TRUE(has("resultat/V1/V1.res"));
 }
 
@@ -83,7 +83,7 @@ TEST_F(ManyCases, AKilledRunIsGoneOnWith) {
     makeCases(2);
     folder.write("motor", "#!/bin/sh\necho $$ >> ../pids; exec sleep 60\n");
     EXPECT_EQ(
-        shell("chmod +x motor; mkdir resultat\n"
+        shell("exec 2>log; chmod +x motor; mkdir resultat\n"
               "\"$VARNOTOOL\" run *.IND --engine ./motor --jobs 2 --out resultat >out 2>err &\n"
               "for i in $(seq 100); do [ \"$(wc -l 2>/dev/null <resultat/pids)\" = 2 ] && break; sleep 0.1; "
               "done\n"

@@ -59,6 +59,12 @@ TEST_F(MomentsCommand, RefusesCurvesOfAnotherCase) {
     EXPECT_EQ(out.str(), "");
 }
 
+TEST_F(MomentsCommand, AFileWithoutCurvesIsTold) {
+    EXPECT_EQ(run({"moments", "A.IND"}), 1);
+    EXPECT_EQ(err.str(), "A.IND har inga kurvor: en fil med momentkurvor börjar med antalet fack.\n");
+    EXPECT_EQ(out.str(), "");
+}
+
 TEST_F(MomentsCommand, AFileThatIsCutOffIsARunTimeError) {
     EXPECT_EQ(run({"moments", "-"}, "2,0.25,1"), 1);
     EXPECT_TRUE(err.str().starts_with("Filen på standard in tar slut innan allt är läst")) << err.str();

@@ -189,6 +189,13 @@ TEST_F(RunCommand, AnEngineThatCannotBeStartedEndsTheRun) {
     EXPECT_EQ(results(), std::set<std::string>{});
 }
 
+TEST_F(RunCommand, AFolderThatCannotBeMadeIsNamed) {
+    folder.write("ut", "a file");
+    EXPECT_EQ(run({"A.IND"}), 1);
+    EXPECT_NE(err.str().find(folder.path("ut")), std::string::npos) << err.str();
+    EXPECT_NE(err.str().find("\nrun-time error "), std::string::npos) << err.str();
+}
+
 TEST_F(RunCommand, AFileThatIsNoCaseFailsAndTheOthersGoOn) {
     files.content["B.IND"] = "kort\r\n";
     EXPECT_EQ(run({"A.IND", "SAKNAS.IND", "B.IND", "C.IND"}), 3);

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <cstddef>
+
+namespace varno::benchmarks {
+
+/// Calls of operator new since the program began.
+std::size_t allocations();
+
+} // namespace varno::benchmarks

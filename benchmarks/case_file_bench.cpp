@@ -1,0 +1,62 @@
+// A case of ten spans from its bytes into the record and back, beside the same with C's sscanf and snprintf.
+#include <benchmark/benchmark.h>
+
+#include "base/byte_files.h"
+#include "base/text.h"
+#include "benchmarks/plain_case.h"
+#include "benchmarks/ten_spans.h"
+
+namespace varno::benchmarks {
+namespace {
+
+PlainCase plainTenSpans() {
+    PlainCase plain;
+    readPlainly(fileOf(tenSpans()).c_str(), plain);
+    return plain;
+}
+
+void readCase(benchmark::State& state) {
+    const CaseFile ten = tenSpans();
+    ByteFiles memory;
+    memory.content[""] = fileOf(ten);
+    if (plainTenSpans().values.lllast != ten.designCase.lllast)
+        state.SkipWithError("the plain reader reads otherwise");
+    for (auto _ : state) {
+        File file(memory, "", FileMode::input, 0, 1);
+        benchmark::DoNotOptimize(VARNO1::readDesignCase(file, ten.designCase));
+    }
+}
+BENCHMARK(readCase);
+
+void readCasePlainly(benchmark::State& state) {
+    const Bytes bytes = fileOf(tenSpans());
+    for (auto _ : state) {
+        PlainCase plain;
+        readPlainly(bytes.c_str(), plain);
+        benchmark::DoNotOptimize(plain);
+    }
+}
+BENCHMARK(readCasePlainly);
+
+void writeCase(benchmark::State& state) {
+    const CaseFile ten = tenSpans();
+    ByteFiles memory;
+    if (writtenPlainly(plainTenSpans()) != fileOf(ten))
+        state.SkipWithError("the plain writer writes otherwise");
+    for (auto _ : state) {
+        File file(memory, "", FileMode::output, 0, 1);
+        VARNO1::writeDesignCase(file, ten);
+        benchmark::DoNotOptimize(file.written().data());
+    }
+}
+BENCHMARK(writeCase);
+
+void writeCasePlainly(benchmark::State& state) {
+    const PlainCase plain = plainTenSpans();
+    for (auto _ : state)
+        benchmark::DoNotOptimize(writtenPlainly(plain));
+}
+BENCHMARK(writeCasePlainly);
+
+} // namespace
+} // namespace varno::benchmarks
