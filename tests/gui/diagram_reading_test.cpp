@@ -38,15 +38,15 @@ class DiagramReading : public Diagrams {
         program.keysInPopupMenu({VK_ESCAPE});
         return lines;
     }
-    Bytes saved(const std::string& name) {
+    Bytes saved(const std::string& path) {
         choose(3);
         const Control dialog = program.window(messageBoxClass);
         EXPECT_EQ(dialog.text(), "Spara som bild");
-        keyboard::type(scene.path(name));
+        keyboard::type(path);
         keyboard::press(VK_RETURN);
         program.waitGone(dialog);
-        expectSoon(program, true, [&] { return scene.has(name); });
-        return scene.read(name);
+        expectSoon(program, true, [&] { return fileExists(path); });
+        return readFile(path);
     }
     // What is written into it is not of the drawing's two colours alone.
     std::size_t differentPixels(const Picture& a, const Picture& b) const {
@@ -128,14 +128,14 @@ TEST_F(DiagramReading, CopiesPictureAndValues) {
 
 TEST_F(DiagramReading, SavesThePictureInThreeKinds) {
     choose(0);
-    const Bytes svg = saved("bild å.svg");
+    const Bytes svg = saved(scene.path("bild å.svg"));
     EXPECT_TRUE(svg.starts_with("<svg ")) << svg.substr(0, 80);
     EXPECT_NE(svg.find(">kNm/m</text>"), Bytes::npos);
-    const Bytes png = saved("bild.png");
+    const Bytes png = saved(scene.path("bild.png"));
     EXPECT_TRUE(png.starts_with("\x89PNG\r\n")) << png.size();
     EXPECT_GT(png.size(), 3000u);
     EXPECT_TRUE(png.ends_with(Bytes("IEND\xAE\x42\x60\x82"))) << "it is whole";
-    const Bytes emf = saved("bild.emf");
+    const Bytes emf = saved(scene.beside("bilder") + "\\bild.emf");
     ASSERT_GT(emf.size(), 1000u);
     EXPECT_EQ(emf.substr(40, 4), " EMF");
     EXPECT_EQ(program.currentDirectory(), scene.folder()) << "the engine works there";
