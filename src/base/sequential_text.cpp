@@ -6,6 +6,27 @@
 
 namespace varno {
 
+namespace {
+
+// The system looks for one byte many at a time, but for one of two it would be asked byte by byte. In pieces, as a text
+// may hold but one of the two and is not to be searched to its end for the other after every line.
+std::size_t lineEnd(std::string_view text, std::size_t from) {
+    constexpr std::size_t piece = 256;
+    for (; from < text.size(); from += piece) {
+        const std::string_view part = text.substr(from, piece);
+        const std::size_t end = part.find('\r');
+        const std::size_t first = std::min(end, part.substr(0, end).find('\n'));
+        if (first != std::string_view::npos) return from + first;
+    }
+    return text.size();
+}
+
+bool endsField(char c) {
+    return c == ',' || c == '\r' || c == '\n';
+}
+
+} // namespace
+
 void SequentialText::skipBlanks() {
     while (at(' '))
         ++position_;
@@ -35,7 +56,9 @@ Bytes SequentialText::readField() {
         position_ = std::min(close + 1, bytes_.size());
         skipBlanks();
     } else {
-        const auto end = std::min(bytes_.find_first_of(",\r\n", position_), bytes_.size());
+        const auto begin = bytes_.begin() + static_cast<std::ptrdiff_t>(position_);
+        const auto end =
+            static_cast<std::size_t>(std::find_if(begin, bytes_.end(), endsField) - bytes_.begin());
         field = bytes_.substr(position_, end - position_);
         position_ = end;
     }
@@ -49,7 +72,7 @@ Bytes SequentialText::readField() {
 
 Bytes SequentialText::readLine() {
     if (atEnd()) throw RunTimeError(errInputPastEnd);
-    const auto end = std::min(bytes_.find_first_of("\r\n", position_), bytes_.size());
+    const auto end = lineEnd(bytes_, position_);
     Bytes line = bytes_.substr(position_, end - position_);
     position_ = end;
     skipLineEnd();

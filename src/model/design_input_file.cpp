@@ -1,5 +1,6 @@
 #include "model/design_input_file.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "base/numbers.h"
@@ -17,6 +18,7 @@ std::string cellOf(Number value, CellFormat cell) {
     return text;
 }
 std::string cellOf(std::int16_t value, const CellFormat& cell) {
+    if (!cell.isColumn()) return std::to_string(value);
     return cellOf(static_cast<double>(value), cell);
 }
 std::string cellOf(const Factor& factor, CellFormat cell) {
@@ -53,7 +55,7 @@ void takeLine(const CaseLine& line, const Bytes& text, CaseFile& caseFile) {
     DesignCase& designCase = caseFile.designCase;
     std::size_t position = 0;
     forEachNumber(line, designCase, [&](CellFormat cell, auto, auto, auto at) {
-        const Bytes number = position < text.size() ? text.substr(position, cell.width) : Bytes();
+        const auto number = std::string_view(text).substr(std::min(position, text.size()), cell.width);
         position += cell.width;
         at(designCase) = valueOf<NumberAt<decltype(at)>>(VARNO1::parseNumber(number));
     });

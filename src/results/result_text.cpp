@@ -1,5 +1,7 @@
 #include "results/result_text.h"
 
+#include <algorithm>
+
 #include "base/oem_letters.h"
 #include "base/run_time_error.h"
 
@@ -7,17 +9,11 @@ namespace varno {
 
 void RepairedText::appendLine(std::string_view line) {
     text_ += "\r\n";
-    const std::size_t start = text_.size();
     text_ += line;
     for (std::size_t letter = 0; letter < oemLetters.size(); ++letter) {
-        Places& places = places_[letter];
-        for (auto at = text_.find(oemLetters[letter].dos, start); at != Bytes::npos;
-             at = text_.find(oemLetters[letter].dos, at + 1)) {
-            places.found.push_back(at);
-        }
-        if (places.repaired < places.found.size()) {
-            text_[places.found[places.repaired++]] = oemLetters[letter].windows;
-        }
+        const std::size_t at = std::min(text_.find(oemLetters[letter].dos, searched_[letter]), text_.size());
+        if (at < text_.size()) text_[at] = oemLetters[letter].windows;
+        searched_[letter] = at;
     }
 }
 
@@ -39,7 +35,7 @@ varno::Bytes readPage(varno::File& file) {
         page.appendLine(line);
         ended = line.find(endOfPage) != varno::Bytes::npos;
     }
-    return page.bytes();
+    return std::move(page).bytes();
 }
 
 } // namespace
@@ -48,7 +44,7 @@ varno::Bytes readResultText(varno::File& file) {
     varno::RepairedText text;
     while (!file.atEnd())
         text.appendLine(file.readLine());
-    return text.bytes();
+    return std::move(text).bytes();
 }
 
 std::vector<varno::Bytes> readResultPages(varno::File& file) {

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "base/file.h"
@@ -15,23 +16,19 @@ namespace varno {
 /// stands in the text so far; a letter that occurs more often than lines follow it keeps DOS codes. The
 /// engine's files rely on it.
 ///
-/// The places still to be repaired are remembered, so that a text of N bytes costs N steps, not N for every
+/// Every letter is searched for from behind its last one on, so that a text of N bytes costs N steps, not N for every
 /// line.
 class RepairedText {
   public:
     void appendLine(std::string_view line);
 
     /// Windows-1252; every line is preceded by CR LF.
-    const Bytes& bytes() const { return text_; }
+    const Bytes& bytes() const& { return text_; }
+    Bytes bytes() && { return std::move(text_); }
 
   private:
-    struct Places {
-        std::vector<std::size_t> found;
-        std::size_t repaired = 0;
-    };
-
     Bytes text_;
-    std::array<Places, 6> places_;
+    std::array<std::size_t, 6> searched_{}; ///< how far, for each letter
 };
 
 } // namespace varno

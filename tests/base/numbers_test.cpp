@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <limits>
+#include <random>
 
 #include "support/comma_locale.h"
 #include "support/memory_files.h"
@@ -159,6 +160,23 @@ TEST(ParseNumber, TakesTextsOfAnyLength) {
     EXPECT_EQ(VARNO1::parseNumber(std::string(400, '0') + "7"), 7);
     EXPECT_EQ(VARNO1::parseNumber("1" + std::string(400, '0') + "e-400"), 1);
     EXPECT_EQ(VARNO1::parseNumber(std::string(100000, ' ') + "7"), 7);
+}
+
+// A blank in front sends a text the long way, which looks for blanks everywhere.
+TEST(ParseNumber, ReadsTheSameTheShortWayAndTheLong) {
+    std::mt19937 random(7);
+    constexpr std::string_view alphabet = "0123456789012345.-+eEdD, xinf";
+    for (int round = 0; round < 20000; ++round) {
+        std::string text(random() % 9, ' ');
+        for (char& c : text)
+            c = alphabet[random() % alphabet.size()];
+        const double found = VARNO1::parseNumber(text);
+        const double expected = VARNO1::parseNumber(" " + text);
+        ASSERT_EQ(found, expected) << text;
+        ASSERT_EQ(std::signbit(found), std::signbit(expected)) << text;
+    }
+    for (const char* const text : {"1e999", "-1e999", "1e-999", "-1e-999", "-inf", "nan", "0x10"})
+        EXPECT_EQ(VARNO1::parseNumber(text), VARNO1::parseNumber(std::string(" ") + text)) << text;
 }
 
 TEST(ParseNumber, KeepsTheSignOfZero) {

@@ -95,6 +95,15 @@ TEST(SequentialText, EndsWithInputPastEndOfFile) {
     EXPECT_EQ(errorOf([&] { empty.readField(); }), errInputPastEnd);
 }
 
+TEST(SequentialText, FindsTheEndOfALineOfAnyLength) {
+    for (const Bytes end : {"\r\n", "\n", "\r"}) {
+        for (std::size_t length = 250; length < 780; ++length) {
+            const Bytes line(length, 'x');
+            ASSERT_EQ(wholeLinesOf(line + end + "y" + end), (std::vector<Bytes>{line, "y"})) << length;
+        }
+    }
+}
+
 } // namespace
 
 } // namespace varno
