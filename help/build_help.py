@@ -90,6 +90,22 @@ def with_pictures(page, folder, out):
     return page
 
 
+def in_swedish_order(page):
+    """The index, whose rows Halibut sorts as the machine's locale has it: the same everywhere, with å, ä and ö last."""
+    heading = '<h2><a name="Register"></a>Register</h2><p>\n'
+    if page.count(heading) != 1:
+        fail("no index")
+    start = page.index(heading) + len(heading)
+    end = page.index("</p>", start)
+    letters = str.maketrans("åäö", "\U00010000\U00010001\U00010002")
+
+    def place(row):
+        return row.split(": <a href=")[0].lower().translate(letters)
+
+    rows = page[start:end].strip().removesuffix("<br>").split("<br>\n")
+    return page[:start] + "<br>\n".join(sorted(rows, key=place)) + "\n" + page[end:]
+
+
 def build_html(arguments, topics):
     folder = arguments.out / "html"
     shutil.rmtree(folder, ignore_errors=True)
@@ -99,6 +115,7 @@ def build_html(arguments, topics):
     index = folder / "index.html"
     page = index.read_text(encoding="utf-8")
     page = page.replace("<html>", '<html lang="sv">', 1).replace("</head>", STYLE + "</head>", 1)
+    page = in_swedish_order(page)
     page = with_pictures(page, arguments.pictures, folder / "bilder")
     index.write_text(page, encoding="utf-8", newline="\n")
     headings = headings_of(page)
@@ -115,6 +132,7 @@ def build_hlp(arguments, topics):
     try:
         file = winhelp_file.HelpFile(path.read_bytes())
         file.set_date(0)
+        file.replace_macros({'"&Up"': '"&Upp"', '"&About"': '"&Om"'})
         file.set_context_numbers([(name.replace("-", "_"), number) for name, number in topics])
     except winhelp_file.HelpFileError as error:
         fail(str(error))

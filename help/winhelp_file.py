@@ -1,4 +1,4 @@
-"""Gives the topics of a WinHelp file their context numbers.
+"""Gives the topics of a WinHelp file their context numbers, and its buttons other captions.
 
 Halibut names topics in |CONTEXT, by a hash of the name, and leaves |CTXOMAP empty. A program that asks for a topic by
 its context number, HELP_CONTEXT, needs |CTXOMAP; of the ways of asking it is the one that every help viewer knows.
@@ -10,7 +10,9 @@ A WinHelp file is a small file system. All numbers are little-endian.
     directory  a B+ tree of file names, each ended by a zero byte, with the int32 offset of the file
     |CONTEXT   a B+ tree of hash, int32, and topic offset, int32
     |CTXOMAP   number of entries, uint16, and for each its context number and topic offset, int32 each
-    |SYSTEM    magic, minor and major version: uint16; date of making, seconds since 1970, int32; and more
+    |SYSTEM    magic, minor and major version: uint16; date of making, seconds since 1970, int32; flags, uint16; then
+               records to its end: kind and length, uint16 each, and content. One of kind 4 is a macro, ended by a
+               zero byte, that the viewer runs when it opens the file: it makes a button
     B+ tree    magic 0x293B, flags, page size: uint16; structure, 16 bytes; 0, splits, root page, -1, pages, levels:
                int16; entries, int32; then the pages. Leaf: unused bytes, entries, previous and next page (-1: none),
                int16 each. Index page: unused bytes, entries, leftmost page.
@@ -22,6 +24,9 @@ MAGIC = 0x00035F3F
 TREE_MAGIC = 0x293B
 FILE_HEADER = struct.Struct("<iiB")
 TREE_HEADER = struct.Struct("<HHH16shhhhhhi")
+RECORD_HEADER = struct.Struct("<HH")
+SYSTEM_HEADER_SIZE = 12
+MACRO = 4
 LEAF_HEADER = struct.Struct("<hhhh")
 
 
@@ -88,6 +93,34 @@ class HelpFile:
         """With a fixed date the same source gives the same file."""
         struct.pack_into("<i", self.content, self.files["|SYSTEM"][1] + FILE_HEADER.size + 6, seconds)
 
+    def replace_macros(self, texts):
+        """In the macros that run when the file is opened. `texts`: old to new; each old one must be there once."""
+        start = self.files["|SYSTEM"][1]
+        _, used, _ = FILE_HEADER.unpack_from(self.content, start)
+        at, end = start + FILE_HEADER.size + SYSTEM_HEADER_SIZE, start + FILE_HEADER.size + used
+        body = bytes(self.content[start + FILE_HEADER.size : at])
+        left = dict(texts)
+        while at < end:
+            kind, length = RECORD_HEADER.unpack_from(self.content, at)
+            at += RECORD_HEADER.size
+            record = bytes(self.content[at : at + length])
+            at += length
+            for old in [old for old in left if kind == MACRO and old.encode("cp1252") in record]:
+                record = record.replace(old.encode("cp1252"), left.pop(old).encode("cp1252"))
+            body += RECORD_HEADER.pack(kind, len(record)) + record
+        if left:
+            raise HelpFileError(f"no macro with {', '.join(left)}")
+        self._set_file("|SYSTEM", body)
+
+    def _set_file(self, name, body):
+        """Behind all others: where it stood it may be too long for its place."""
+        place, _ = self.files[name]
+        offset = len(self.content)
+        self.content += FILE_HEADER.pack(FILE_HEADER.size + len(body), len(body), 0) + body
+        struct.pack_into("<i", self.content, place, offset)
+        struct.pack_into("<I", self.content, 12, len(self.content))
+        self.files[name] = (place, offset)
+
     def set_context_numbers(self, topics):
         """`topics`: pairs of topic name and context number."""
         offsets = self.topics()
@@ -97,9 +130,4 @@ class HelpFile:
                 raise HelpFileError(f"the help file has no topic {name}")
             rows += struct.pack("<ii", number, offsets[topic_hash(name)])
         body = struct.pack("<H", len(topics)) + rows
-        place, _ = self.files["|CTXOMAP"]
-        offset = len(self.content)
-        self.content += FILE_HEADER.pack(FILE_HEADER.size + len(body), len(body), 0) + body
-        struct.pack_into("<i", self.content, place, offset)
-        struct.pack_into("<I", self.content, 12, len(self.content))
-        self.files["|CTXOMAP"] = (place, offset)
+        self._set_file("|CTXOMAP", body)

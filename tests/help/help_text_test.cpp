@@ -65,6 +65,46 @@ TEST(HelpText, EveryReferenceOfThePageLeadsSomewhere) {
     }
 }
 
+// The rows of the index: "spännvidd: <a href=...>Avsnitt 2.2</a>, ...".
+std::string index() {
+    const std::string heading = "<h2><a name=\"Register\"></a>Register</h2>";
+    const auto start = helpPage().find(heading);
+    return start == std::string::npos ? "" : helpPage().substr(start + heading.size());
+}
+
+TEST(HelpText, TheIndexLeadsToEveryFieldWindowAndMessage) {
+    std::set<std::string> led;
+    for (const std::string& reference : between(index(), "href=\"#", "\"")) {
+        const auto place = helpPage().find("<a name=\"" + reference + "\">");
+        ASSERT_NE(place, std::string::npos) << reference;
+        // The heading that the place stands under.
+        const std::string before = helpPage().substr(0, place);
+        const auto heading = before.rfind("\n<h");
+        ASSERT_NE(heading, std::string::npos) << reference;
+        led.insert(between(helpPage().substr(heading), "<a name=\"", "\"").front());
+    }
+    for (const HelpTopic& topic : helpTopics) {
+        const std::string name(topic.name);
+        if (name.starts_with("falt-") || name.starts_with("medd-") || name.starts_with("fil-")) {
+            EXPECT_TRUE(led.contains(name)) << name;
+        }
+    }
+    for (const char* name : {"korning", "fonster-utdata", "fonster-diagram", "fonster-filnamn",
+                             "fonster-typsnitt", "fonster-ta-bort", "tangenter"})
+        EXPECT_TRUE(led.contains(name)) << name;
+}
+
+TEST(HelpText, TheIndexIsInSwedishOrder) {
+    std::size_t last = 0;
+    for (const char* term : {"\nansvar: ", "\nBKR: ", "\nmotor: ", "\nmotor, byta: ", "\nundertak: ",
+                             "\nångra, Ctrl+Z: ", "\näldre än indata: ", "\nöppna ett fall: "}) {
+        const auto at = index().find(term);
+        ASSERT_NE(at, std::string::npos) << term;
+        EXPECT_GT(at, last) << term;
+        last = at;
+    }
+}
+
 TEST(HelpText, APageOfItsOwnLeadsToEachTopic) {
     for (const HelpTopic& topic : helpTopics) {
         const std::string name(topic.name);
@@ -102,6 +142,7 @@ TEST(HelpText, NothingIsLeftUntranslatedAndNoLetterIsBroken) {
     EXPECT_EQ(occurrences(helpPage(), "\xEF\xBF\xBD"), 0U); // the replacement character
     for (const char* english : {"Chapter ", "Section ", "Contents"})
         EXPECT_EQ(occurrences(readText(), english), 0U) << english;
+    EXPECT_EQ(occurrences(readText(), "ryssrutan"), 0U); // what closes a window is no check box
     EXPECT_NE(readText().find("exempelmotor"), std::string::npos);
 }
 

@@ -36,6 +36,14 @@ TEST(WinHelpFile, ItsTitleIsInTheLettersOfWindows) {
     EXPECT_NE(builtFile().system.find("Kalvora Tessaplan - hj\xE4lp"), std::string::npos);
 }
 
+TEST(WinHelpFile, ItsButtonsAreInSwedish) {
+    const HelpFile file = builtFile();
+    EXPECT_NE(file.system.find("\"&Upp\""), std::string::npos);
+    EXPECT_NE(file.system.find("\"&Om\""), std::string::npos);
+    for (const char* english : {"&Up\"", "&About"})
+        EXPECT_EQ(file.system.find(english), std::string::npos) << english;
+}
+
 TEST(WinHelpFile, ADamagedFileIsSeenAsSuch) {
     std::string bytes = contentOf(builtHelp() / "Varno.HLP");
     bytes.pop_back();
