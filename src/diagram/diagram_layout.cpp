@@ -15,6 +15,7 @@ constexpr int aboveButton = raster(2);
 constexpr int buttonWidth = raster(150);
 constexpr int buttonHeight = raster(28);
 constexpr int textLine = raster(16);
+constexpr int wordsWidth = raster(430); // of the longest words beside the button
 constexpr int besidePicture = 2 * margin;
 constexpr int belowPicture = aboveButton + buttonHeight + margin;
 static_assert(naturalDiagramWidth == pictureWidth + besidePicture);
@@ -41,8 +42,9 @@ DiagramLayout diagramLayout(int width, int height, int dpi) {
 }
 
 Area leastDiagramArea(int dpi) {
-    return {0, 0, pixelsOf(pictureWidth / 2 + besidePicture, dpi),
-            pixelsOf(pictureHeight / 2 + 2 * margin + belowPicture, dpi)};
+    constexpr int width = std::max(pictureWidth / 2 + besidePicture, 3 * margin + buttonWidth + wordsWidth);
+    constexpr int height = pictureHeight / 2 + 2 * margin + belowPicture;
+    return {0, 0, pixelsOf(width, dpi), pixelsOf(height, dpi)};
 }
 
 } // namespace varno
