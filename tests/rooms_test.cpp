@@ -46,8 +46,11 @@ struct Include {
     std::string included;
 };
 
-std::vector<Include> includesUnder(const fs::path& root) {
-    const std::regex line(R"re(^\s*#\s*include\s*"([^"]+)")re");
+constexpr const char* own = R"re("([^"]+)")re";
+constexpr const char* ofTheSystem = R"re(<([^>]+)>)re";
+
+std::vector<Include> includesUnder(const fs::path& root, const std::string& name) {
+    const std::regex line(R"re(^\s*#\s*include\s*)re" + name);
     std::vector<Include> found;
     for (const auto& entry : fs::recursive_directory_iterator(root)) {
         const auto ending = entry.path().extension();
@@ -70,13 +73,23 @@ TEST(Rooms, EveryFolderHasItsPlace) {
 }
 
 TEST(Rooms, IncludesRunDownwards) {
-    const auto includes = includesUnder(VARNO_ROOMS);
+    const auto includes = includesUnder(VARNO_ROOMS, own);
     ASSERT_GT(includes.size(), 300U);
     for (const Include& include : includes) {
         const std::string from = roomOf(include.file);
         if (from.empty()) continue; // main.cpp stands above all rooms
         EXPECT_TRUE(allowed(from, roomOf(include.included)))
             << include.file << " includes " << include.included;
+    }
+}
+
+// They bring the library's locales with them, which nearly double the program.
+TEST(Rooms, NoneUsesStreams) {
+    const auto includes = includesUnder(VARNO_ROOMS, ofTheSystem);
+    ASSERT_GT(includes.size(), 300U);
+    for (const Include& include : includes) {
+        for (const std::string_view stream : {"sstream", "iostream", "fstream", "iomanip", "locale", "regex"})
+            EXPECT_NE(include.included, stream) << include.file;
     }
 }
 
