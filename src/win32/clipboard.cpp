@@ -37,7 +37,7 @@ std::string clipboardText(HWND owner) {
     if (data == nullptr) return {};
     const auto* const letters = static_cast<const wchar_t*>(GlobalLock(data));
     if (letters == nullptr) return {};
-    const std::string text = narrow(letters);
+    std::string text = narrow(letters);
     GlobalUnlock(data);
     return text;
 }
