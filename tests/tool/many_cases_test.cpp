@@ -124,9 +124,10 @@ class ManyMachines : public ManyCases {
             for (auto at = block.find(from); at != std::string::npos; at = block.find(from, at + to.size()))
                 block.replace(at, from.size(), to);
         }
-        return "export SRV=$(cd -P .. && pwd)/srv PATH=\"$PWD/bin:$PATH\" PARALLEL_HOME=\"$PWD/home\"; mkdir "
-               "-p home; touch "
-               "home/will-cite\n" +
+        // Its home may hold plain letters only.
+        return "above=$(cd -P .. && pwd); export SRV=$above/srv PATH=\"$PWD/bin:$PATH\" "
+               "PARALLEL_HOME=$above/home\n"
+               "mkdir -p $PARALLEL_HOME; touch $PARALLEL_HOME/will-cite\n" +
                block;
     }
     std::vector<std::string> starts() const {
