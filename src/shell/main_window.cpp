@@ -3,7 +3,6 @@
 #include <oleacc.h>
 
 #include <algorithm>
-#include <cmath>
 
 #include "controls/control_ids.h"
 #include "controls/control_spec.h"
@@ -11,12 +10,12 @@
 #include "shell/flag_painter.h"
 #include "shell/main_layout.h"
 #include "shell/menu_table.h"
-#include "shell/support_painter.h"
 #include "win32/accessible_names.h"
 #include "win32/dpi.h"
 #include "win32/given_files.h"
 #include "win32/popup_menu.h"
 #include "win32/strings.h"
+#include "win32/support_painter.h"
 
 namespace varno {
 
@@ -26,7 +25,6 @@ constexpr UINT showErrorMessage = WM_APP + 1;
 constexpr int buttonCount = 16; // stod
 constexpr UINT_PTR statusTimer = 1;
 constexpr UINT statusInterval = 200; // ms
-constexpr int statusParts[]{idStatusState, idStatusFolder, idStatusLength, idStatusResult, idStatusReason};
 
 void put(HWND window, const Area& area) {
     win32::setPlace(window, area.x, area.y, area.width, area.height);
@@ -91,15 +89,7 @@ void MainWindow::createParts() {
     flagLabel_ = win32::createControl(handle(), 0, L"STATIC", "", WS_VISIBLE | SS_LEFT | SS_NOPREFIX);
     win32::nameForScreenReaders(flagLabel_, "", ROLE_SYSTEM_STATICTEXT);
     win32::nameForScreenReaders(toolbar_.handle(), "Verktyg", ROLE_SYSTEM_TOOLBAR);
-    for (const int part : statusParts) {
-        const DWORD cut = part == idStatusFolder   ? SS_PATHELLIPSIS
-                          : part == idStatusReason ? SS_ENDELLIPSIS
-                                                   : 0;
-        const DWORD shown = part == idStatusReason ? 0 : WS_VISIBLE;
-        const HWND label = win32::createControl(handle(), part, L"STATIC", "",
-                                                shown | cut | SS_LEFT | SS_NOPREFIX | SS_CENTERIMAGE);
-        win32::nameForScreenReaders(label, "", ROLE_SYSTEM_STATICTEXT);
-    }
+    statusLabels_.create(handle());
     CLIENTCREATESTRUCT client{};
     client.idFirstChild = idFirstMdiChild;
     mdiClient_ = win32::createControl(handle(), idMdiClient, L"MDICLIENT", "",
@@ -111,8 +101,7 @@ void MainWindow::setDpi(int dpi) {
     toolbar_.setDpi(dpi);
     win32::UniqueFont font = win32::systemFont(dpi);
     SendMessageW(flagLabel_, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
-    for (const int part : statusParts)
-        SendMessageW(GetDlgItem(handle(), part), WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
+    statusLabels_.setFont(font.get());
     font_ = std::move(font);
 }
 
@@ -160,11 +149,7 @@ void MainWindow::layOut() {
     for (int flag = 0; flag < flagCount; ++flag)
         put(GetDlgItem(handle(), idFlag + flag), layout.flag);
     put(flagLabel_, layout.flagName);
-    put(GetDlgItem(handle(), idStatusState), layout.statusState);
-    put(GetDlgItem(handle(), idStatusFolder), layout.statusFolder);
-    put(GetDlgItem(handle(), idStatusLength), layout.statusLength);
-    put(GetDlgItem(handle(), idStatusResult), layout.statusResult);
-    put(GetDlgItem(handle(), idStatusReason), layout.statusReason);
+    statusLabels_.place(layout);
     put(mdiClient_, layout.form);
     events_->clientResized(layout.form.width, layout.form.height);
     // Parts that change places would carry pieces of each other along.
@@ -172,9 +157,7 @@ void MainWindow::layOut() {
 }
 
 void MainWindow::placeSupportButtons() {
-    const auto toPixels = [this](double twips) {
-        return static_cast<int>(std::lround(twips * sketchDpi_ / twipsPerInch));
-    };
+    const auto toPixels = [this](double twips) { return pixelsOf(twips, sketchDpi_); };
     for (int i = 0; i < buttonCount; ++i) {
         const HWND button = GetDlgItem(slabStrip_.handle(), idSupportButton + i);
         const SketchPicture::Button& state = sketch_.button(i);
@@ -183,32 +166,6 @@ void MainWindow::placeSupportButtons() {
                             toPixels(supportButtonHeight));
         ShowWindow(button, state.visible ? SW_SHOWNA : SW_HIDE);
     }
-}
-
-void MainWindow::showStatus(const StatusWords& words) {
-    if (words == status_) return;
-    const bool swap = words.reason.empty() != status_.reason.empty();
-    status_ = words;
-    const auto show = [this](int part, const std::string& text) {
-        const HWND label = GetDlgItem(handle(), part);
-        if (win32::textOf(label) != text) win32::setText(label, text);
-    };
-    show(idStatusState, words.state);
-    show(idStatusFolder, words.folder);
-    show(idStatusLength, words.length);
-    show(idStatusResult, words.result);
-    show(idStatusReason, words.reason);
-    if (!swap) return;
-    for (const int part : statusParts) {
-        const bool isReason = part == idStatusReason;
-        ShowWindow(GetDlgItem(handle(), part), isReason == words.reason.empty() ? SW_HIDE : SW_SHOWNA);
-    }
-}
-
-bool MainWindow::onStatusState(POINT pointer) const {
-    RECT area{};
-    GetWindowRect(GetDlgItem(handle(), idStatusState), &area);
-    return PtInRect(&area, pointer) && GetAncestor(WindowFromPoint(pointer), GA_ROOT) == handle();
 }
 
 bool MainWindow::onGreyDiagram(POINT pointer) const {
@@ -348,7 +305,7 @@ LRESULT MainWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
         if (item.CtlType != ODT_BUTTON) break;
         if (item.CtlID >= idSupportButton && item.CtlID < idSupportButton + buttonCount) {
-            paintSupport(item.hDC, item.rcItem, dpi_, (item.itemState & ODS_SELECTED) != 0);
+            win32::paintSupport(item.hDC, item.rcItem, dpi_, (item.itemState & ODS_SELECTED) != 0);
             return TRUE;
         }
         paintFlag(item.hDC, item.rcItem, static_cast<int>(item.CtlID) - idFlag,

@@ -11,7 +11,7 @@
 #include "controls/main_view.h"
 #include "input/sketch_picture.h"
 #include "shell/main_layout.h"
-#include "shell/status_line.h"
+#include "shell/status_window.h"
 #include "shell/toolbar_window.h"
 #include "win32/dpi.h"
 #include "win32/picture_window.h"
@@ -75,11 +75,11 @@ class MainWindow : public win32::Window, public MainView {
     }
     /// Below the toolbar button "Öppna...", on the screen.
     POINT belowOpenButton() const;
-    void showStatus(const StatusWords& words);
+    void showStatus(const StatusWords& words) { statusLabels_.show(words); }
     /// "Diagram" is grey, and the pointer, or a menu walked through with keys, is on it: its menu or its toolbar button.
     bool onGreyDiagram(POINT pointer) const;
     /// The pointer is where the status line tells the state, whatever it shows just now.
-    bool onStatusState(POINT pointer) const;
+    bool onStatusState(POINT pointer) const { return statusLabels_.onState(pointer); }
     /// Paints the sketch and places the support buttons as they are now.
     void sketchChanged();
     /// Later, when the current event is over, MainEvents::showRunTimeError is called.
@@ -117,7 +117,7 @@ class MainWindow : public win32::Window, public MainView {
     HWND mdiClient_ = nullptr;
     HWND flagLabel_ = nullptr;
     HMENU fileMenu_ = nullptr;
-    StatusWords status_;
+    StatusLabels statusLabels_;
     bool menuOnDiagram_ = false;
     win32::UniqueFont font_;
     bool diagramEnabled_ = true;

@@ -1,8 +1,8 @@
-#include "shell/support_painter.h"
+#include "win32/support_painter.h"
 
 #include <algorithm>
 
-namespace varno {
+namespace varno::win32 {
 
 void paintSupport(HDC dc, const RECT& box, int dpi, bool pressed) {
     FillRect(dc, &box, GetSysColorBrush(COLOR_BTNTEXT));
@@ -13,4 +13,4 @@ void paintSupport(HDC dc, const RECT& box, int dpi, bool pressed) {
     if (!pressed) DrawEdge(dc, &inside, BDR_RAISEDINNER, BF_RECT);
 }
 
-} // namespace varno
+} // namespace varno::win32
