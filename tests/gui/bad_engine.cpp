@@ -21,9 +21,18 @@ std::string firstLineOf(const char* path) {
     std::abort();
 }
 
+// Appended to "anrop.txt", one line a call.
+void noteCall(int count, char** arguments) {
+    std::ofstream out("anrop.txt", std::ios::binary | std::ios::app);
+    for (int i = 1; i < count; ++i)
+        out << (i == 1 ? "" : " ") << arguments[i];
+    out << "\r\n";
+}
+
 } // namespace
 
-int main() {
+int main(int count, char** arguments) {
+    if (count > 1) noteCall(count, arguments);
     const std::string how = firstLineOf("motor.txt");
     const std::string result = firstLineOf("~indata~.tmp") + ".res";
     if (how == "kraschar") crash();

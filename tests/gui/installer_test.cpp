@@ -7,6 +7,7 @@
 
 #include <filesystem>
 
+#include "driver/process.h"
 #include "driver/program.h"
 #include "driver/wait.h"
 #include "soon.h"
@@ -29,27 +30,6 @@ std::string registered(const std::string& key, const std::string& name = {}) {
                      &size) != ERROR_SUCCESS)
         return {};
     return narrow(text);
-}
-
-// The process of a program file, once it shows a window of its own.
-DWORD processOf(const std::string& program) {
-    DWORD found = 0;
-    waitUntil([&] {
-        for (HWND window = GetTopWindow(nullptr); window != nullptr;
-             window = GetWindow(window, GW_HWNDNEXT)) {
-            DWORD id = 0;
-            GetWindowThreadProcessId(window, &id);
-            const win32::UniqueHandle process(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id));
-            wchar_t path[MAX_PATH] = L"";
-            DWORD length = MAX_PATH;
-            if (IsWindowVisible(window) && process &&
-                QueryFullProcessImageNameW(process.get(), 0, path, &length) &&
-                _wcsicmp(path, wide(program).c_str()) == 0)
-                found = id;
-        }
-        return found != 0;
-    });
-    return found;
 }
 
 class Installer : public ::testing::Test {

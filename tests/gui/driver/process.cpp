@@ -3,6 +3,8 @@
 #include <psapi.h>
 
 #include "driver/wait.h"
+#include "win32/strings.h"
+#include "win32/unique.h"
 
 namespace varno::gui {
 
@@ -27,6 +29,26 @@ std::vector<Control> visibleWindows(HANDLE process) {
     Visible visible{GetProcessId(process), {}};
     EnumWindows(addVisible, reinterpret_cast<LPARAM>(&visible));
     return visible.found;
+}
+
+DWORD processOf(const std::string& program) {
+    DWORD found = 0;
+    waitUntil([&] {
+        for (HWND window = GetTopWindow(nullptr); window != nullptr;
+             window = GetWindow(window, GW_HWNDNEXT)) {
+            DWORD id = 0;
+            GetWindowThreadProcessId(window, &id);
+            const win32::UniqueHandle process(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id));
+            wchar_t path[MAX_PATH] = L"";
+            DWORD length = MAX_PATH;
+            if (IsWindowVisible(window) && process &&
+                QueryFullProcessImageNameW(process.get(), 0, path, &length) &&
+                _wcsicmp(path, win32::wide(program).c_str()) == 0)
+                found = id;
+        }
+        return found != 0;
+    });
+    return found;
 }
 
 std::size_t ownMemory(HANDLE process) {
