@@ -1,5 +1,5 @@
 ; The installer: for one user, without administrator rights. Built by the target varno_setup, which defines
-;   PROGRAM ENGINE HELP SAMPLES ICON OUT VERSION    paths, and "7.1.0"
+;   PROGRAM TOOL ENGINE HELP SAMPLES ICON OUT VERSION    paths, and "7.1.0"
 ;
 ;   varno-setup.exe /S                silently
 ;   varno-setup.exe /WORK=C:\folder   another work folder than the one that is offered
@@ -100,6 +100,7 @@ Section
     !insertmacro FreeProgram
     SetOutPath "$INSTDIR"
     File "/oname=varno.exe" "${PROGRAM}"
+    File "/oname=varnotool.exe" "${TOOL}"
     File "${HELP}/Varno.HLP"
     File "${HELP}/Varno.cnt"
     SetOutPath "$INSTDIR\help"
@@ -183,6 +184,7 @@ FunctionEnd
 
 Section "un."
     !insertmacro FreeProgram
+    Delete "$INSTDIR\varnotool.exe"
     Delete "$INSTDIR\Varno.HLP"
     Delete "$INSTDIR\Varno.cnt"
     ; What the viewer of the help leaves beside it.

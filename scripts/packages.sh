@@ -10,18 +10,24 @@ build_packages=(
     python3
 )
 
-# What the tests need besides, and varnotool, here and for Windows.
+# For varnotool, here and for Windows.
+tool_packages=(
+    nlohmann-json3-dev
+    libcli11-dev
+)
+
+# What the tests need besides.
 test_packages=(
     g++
     googletest
-    nlohmann-json3-dev
-    libcli11-dev
+    "${tool_packages[@]}"
     parallel
 )
 
-# For varno-setup.exe, the installer.
+# For varno-setup.exe, the installer, which brings varnotool too.
 setup_packages=(
     nsis
+    "${tool_packages[@]}"
 )
 
 # For the benchmarks (preset native-release).

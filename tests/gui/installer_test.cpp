@@ -110,11 +110,13 @@ class Installer : public ::testing::Test {
 
 TEST_F(Installer, IsStartedFromItsShortcutUsedAndRemoved) {
     ASSERT_EQ(install(), 0u);
-    for (const char* file : {"varno.exe", "Varno.HLP", "Varno.cnt", "help\\index.html", "uninstall.exe"})
+    for (const char* file :
+         {"varno.exe", "varnotool.exe", "Varno.HLP", "Varno.cnt", "help\\index.html", "uninstall.exe"})
         EXPECT_TRUE(fileExists(programFolder + "\\" + file)) << file;
     for (const char* file : {"varno.ini", "varno.def", "varnowb.exe", "BOSTAD.IND"})
         EXPECT_TRUE(fileExists(inWork(file))) << file;
     EXPECT_EQ(registered(productKey, "DisplayName"), "Kalvora Tessaplan");
+    EXPECT_EQ(ran(programFolder + "\\varnotool.exe", "check \"" + inWork("BOSTAD.IND") + "\""), 0u);
 
     open(shortcut());
     {
@@ -131,7 +133,7 @@ TEST_F(Installer, IsStartedFromItsShortcutUsedAndRemoved) {
     EXPECT_TRUE(fileExists(inWork("EGET.res")));
 
     uninstall();
-    EXPECT_FALSE(fileExists(program));
+    EXPECT_FALSE(fileExists(programFolder)) << "nothing of the program stays";
     EXPECT_FALSE(fileExists(shortcut()));
     EXPECT_FALSE(fileExists(inWork("varnowb.exe"))) << "the sample";
     for (const char* file : {"EGET.IND", "EGET.res", "BOSTAD.IND", "varno.def", "varno.ini"})
