@@ -4,6 +4,7 @@
 
 #include <set>
 
+#include "controls/rule_sets.h"
 #include "input/form_layout.h"
 
 namespace varno::testing {
@@ -71,7 +72,7 @@ TEST(FormLayout, NothingCoversAnythingButTheClassGroupsOneAnother) {
     const auto controls = inputFormLayout();
     const auto inClassGroup = [](const ControlSpec& control) {
         const auto known = controlOfId(control.id);
-        return known && known->field >= Field::shkl && known->field <= Field::shkleu;
+        return known && ruleSetWith(&RuleSet::classGroup, known->field) != nullptr;
     };
     for (std::size_t i = 0; i < controls.size(); ++i) {
         for (std::size_t j = i + 1; j < controls.size(); ++j) {

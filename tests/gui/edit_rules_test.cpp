@@ -28,6 +28,11 @@ constexpr std::array ruleSets{
     RuleSet{6, 6, "Eurokod, allmänt", Field::shkleu, "Säkerhetsklass", {"RC1", "RC2", "RC3"}},
 };
 
+constexpr int lastFlag = static_cast<int>(ruleSets.size());
+constexpr int nextFlag(int number) {
+    return number % lastFlag + 1;
+}
+
 class EditRules : public Editing {
   protected:
     static Control flag(int number) { return mainItem(idFlag + number); }
@@ -35,8 +40,13 @@ class EditRules : public Editing {
     static void clickFlag(int number) {
         ASSERT_TRUE(flag(number).visible()) << number;
         flag(number).clickInto();
-        expectSoon(program(), true, [&] { return flag(number % 6 + 1).visible(); });
+        expectSoon(program(), true, [&] { return flag(nextFlag(number)).visible(); });
         settle();
+    }
+    // All of them, round the last one if need be.
+    static void clickFlags(int first, int last) {
+        for (int number = first; number != nextFlag(last); number = nextFlag(number))
+            clickFlag(number);
     }
     static int chosen(Field group) {
         int option = 0;
@@ -47,7 +57,7 @@ class EditRules : public Editing {
     }
     static void expectShown(const RuleSet& set);
     static void expectFlag(int number) {
-        for (int other = 0; other <= 6; ++other)
+        for (int other = 0; other <= lastFlag; ++other)
             EXPECT_EQ(flag(other).visible(), other == number) << "flag " << other;
     }
     static void chooseInMenu(std::initializer_list<WORD> keys);
@@ -72,7 +82,7 @@ void EditRules::expectShown(const RuleSet& set) {
     EXPECT_EQ(text(Field::loadFrame), set.number == 1 ? "Laster enl. BKR" : "Laster enl. Eurokod");
 }
 
-TEST_F(EditRules, SixFlagsGoRound) {
+TEST_F(EditRules, TheFlagsGoRound) {
     open({{3, "1"}});
     const DesignCase before = saved();
     EXPECT_FALSE(changed());
@@ -110,8 +120,7 @@ TEST_F(EditRules, FlagClickStoresTheFactorBeingTyped) {
     type(field(Field::ksi), "0,5");
     clickFlag(6);
     EXPECT_EQ(text(Field::ksi), shown("0.89")) << "that of the next rule set";
-    for (int number = 1; number <= 5; ++number)
-        clickFlag(number);
+    clickFlags(nextFlag(6), 5);
     EXPECT_EQ(text(Field::ksi), shown("0.50"));
     EXPECT_EQ(saved().ksi(6), 0.5);
 }
@@ -127,9 +136,7 @@ TEST_F(EditRules, SetTwoStartsFromItsFirstClassAndWritesThatOfSetFive) {
         EXPECT_EQ(saved().safetyClass(2), 1);
         clickFlag(5);
         EXPECT_EQ(chosen(Field::shkleu), 1);
-        clickFlag(6);
-        clickFlag(1);
-        clickFlag(2);
+        clickFlags(6, 2);
         EXPECT_EQ(chosen(Field::shkldk), choice);
         EXPECT_EQ(saved().safetyClass(5), choice);
         clickFlag(3);

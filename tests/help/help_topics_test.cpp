@@ -8,6 +8,7 @@
 #include <string>
 
 #include "controls/control_ids.h"
+#include "controls/rule_sets.h"
 #include "help/help_pages.h"
 #include "shell/menu_table.h"
 #include "support/temporary_folder.h"
@@ -58,8 +59,8 @@ TEST(HelpTopics, AControlIsFoundByItsNumberAndItsWindow) {
     EXPECT_EQ(helpTopicOf("VarnoInputForm", controlId({Field::upl, 3})), "falt-upl");
     EXPECT_EQ(helpTopicOf("VarnoInputForm", idFormLabel), "");
     EXPECT_EQ(helpTopicOf("VarnoMain", idFlag), "falt-flagga");
-    EXPECT_EQ(helpTopicOf("VarnoMain", idFlag + 6), "falt-flagga");
-    EXPECT_EQ(helpTopicOf("VarnoMain", idFlag + 7), "");
+    EXPECT_EQ(helpTopicOf("VarnoMain", idFlag + flagCount - 1), "falt-flagga");
+    EXPECT_EQ(helpTopicOf("VarnoMain", idFlag + flagCount), "");
     for (const char* editor : {"VarnoLineLoads", "VarnoFreeLineLoads"}) {
         EXPECT_EQ(helpTopicOf(editor, idLineLoadSpin), "falt-nllast");
         EXPECT_EQ(helpTopicOf(editor, idLineLoadField + 23), "falt-avst");

@@ -60,7 +60,7 @@ TEST(EditSteps, EveryKindOfEditIsOne) {
     rig.input.clicked({Field::kavko, 1});
     rig.choose(Field::aok, 2);
     rig.form.focus({Field::rubrik}); // the row is stored when the list is left
-    rig.input.flagClicked(6);
+    rig.input.flagClicked(flagCount - 1);
     const DesignCase& now = rig.designCase;
     EXPECT_EQ(now.loadCode, 1);
 

@@ -11,6 +11,7 @@ using varno::testing::errorOf;
 using varno::testing::InputRig;
 using varno::testing::Texts;
 
+constexpr int lastFlag = flagCount - 1; // a click on it leads to the Swedish rules
 constexpr std::array fiveFactors{Field::lambdaG, Field::ksi, Field::lambdaQ, Field::psi0, Field::psi1};
 
 void expectRuleSet(const InputRig& rig, int ruleSet, int flag) {
@@ -33,16 +34,16 @@ void expectRuleSet(const InputRig& rig, int ruleSet, int flag) {
     EXPECT_EQ(rig.text({Field::psi2}), formatNumber(*rig.designCase.psi2(ruleSet, category), "#0.00"));
 }
 
-TEST(Flag, GoesRoundTheSixRuleSets) {
+TEST(Flag, GoesRoundTheRuleSets) {
     InputRig rig;
     rig.designCase.loadCode = 1;
     rig.show();
     const int ruleSets[] = {3, 5, 4, 2, 6, 1};
-    for (int flag = 1; flag <= 6; ++flag) {
+    for (int flag = 1; flag <= lastFlag; ++flag) {
         ASSERT_EQ(rig.window.flag, flag);
         rig.calm();
         rig.input.flagClicked(flag);
-        expectRuleSet(rig, ruleSets[flag - 1], flag % 6 + 1);
+        expectRuleSet(rig, ruleSets[flag - 1], flag % lastFlag + 1);
         EXPECT_TRUE(rig.document.dataChanged);
         EXPECT_TRUE(rig.sketch.asked.empty());
     }
@@ -91,9 +92,9 @@ TEST(Flag, AFactorBeingTypedBelongsToTheRuleSetThatIsLeft) {
 TEST(Flag, EveryRuleSetKeepsItsFactors) {
     InputRig rig;
     rig.edit({Field::lambdaQ}, "1,7");
-    for (int flag = 6, turn = 0; turn < 6; ++turn, flag = flag % 6 + 1) {
+    for (int flag = 6, turn = 0; turn < lastFlag; ++turn, flag = flag % lastFlag + 1) {
         rig.input.flagClicked(flag);
-        EXPECT_EQ(rig.text({Field::lambdaQ}), turn == 5 ? "1.70" : "1.50");
+        EXPECT_EQ(rig.text({Field::lambdaQ}), turn == lastFlag - 1 ? "1.70" : "1.50");
     }
 }
 
@@ -177,7 +178,7 @@ TEST(SwedishRules, RefillTheListsAndRestoreTheirRows) {
     rig.designCase.btg = 9;
     for (const Field list : {Field::lokt, Field::btg, Field::aok, Field::auk})
         rig.form.clearList(list);
-    rig.input.flagClicked(6);
+    rig.input.flagClicked(lastFlag);
     EXPECT_EQ(rig.form.rows(Field::lokt), Texts(loadCategories.begin(), loadCategories.end()));
     EXPECT_EQ(rig.form.rows(Field::btg), Texts(concreteClasses.begin(), concreteClasses.end()));
     EXPECT_EQ(rig.form.rows(Field::aok), Texts(steelGrades.begin(), steelGrades.end()));
@@ -194,7 +195,7 @@ TEST(SwedishRules, AConcreteClassChosenUnderAnotherSetIsDropped) {
     rig.form.selectRow(Field::btg, 6);
     rig.form.focus({Field::rubrik});
     EXPECT_EQ(rig.designCase.btg, 2);
-    rig.input.flagClicked(6);
+    rig.input.flagClicked(lastFlag);
     EXPECT_EQ(rig.form.selectedRow(Field::btg), 1);
 }
 

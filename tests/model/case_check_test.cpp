@@ -212,7 +212,8 @@ TEST(FileCheck, WholeNumbers) {
     expectOne(withLine(20, "20mm"), Kind::notANumber, {20, 0}, "20mm");
     expectOne(withLine(20, "20.5"), Kind::notWhole, {20, 0}, "20.5");
     expectOne(withLine(20, "40000"), Kind::outOfRange, {20, 0}, "40000");
-    expectOne(withLine(3, "7"), Kind::outOfRange, {3, 0}, "7");
+    const std::string beyond = std::to_string(maxLoadCode + 1);
+    expectOne(withLine(3, beyond), Kind::outOfRange, {3, 0}, beyond);
     expectOne(withLine(9, "-1"), Kind::outOfRange, {9, 0}, "-1");
     EXPECT_TRUE(withLine(20, " 20 ").empty());
     EXPECT_TRUE(withLine(20, "-20").empty());

@@ -47,7 +47,7 @@ TEST(DamagedInputFile, AFileThatIsNotThereRaisesError52) {
 }
 
 TEST(DamagedInputFile, IndexesOutsideTheArraysRaiseError9) {
-    EXPECT_EQ(errorOfReading(sampleFileWith(3, "7")), errSubscriptOutOfRange);
+    EXPECT_EQ(errorOfReading(sampleFileWith(3, std::to_string(maxLoadCode + 1))), errSubscriptOutOfRange);
     EXPECT_EQ(errorOfReading(sampleFileWith(3, "-1")), errSubscriptOutOfRange);
     EXPECT_EQ(errorOfReading(sampleFileWith(5, "16")), errSubscriptOutOfRange);
     EXPECT_EQ(errorOfReading(sampleFileWith(5, "-1")), errSubscriptOutOfRange);
@@ -61,7 +61,7 @@ TEST(DamagedInputFile, IndexesOutsideTheArraysAreNotWritten) {
         change(written.designCase);
         return errorOf([&] { writtenCase(written); });
     };
-    EXPECT_EQ(errorOfWriting([](DesignCase& c) { c.loadCode = 7; }), errSubscriptOutOfRange);
+    EXPECT_EQ(errorOfWriting([](DesignCase& c) { c.loadCode = maxLoadCode + 1; }), errSubscriptOutOfRange);
     EXPECT_EQ(errorOfWriting([](DesignCase& c) { c.lokt = 10; }), errSubscriptOutOfRange);
     EXPECT_EQ(errorOfWriting([](DesignCase& c) { c.nfack = 16; }), errSubscriptOutOfRange);
 }

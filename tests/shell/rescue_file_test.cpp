@@ -88,7 +88,7 @@ TEST(RescueFile, ChangedByteIsSeen) {
 
 TEST(RescueFile, RecordThatNoFormCanShowIsNotOpened) {
     RescuedCase rescued = filled();
-    rescued.designCase.loadCode = 7;
+    rescued.designCase.loadCode = maxLoadCode + 1;
     EXPECT_FALSE(readRescue(rescueText(rescued)));
     rescued = filled();
     rescued.designCase.nfack = 11;

@@ -50,7 +50,7 @@ TEST_F(CommandLine, TellsARunTimeErrorAndEndsWith1) {
     EXPECT_EQ(run({"json", "MISSING.IND"}), 1);
     expectTold(err.str(), "Filen MISSING.IND finns inte.", "52: Bad file name or number");
     EXPECT_EQ(out.str(), "");
-    files.content["A.IND"] = testing::sampleFileWith(3, "7");
+    files.content["A.IND"] = testing::sampleFileWith(3, std::to_string(maxLoadCode + 1));
     EXPECT_EQ(run({"show", "A.IND"}), 1);
     expectTold(err.str(),
                "I filen A.IND står på rad 4 ett nummer eller ett antal som inte finns, till exempel fler än "
