@@ -5,7 +5,6 @@
 #include "controls/rule_sets.h"
 #include "input/field_table.h"
 #include "input/form_layout.h"
-#include "win32/accessible_names.h"
 #include "win32/strings.h"
 
 namespace varno {
@@ -26,7 +25,7 @@ void InputFormWindow::create(HWND mdiClient) {
     setDpi(win32::dpiOf(mdiClient));
     addControls(inputFormLayout());
     SendMessageW(item(controlId({Field::rubrik})), EM_SETLIMITTEXT, 255, 0);
-    win32::nameForScreenReaders(handle(), "Indata");
+    speakAs("Indata");
     for (const ControlSpec& spec : inputFormLayout()) {
         const auto known = controlOfId(spec.id);
         const std::string name = known ? accessibleName(*known) : std::string();

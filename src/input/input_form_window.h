@@ -88,7 +88,7 @@ class InputFormWindow : public win32::FormWindow, public FormView {
     HWND lastFocused_ = nullptr;
     HWND entering_ = nullptr; ///< gets the focus from Tab just now
     win32::Balloon hint_;
-    win32::Tips tips_;
+    win32::Tips tips_{host()};
     ScrollAxis across_;
     ScrollAxis down_;
     WheelSteps wheel_;

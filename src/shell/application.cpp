@@ -27,12 +27,7 @@ Application::Application()
       document_(case_, state_, filler_, form_, main_, files_, fileDialog_, boxes_, *this),
       printing_(files_, boxes_, main_, printer_, fileDialog_), diagram_(case_, sketch_) {
     main_.listen(*this);
-    form_.create(main_.mdiClient());
-    tips_.create(main_.handle());
     helpSystem_.setOwner(main_.handle());
-    fileInfo_.create(main_.handle());
-    fileInfo_.listen(fileDialog_);
-    results_ = std::make_unique<Results>(*this);
 }
 
 Application::~Application() {
@@ -313,6 +308,23 @@ void Application::keepPlaces() {
 }
 
 // Start-up
+
+void Application::showMainWindow() {
+    main_.show();
+    // On the screen before what comes into it: the form alone has more controls than all other windows together.
+    if (!form_.exists()) makeOtherWindows();
+}
+
+void Application::makeOtherWindows() {
+    form_.create(main_.mdiClient());
+    RECT room{};
+    GetClientRect(main_.mdiClient(), &room);
+    form_.fill(static_cast<int>(room.right), static_cast<int>(room.bottom));
+    tips_.create(main_.handle());
+    fileInfo_.create(main_.handle());
+    fileInfo_.listen(fileDialog_);
+    results_ = std::make_unique<Results>(*this);
+}
 
 void Application::showInputForm() {
     form_.listen(input_);

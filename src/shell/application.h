@@ -85,7 +85,7 @@ class Application : public win32::WindowHost,
     void postRunTimeError() override { main_.postRunTimeError(); }
 
     // StartUpView
-    void showMainWindow() override { main_.show(); }
+    void showMainWindow() override;
     bool showVersionNotice() override { return askVersionNotice(*this, main_.handle()); }
     void showDisclaimer() override { DisclaimerWindow(*this, main_.handle()).runModal(); }
     void showInputForm() override;
@@ -93,6 +93,7 @@ class Application : public win32::WindowHost,
     void setResultFont(const std::string& face) override { results_->viewer.setFont(face); }
 
     void runCommand(int id);
+    void makeOtherWindows();
     void sketchChanged();
     bool translateKeyBeside(const MSG& message);
     bool translateHelpKey(const MSG& message);
@@ -171,7 +172,7 @@ class Application : public win32::WindowHost,
     WindowPlaces places_{systemFileCalls()};
 
     MainWindow main_;
-    MainTips tips_;
+    MainTips tips_{*this};
     InputFormWindow form_;
     SlabSketch sketch_;
     CaseFormFiller filler_;

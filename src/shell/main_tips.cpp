@@ -22,16 +22,17 @@ void MainTips::showSketch(SketchTips tips) {
 
 void MainTips::placeAgain() {
     if (main_ == nullptr) return;
-    sketch_.clear();
-    addParts(idLoadPicture, 0, loadPictureWidth);
-    addParts(idSlabStrip, slabStripStart, slabStripWidth);
+    std::vector<win32::Tip> tips;
+    addParts(tips, idLoadPicture, 0, loadPictureWidth);
+    addParts(tips, idSlabStrip, slabStripStart, slabStripWidth);
     const HWND strip = GetDlgItem(main_, idSlabStrip);
     int support = 0;
     for (const std::string& text : shown_.supports)
-        sketch_.add(GetDlgItem(strip, idSupportButton + support++), text);
+        tips.push_back({GetDlgItem(strip, idSupportButton + support++), std::nullopt, text});
+    sketch_.show(tips);
 }
 
-void MainTips::addParts(int area, double start, double width) {
+void MainTips::addParts(std::vector<win32::Tip>& tips, int area, double start, double width) const {
     const HWND window = GetDlgItem(main_, area);
     RECT client{};
     GetClientRect(window, &client);
@@ -39,7 +40,7 @@ void MainTips::addParts(int area, double start, double width) {
         return static_cast<LONG>(std::lround((start + twips) * static_cast<double>(client.right) / width));
     };
     for (const SketchTip& tip : shown_.parts)
-        sketch_.addPart(window, {toPixels(tip.left), 0, toPixels(tip.right), client.bottom}, tip.text);
+        tips.push_back({window, RECT{toPixels(tip.left), 0, toPixels(tip.right), client.bottom}, tip.text});
 }
 
 } // namespace varno

@@ -8,6 +8,7 @@ namespace varno {
 /// The tips of the main window's parts: the flag, and the sketch as it is drawn now.
 class MainTips {
   public:
+    explicit MainTips(win32::WindowHost& host) : flags_(host), sketch_(host) {}
     /// Names what a click on each flag does.
     void create(HWND main);
     void showSketch(SketchTips tips);
@@ -15,7 +16,7 @@ class MainTips {
     void placeAgain();
 
   private:
-    void addParts(int area, double start, double width);
+    void addParts(std::vector<win32::Tip>& tips, int area, double start, double width) const;
 
     HWND main_ = nullptr;
     SketchTips shown_;

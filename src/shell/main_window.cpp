@@ -22,7 +22,6 @@ namespace varno {
 namespace {
 
 constexpr UINT showErrorMessage = WM_APP + 1;
-constexpr int buttonCount = 16; // stod
 constexpr UINT_PTR statusTimer = 1;
 constexpr UINT statusInterval = 200; // ms
 
@@ -62,12 +61,12 @@ HMENU MainWindow::buildMenu() {
 
 void MainWindow::listen(MainEvents& events) {
     events_ = &events;
-    Window::create(L"VarnoMain", "", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, 0, nullptr, buildMenu(), {});
+    // What is dropped on a part of it comes here.
+    Window::create(L"VarnoMain", "", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, WS_EX_ACCEPTFILES, nullptr,
+                   buildMenu(), {});
     // The menu tree is fixed, so the help command stands in the menu of the window itself.
     AppendMenuW(GetSystemMenu(handle(), FALSE), MF_STRING, idHelp, L"Hjälp\tF1");
     createParts();
-    // What is dropped on a part of it comes here.
-    DragAcceptFiles(handle(), TRUE);
     SetTimer(handle(), statusTimer, statusInterval, nullptr);
     setDpi(win32::dpiOf(handle()));
 }
@@ -76,10 +75,11 @@ void MainWindow::createParts() {
     toolbar_.create(handle());
     loadPicture_.create(handle(), idLoadPicture, "Lastbild", sketch_.loadPicture);
     slabStrip_.create(handle(), idSlabStrip, "Plattremsa", sketch_.slabStrip);
-    for (int i = 0; i < buttonCount; ++i) {
+    for (int i = 0; i < supportCount; ++i) {
         const HWND support =
             win32::createControl(slabStrip_.handle(), idSupportButton + i, L"BUTTON", "", BS_OWNERDRAW);
         win32::nameForScreenReaders(support, "Stöd " + std::to_string(i), ROLE_SYSTEM_PUSHBUTTON);
+        supports_[static_cast<std::size_t>(i)].button = support;
     }
     for (int flag = 0; flag < flagCount; ++flag) {
         const HWND button =
@@ -115,7 +115,6 @@ SIZE MainWindow::frameFor(const Area& client) const {
 
 void MainWindow::show() {
     if (!shown_) {
-        shown_ = true;
         const RECT work = win32::workAreaOf(handle());
         SIZE size = frameFor(naturalMainArea(dpi_));
         // Where the form has to scroll, its bar must not hide what stands at the right.
@@ -123,10 +122,15 @@ void MainWindow::show() {
             size.cx += GetSystemMetricsForDpi(SM_CXVSCROLL, static_cast<UINT>(dpi_));
         const LONG width = std::min(size.cx, work.right - work.left);
         const LONG height = std::min(size.cy, work.bottom - work.top);
-        win32::setPlace(handle(), work.left + (work.right - work.left - width) / 2,
-                        work.top + (work.bottom - work.top - height) / 2, width, height);
         const auto kept = host().keptPlace(win32::classOf(handle()));
-        if (kept) put(handle(), kept->area);
+        if (kept) {
+            put(handle(), kept->area);
+        } else {
+            win32::setPlace(handle(), work.left + (work.right - work.left - width) / 2,
+                            work.top + (work.bottom - work.top - height) / 2, width, height);
+        }
+        // From here on every new size does; on its way to the first one it would lay out three times.
+        shown_ = true;
         layOut();
         ShowWindow(handle(), kept && kept->maximized ? SW_SHOWMAXIMIZED : SW_SHOW);
         UpdateWindow(handle());
@@ -135,9 +139,15 @@ void MainWindow::show() {
     bringForward();
 }
 
+void MainWindow::sizeChanged(SIZE client) {
+    // Windows tells it again when the window is shown.
+    if (client.cx != laidOut_.cx || client.cy != laidOut_.cy) layOut();
+}
+
 void MainWindow::layOut() {
     RECT client{};
     GetClientRect(handle(), &client);
+    laidOut_ = {client.right, client.bottom};
     const MainLayout layout = mainLayout(client.right, client.bottom, dpi_);
     put(toolbar_.handle(), layout.toolbar);
     put(loadPicture_.handle(), layout.loadPicture);
@@ -158,13 +168,14 @@ void MainWindow::layOut() {
 
 void MainWindow::placeSupportButtons() {
     const auto toPixels = [this](double twips) { return pixelsOf(twips, sketchDpi_); };
-    for (int i = 0; i < buttonCount; ++i) {
-        const HWND button = GetDlgItem(slabStrip_.handle(), idSupportButton + i);
+    for (int i = 0; i < supportCount; ++i) {
+        Support& support = supports_[static_cast<std::size_t>(i)];
         const SketchPicture::Button& state = sketch_.button(i);
-        if (state.visible)
-            win32::setPlace(button, toPixels(state.left), toPixels(state.top), toPixels(supportButtonWidth),
-                            toPixels(supportButtonHeight));
-        ShowWindow(button, state.visible ? SW_SHOWNA : SW_HIDE);
+        const Area place{toPixels(state.left), toPixels(state.top), toPixels(supportButtonWidth),
+                         toPixels(supportButtonHeight)};
+        // Most edits leave them where they are.
+        if (state.visible && place != support.place) put(support.button, support.place = place);
+        ShowWindow(support.button, state.visible ? SW_SHOWNA : SW_HIDE);
     }
 }
 
@@ -304,7 +315,7 @@ LRESULT MainWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_DRAWITEM: {
         const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
         if (item.CtlType != ODT_BUTTON) break;
-        if (item.CtlID >= idSupportButton && item.CtlID < idSupportButton + buttonCount) {
+        if (item.CtlID >= idSupportButton && item.CtlID < idSupportButton + supportCount) {
             win32::paintSupport(item.hDC, item.rcItem, dpi_, (item.itemState & ODS_SELECTED) != 0);
             return TRUE;
         }
@@ -314,7 +325,7 @@ LRESULT MainWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     }
     case WM_SIZE:
         // DefFrameProc would stretch the MDI client over the whole window.
-        if (wParam != SIZE_MINIMIZED) layOut();
+        if (wParam != SIZE_MINIMIZED && shown_) sizeChanged({LOWORD(lParam), HIWORD(lParam)});
         return 0;
     case WM_GETMINMAXINFO: {
         const RECT work = win32::workAreaOf(handle());

@@ -4,6 +4,7 @@
 
 #include <shellapi.h>
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -99,6 +100,7 @@ class MainWindow : public win32::Window, public MainView {
   private:
     void createParts();
     HMENU buildMenu();
+    void sizeChanged(SIZE client);
     void layOut();
     void setDpi(int dpi);
     SIZE frameFor(const Area& client) const;
@@ -113,6 +115,12 @@ class MainWindow : public win32::Window, public MainView {
     const SketchPicture& sketch_;
     win32::PictureWindow loadPicture_;
     win32::PictureWindow slabStrip_;
+    static constexpr int supportCount = 16; // stod
+    struct Support {
+        HWND button = nullptr;
+        Area place{};
+    };
+    std::array<Support, supportCount> supports_;
     Toolbar toolbar_;
     HWND mdiClient_ = nullptr;
     HWND flagLabel_ = nullptr;
@@ -125,6 +133,7 @@ class MainWindow : public win32::Window, public MainView {
     int sketchDpi_ = USER_DEFAULT_SCREEN_DPI;
     int flag_ = -1;
     bool shown_ = false;
+    SIZE laidOut_{}; ///< the client area that the parts were placed for
     int busy_ = 0;
 };
 

@@ -4,6 +4,7 @@
 
 #include <array>
 
+#include "win32/late.h"
 #include "win32/strings.h"
 #include "win32/unique.h"
 
@@ -25,7 +26,8 @@ std::wstring localFolder() {
     const DWORD length =
         GetEnvironmentVariableW(L"LOCALAPPDATA", text.data(), static_cast<DWORD>(text.size()));
     if (length > 0 && length < text.size()) return text.data();
-    if (SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA | CSIDL_FLAG_CREATE, nullptr, 0, text.data()) == S_OK)
+    const win32::Late<decltype(&SHGetFolderPathW)> folder(L"shell32.dll", "SHGetFolderPathW");
+    if (folder(nullptr, CSIDL_LOCAL_APPDATA | CSIDL_FLAG_CREATE, nullptr, 0, text.data()) == S_OK)
         return text.data();
     return {};
 }

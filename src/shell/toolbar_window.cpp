@@ -51,13 +51,14 @@ void Toolbar::tell(NMTBGETINFOTIPW& tip) const {
 
 void Toolbar::setDpi(int dpi) {
     const int size = win32::pixels(raster(20), dpi);
+    std::vector<std::string_view> keys;
+    for (const ToolbarKey& key : toolbarKeys)
+        keys.emplace_back(key.key);
     const auto use = [&](Images& images, UINT message, bool faded) {
-        Images fresh(
-            ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, static_cast<int>(toolbarKeys.size()), 0));
-        for (const ToolbarKey& key : toolbarKeys) {
-            const win32::UniqueIcon icon = win32::toolbarPicture(key.key, size, faded);
-            ImageList_ReplaceIcon(fresh.get(), -1, icon.get());
-        }
+        // Drawn all at once: one by one they took a tenth of the program's start.
+        const win32::UniqueBitmap pictures = win32::toolbarPictures(keys, size, faded);
+        Images fresh(ImageList_Create(size, size, ILC_COLOR32, static_cast<int>(keys.size()), 0));
+        ImageList_Add(fresh.get(), pictures.get(), nullptr);
         SendMessageW(handle_, message, 0, reinterpret_cast<LPARAM>(fresh.get()));
         images = std::move(fresh);
     };

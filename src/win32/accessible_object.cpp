@@ -1,23 +1,15 @@
 #include "win32/accessible_object.h"
 
-#include <commctrl.h>
 #include <objbase.h>
 #include <oleacc.h>
 
-#include <memory>
+#include <utility>
 
-#include "win32/strings.h"
+#include "win32/late.h"
 
 namespace varno::win32 {
 
 namespace {
-
-constexpr UINT_PTR accessibleSubclass = 3;
-
-struct Spoken {
-    std::wstring name;
-    long role;
-};
 
 bool isSelf(const VARIANT& child) {
     return child.vt == VT_I4 && child.lVal == CHILDID_SELF;
@@ -30,7 +22,8 @@ bool isSelf(const VARIANT& child) {
 // The system's own object of the control, with another name and role.
 class NamedControl : public IAccessible {
   public:
-    NamedControl(IAccessible* own, Spoken spoken) : own_(own), spoken_(std::move(spoken)) {}
+    NamedControl(IAccessible* own, std::wstring name, long role)
+        : own_(own), name_(std::move(name)), role_(role) {}
     NamedControl(const NamedControl&) = delete;
     NamedControl& operator=(const NamedControl&) = delete;
 
@@ -51,14 +44,14 @@ class NamedControl : public IAccessible {
     }
 
     HRESULT STDMETHODCALLTYPE get_accName(VARIANT child, BSTR* name) override {
-        if (!isSelf(child) || spoken_.name.empty()) return own_->get_accName(child, name);
-        *name = SysAllocString(spoken_.name.c_str());
+        if (!isSelf(child) || name_.empty()) return own_->get_accName(child, name);
+        *name = Late<decltype(&SysAllocString)>(L"oleaut32.dll", "SysAllocString")(name_.c_str());
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE get_accRole(VARIANT child, VARIANT* role) override {
-        if (!isSelf(child) || spoken_.role == 0) return own_->get_accRole(child, role);
+        if (!isSelf(child) || role_ == 0) return own_->get_accRole(child, role);
         role->vt = VT_I4;
-        role->lVal = spoken_.role;
+        role->lVal = role_;
         return S_OK;
     }
 
@@ -137,42 +130,25 @@ class NamedControl : public IAccessible {
     virtual ~NamedControl() { own_->Release(); }
 
     IAccessible* own_;
-    Spoken spoken_;
+    std::wstring name_;
+    long role_;
     ULONG references_ = 1;
 };
 
 #pragma GCC diagnostic pop
 
-LRESULT objectOf(HWND control, WPARAM wParam, const Spoken& spoken) {
-    void* own = nullptr;
-    if (FAILED(CreateStdAccessibleObject(control, OBJID_CLIENT, IID_IAccessible, &own))) return 0;
-    auto* const object = new NamedControl(static_cast<IAccessible*>(own), spoken);
-    const LRESULT result = LresultFromObject(IID_IAccessible, wParam, object);
-    object->Release();
-    return result;
-}
-
-LRESULT CALLBACK accessibleProc(HWND control, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                DWORD_PTR data) {
-    const auto* const spoken = reinterpret_cast<const Spoken*>(data);
-    if (message == WM_GETOBJECT && static_cast<long>(lParam) == static_cast<long>(OBJID_CLIENT))
-        return objectOf(control, wParam, *spoken);
-    if (message == WM_NCDESTROY) {
-        RemoveWindowSubclass(control, accessibleProc, accessibleSubclass);
-        delete spoken;
-    }
-    return DefSubclassProc(control, message, wParam, lParam);
-}
-
 } // namespace
 
-void answerScreenReaders(HWND control, const std::string& name, long role) {
-    DWORD_PTR before = 0;
-    GetWindowSubclass(control, accessibleProc, accessibleSubclass, &before);
-    auto spoken = std::make_unique<Spoken>(Spoken{wide(name), role});
-    SetWindowSubclass(control, accessibleProc, accessibleSubclass,
-                      reinterpret_cast<DWORD_PTR>(spoken.release()));
-    delete reinterpret_cast<const Spoken*>(before);
+LRESULT answerScreenReader(HWND control, WPARAM asked, const std::wstring& name, long role) {
+    constexpr const wchar_t* library = L"oleacc.dll";
+    const Late<decltype(&CreateStdAccessibleObject)> create(library, "CreateStdAccessibleObject");
+    const Late<decltype(&LresultFromObject)> hand(library, "LresultFromObject");
+    void* own = nullptr;
+    if (FAILED(create(control, OBJID_CLIENT, IID_IAccessible, &own))) return 0;
+    auto* const object = new NamedControl(static_cast<IAccessible*>(own), name, role);
+    const LRESULT result = hand(IID_IAccessible, asked, object);
+    object->Release();
+    return result;
 }
 
 } // namespace varno::win32

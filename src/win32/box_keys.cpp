@@ -1,14 +1,14 @@
 #include "win32/box_keys.h"
 
-#include <commctrl.h>
+#include <memory>
 
 #include "win32/clipboard.h"
+#include "win32/control_layer.h"
 
 namespace varno::win32 {
 
 namespace {
 
-constexpr UINT_PTR keysSubclass = 2;
 // The letters of keys, as WM_CHAR brings them.
 constexpr WPARAM copyLetter = 0x03;
 constexpr WPARAM undoLetter = 0x1A;
@@ -52,8 +52,18 @@ bool takesLetter(HWND box, WPARAM letter, const BoxKeys& keys) {
     }
 }
 
-LRESULT CALLBACK boxProc(HWND box, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR data) {
-    auto& keys = *reinterpret_cast<BoxKeys*>(data);
+class WatchedBox : public ControlLayer {
+  public:
+    explicit WatchedBox(BoxKeys& keys) : keys_(keys) {}
+
+  private:
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    BoxKeys& keys_;
+};
+
+LRESULT WatchedBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    const HWND box = control();
     const int id = GetDlgCtrlID(box);
     switch (message) {
     case WM_LBUTTONDOWN:
@@ -63,46 +73,44 @@ LRESULT CALLBACK boxProc(HWND box, UINT message, WPARAM wParam, LPARAM lParam, U
         SendMessageW(box, EM_SETSEL, 0, -1);
         return 0;
     case WM_GETDLGCODE: {
-        const LRESULT code = DefSubclassProc(box, message, wParam, lParam);
-        const bool takes = isEscape(reinterpret_cast<const MSG*>(lParam)) && keys.isTyped(id);
+        const LRESULT code = below(message, wParam, lParam);
+        const bool takes = isEscape(reinterpret_cast<const MSG*>(lParam)) && keys_.isTyped(id);
         return takes ? code | DLGC_WANTMESSAGE : code;
     }
     case WM_KEYDOWN:
-        if ((wParam == VK_UP || wParam == VK_DOWN) && keys.arrow(id, wParam == VK_UP ? -1 : 1)) return 0;
-        if (wParam != VK_ESCAPE || !keys.isTyped(id)) break;
-        keys.takeBack(id);
+        if ((wParam == VK_UP || wParam == VK_DOWN) && keys_.arrow(id, wParam == VK_UP ? -1 : 1)) return 0;
+        if (wParam != VK_ESCAPE || !keys_.isTyped(id)) break;
+        keys_.takeBack(id);
         SendMessageW(box, EM_SETSEL, 0, -1);
         return 0;
     case WM_CHAR:
-        if (takesLetter(box, wParam, keys)) return 0;
+        if (takesLetter(box, wParam, keys_)) return 0;
         break;
     case WM_PASTE:
-        if (keys.pasted(id, clipboardText(box))) return 0;
-        break;
-    case WM_NCDESTROY:
-        RemoveWindowSubclass(box, boxProc, keysSubclass);
+        if (keys_.pasted(id, clipboardText(box))) return 0;
         break;
     default:
         break;
     }
-    return DefSubclassProc(box, message, wParam, lParam);
+    return below(message, wParam, lParam);
 }
 
-LRESULT CALLBACK memoProc(HWND memo, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
-    // Nor does Tab select the whole text.
-    if (message == WM_GETDLGCODE) return DLGC_WANTARROWS | DLGC_WANTCHARS;
-    if (message == WM_NCDESTROY) RemoveWindowSubclass(memo, memoProc, keysSubclass);
-    return DefSubclassProc(memo, message, wParam, lParam);
-}
+class KeysLeftToWindow : public ControlLayer {
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
+        // Nor does Tab select the whole text.
+        if (message == WM_GETDLGCODE) return DLGC_WANTARROWS | DLGC_WANTCHARS;
+        return below(message, wParam, lParam);
+    }
+};
 
 } // namespace
 
 void leaveKeysToWindow(HWND memo) {
-    SetWindowSubclass(memo, memoProc, keysSubclass, 0);
+    layOver(memo, std::make_unique<KeysLeftToWindow>());
 }
 
 void watchBox(HWND box, BoxKeys& keys) {
-    SetWindowSubclass(box, boxProc, keysSubclass, reinterpret_cast<DWORD_PTR>(&keys));
+    layOver(box, std::make_unique<WatchedBox>(keys));
 }
 
 } // namespace varno::win32

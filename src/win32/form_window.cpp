@@ -171,6 +171,7 @@ void FormWindow::addControls(std::span<const ControlSpec> controls) {
     for (const ControlSpec& spec : controls) {
         if (spec.kind == ControlKind::label && *spec.text != '\0') label_ = spec.text;
         const HWND control = createControl(handle(), spec);
+        if (spec.id != 0) items_.emplace(spec.id, control);
         if (spec.kind == ControlKind::memo) {
             SendMessageW(control, EM_SETLIMITTEXT, 0, 0);
             leaveKeysToWindow(control);

@@ -3,6 +3,7 @@
 #include <map>
 #include <span>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "controls/control_spec.h"
@@ -31,7 +32,10 @@ class FormWindow : public Window, private FieldWindow, private BoxKeys {
     /// disabled.
     void runModal();
 
-    HWND item(int id) const { return GetDlgItem(handle(), id); }
+    HWND item(int id) const {
+        const auto known = items_.find(id);
+        return known == items_.end() ? GetDlgItem(handle(), id) : known->second;
+    }
     /// What a screen reader says for a control that neither its caption nor the label in front of it names.
     void name(int id, ControlKind kind, const std::string& name);
     /// A box of this window is being typed in, since it has the focus.
@@ -117,6 +121,8 @@ class FormWindow : public Window, private FieldWindow, private BoxKeys {
     void setFont(HWND control, FontRole role);
 
     std::vector<Placed> placed_;
+    /// Windows looks through all controls of the window for a number, and an edit asks for dozens.
+    std::unordered_map<int, HWND> items_;
     std::map<int, std::string> entered_; ///< the texts of boxes as they got the focus
     UniqueFont fonts_[fontRoles];
     int dpi_ = USER_DEFAULT_SCREEN_DPI;

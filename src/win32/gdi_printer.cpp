@@ -7,6 +7,7 @@
 
 #include "base/run_time_error.h"
 #include "win32/dpi.h"
+#include "win32/late.h"
 #include "win32/printer_fonts.h"
 #include "win32/strings.h"
 
@@ -15,6 +16,7 @@ namespace varno::win32 {
 namespace {
 
 // A result page: the header, an empty line and 70 lines of at most 80 characters.
+constexpr const wchar_t* dialogs = L"comdlg32.dll";
 constexpr int linesOnPage = 72;
 constexpr int charactersOnLine = 80;
 constexpr int largestFont = 100; // tenths of a point
@@ -53,7 +55,8 @@ UniqueDc GdiPrinter::createDc() const {
 }
 
 void GdiPrinter::setUp(HWND owner) {
-    if (showSetUp(owner) || CommDlgExtendedError() == 0) return;
+    if (showSetUp(owner) || Late<decltype(&CommDlgExtendedError)>(dialogs, "CommDlgExtendedError")() == 0)
+        return;
     // The dialog does not come with a printer that has been removed since; it does with the default one.
     mode_.reset();
     names_.reset();
@@ -68,7 +71,7 @@ bool GdiPrinter::showSetUp(HWND owner) {
     // What was chosen before stands in the dialog: its orientation and its number of copies.
     dialog.hDevMode = mode_.release();
     dialog.hDevNames = names_.release();
-    const bool chosen = PrintDlgW(&dialog) != FALSE;
+    const bool chosen = Late<decltype(&PrintDlgW)>(dialogs, "PrintDlgW")(&dialog) != FALSE;
     mode_.reset(dialog.hDevMode);
     names_.reset(dialog.hDevNames);
     return chosen;

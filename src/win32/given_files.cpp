@@ -2,9 +2,16 @@
 
 #include <shlobj.h>
 
+#include "win32/late.h"
 #include "win32/strings.h"
 
 namespace varno::win32 {
+
+namespace {
+
+constexpr const wchar_t* library = L"shell32.dll";
+
+} // namespace
 
 std::string fullPath(const std::string& path) {
     const std::wstring text = wide(path);
@@ -13,10 +20,12 @@ std::string fullPath(const std::string& path) {
     return full.empty() ? path : narrow(full);
 }
 
-CommandLine commandLine() {
+CommandLine commandLine(const wchar_t* arguments) {
     CommandLine line;
+    if (*arguments == L'\0') return line;
     int count = 0;
-    LPWSTR* const words = CommandLineToArgvW(GetCommandLineW(), &count);
+    const Late<decltype(&CommandLineToArgvW)> split(library, "CommandLineToArgvW");
+    LPWSTR* const words = split(GetCommandLineW(), &count);
     // The first is the program.
     int i = 1;
     if (words != nullptr && count > 2 &&
@@ -32,18 +41,19 @@ CommandLine commandLine() {
 
 std::vector<std::string> filesDropped(HDROP drop) {
     std::vector<std::string> files;
-    const UINT count = DragQueryFileW(drop, 0xFFFFFFFF, nullptr, 0);
+    const Late<decltype(&DragQueryFileW)> query(library, "DragQueryFileW");
+    const UINT count = query(drop, 0xFFFFFFFF, nullptr, 0);
     for (UINT i = 0; i < count; ++i) {
-        std::wstring path(DragQueryFileW(drop, i, nullptr, 0) + 1, L'\0');
-        path.resize(DragQueryFileW(drop, i, path.data(), static_cast<UINT>(path.size())));
+        std::wstring path(query(drop, i, nullptr, 0) + 1, L'\0');
+        path.resize(query(drop, i, path.data(), static_cast<UINT>(path.size())));
         files.push_back(narrow(path));
     }
-    DragFinish(drop);
+    Late<decltype(&DragFinish)>(library, "DragFinish")(drop);
     return files;
 }
 
 void tellRecentDocument(const std::string& path) {
-    SHAddToRecentDocs(SHARD_PATHW, wide(path).c_str());
+    Late<decltype(&SHAddToRecentDocs)>(library, "SHAddToRecentDocs")(SHARD_PATHW, wide(path).c_str());
 }
 
 } // namespace varno::win32

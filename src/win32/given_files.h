@@ -18,7 +18,7 @@ struct CommandLine {
     std::string folder;
     std::vector<std::string> files; ///< full paths, from where it was started
 };
-CommandLine commandLine();
+CommandLine commandLine(const wchar_t* arguments);
 /// The files of a drop, which is over then.
 std::vector<std::string> filesDropped(HDROP drop);
 /// Windows' own list of what was used last.

@@ -1,7 +1,8 @@
 #include "win32/group_box.h"
 
-#include <commctrl.h>
+#include <memory>
 
+#include "win32/control_layer.h"
 #include "win32/dpi.h"
 #include "win32/strings.h"
 #include "win32/unique.h"
@@ -9,8 +10,6 @@
 namespace varno::win32 {
 
 namespace {
-
-constexpr UINT_PTR groupSubclass = 4;
 
 // The caption, written beside the screen. Where it ends is seen and not measured: at some scalings letters are drawn wider or
 // narrower than Windows says they are.
@@ -89,7 +88,12 @@ void captionChanged(HWND group) {
     RedrawWindow(form, &box, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
-LRESULT CALLBACK groupProc(HWND group, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
+class DrawnGroup : public ControlLayer {
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+};
+
+LRESULT DrawnGroup::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    const HWND group = control();
     switch (message) {
     case WM_PAINT: {
         PAINTSTRUCT painting{};
@@ -106,19 +110,15 @@ LRESULT CALLBACK groupProc(HWND group, UINT message, WPARAM wParam, LPARAM lPara
         captionChanged(group);
         return result;
     }
-    case WM_NCDESTROY:
-        RemoveWindowSubclass(group, groupProc, groupSubclass);
-        break;
     default:
-        break;
+        return below(message, wParam, lParam);
     }
-    return DefSubclassProc(group, message, wParam, lParam);
 }
 
 } // namespace
 
 void drawGroup(HWND group) {
-    SetWindowSubclass(group, groupProc, groupSubclass, 0);
+    layOver(group, std::make_unique<DrawnGroup>());
 }
 
 } // namespace varno::win32

@@ -2,6 +2,7 @@
 
 #include <shellapi.h>
 
+#include "win32/late.h"
 #include "win32/strings.h"
 
 namespace varno::win32 {
@@ -62,8 +63,9 @@ void WindowsHelp::quitWinHelp(const std::string& file) {
 }
 
 bool WindowsHelp::openDocument(const std::string& path) {
+    const Late<decltype(&ShellExecuteW)> execute(L"shell32.dll", "ShellExecuteW");
     const auto result = reinterpret_cast<INT_PTR>(
-        ShellExecuteW(owner_, L"open", wide(path).c_str(), nullptr, nullptr, SW_SHOWNORMAL));
+        execute(owner_, L"open", wide(path).c_str(), nullptr, nullptr, SW_SHOWNORMAL));
     return result > 32;
 }
 

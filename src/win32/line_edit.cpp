@@ -1,13 +1,13 @@
 #include "win32/line_edit.h"
 
-#include <commctrl.h>
-
+#include <algorithm>
 #include <array>
 #include <memory>
 #include <string>
 #include <utility>
 
 #include "controls/number_fit.h"
+#include "win32/control_layer.h"
 #include "win32/dpi.h"
 #include "win32/strings.h"
 #include "win32/unique.h"
@@ -16,7 +16,6 @@ namespace varno::win32 {
 
 namespace {
 
-constexpr UINT_PTR lineSubclass = 3;
 constexpr int insideMargin = 1; // above and below the text, as Windows keeps it
 
 UniqueFont smaller(HFONT font, int percent) {
@@ -27,36 +26,22 @@ UniqueFont smaller(HFONT font, int percent) {
 }
 
 int widthIn(HFONT font, const std::wstring& text) {
-    const WindowDc dc(nullptr);
+    if (text.empty()) return 0;
+    const UniqueDc dc(CreateCompatibleDC(nullptr));
     const Selected selected(dc.get(), font);
     SIZE size{};
     GetTextExtentPoint32W(dc.get(), text.c_str(), static_cast<int>(text.size()), &size);
     return static_cast<int>(size.cx);
 }
 
-// One text box; it goes with its window.
-class LineEdit {
+class LineEdit : public ControlLayer {
   public:
     explicit LineEdit(HWND edit)
-        : edit_(edit), isNumber_((GetWindowLongPtrW(edit, GWL_STYLE) & ES_RIGHT) != 0),
+        : isNumber_((GetWindowLongPtrW(edit, GWL_STYLE) & ES_RIGHT) != 0),
           isBare_((GetWindowLongPtrW(edit, GWL_EXSTYLE) & WS_EX_CLIENTEDGE) == 0) {}
 
-    static LRESULT CALLBACK proc(HWND edit, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                 DWORD_PTR self) {
-        auto* const line = reinterpret_cast<LineEdit*>(self);
-        if (message == WM_NCDESTROY) {
-            const std::unique_ptr<LineEdit> end(line);
-            RemoveWindowSubclass(edit, proc, lineSubclass);
-            return DefSubclassProc(edit, message, wParam, lParam);
-        }
-        return line->onMessage(message, wParam, lParam);
-    }
-
   private:
-    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
-    LRESULT defaultProc(UINT message, WPARAM wParam, LPARAM lParam) {
-        return DefSubclassProc(edit_, message, wParam, lParam);
-    }
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void takeFont(HFONT font);
     void useFont(HFONT font, int margin);
     void centre(RECT& client);
@@ -66,7 +51,6 @@ class LineEdit {
     void fit();
     void tell();
 
-    HWND edit_;
     bool isNumber_;
     bool isBare_;
     HFONT font_ = nullptr; ///< the one that was given
@@ -80,15 +64,16 @@ class LineEdit {
 };
 
 HBRUSH LineEdit::ground(HDC dc) const {
-    const bool open = IsWindowEnabled(edit_) && (GetWindowLongPtrW(edit_, GWL_STYLE) & ES_READONLY) == 0;
-    return reinterpret_cast<HBRUSH>(SendMessageW(GetParent(edit_), open ? WM_CTLCOLOREDIT : WM_CTLCOLORSTATIC,
-                                                 reinterpret_cast<WPARAM>(dc),
-                                                 reinterpret_cast<LPARAM>(edit_)));
+    const bool open =
+        IsWindowEnabled(control()) && (GetWindowLongPtrW(control(), GWL_STYLE) & ES_READONLY) == 0;
+    return reinterpret_cast<HBRUSH>(
+        SendMessageW(GetParent(control()), open ? WM_CTLCOLOREDIT : WM_CTLCOLORSTATIC,
+                     reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(control())));
 }
 
 void LineEdit::centre(RECT& client) {
-    const auto font = reinterpret_cast<HFONT>(SendMessageW(edit_, WM_GETFONT, 0, 0));
-    const WindowDc dc(nullptr);
+    const auto font = reinterpret_cast<HFONT>(SendMessageW(control(), WM_GETFONT, 0, 0));
+    const UniqueDc dc(CreateCompatibleDC(nullptr));
     const Selected selected(dc.get(), font);
     TEXTMETRICW metrics{};
     GetTextMetricsW(dc.get(), &metrics);
@@ -103,43 +88,42 @@ void LineEdit::centre(RECT& client) {
 void LineEdit::paintAround() {
     if (above_ == 0 && below_ == 0) return;
     RECT window{};
-    GetWindowRect(edit_, &window);
+    GetWindowRect(control(), &window);
     RECT client{};
-    GetClientRect(edit_, &client);
-    MapWindowPoints(edit_, nullptr, reinterpret_cast<POINT*>(&client), 2);
+    GetClientRect(control(), &client);
+    MapWindowPoints(control(), nullptr, reinterpret_cast<POINT*>(&client), 2);
     OffsetRect(&client, -window.left, -window.top);
-    const HDC dc = GetWindowDC(edit_);
+    const HDC dc = GetWindowDC(control());
     const HBRUSH brush = ground(dc);
     const RECT top{client.left, client.top - above_, client.right, client.top};
     const RECT bottom{client.left, client.bottom, client.right, client.bottom + below_};
     FillRect(dc, &top, brush);
     FillRect(dc, &bottom, brush);
-    ReleaseDC(edit_, dc);
+    ReleaseDC(control(), dc);
 }
 
 void LineEdit::paintCut() {
     PAINTSTRUCT painting{};
-    const HDC dc = BeginPaint(edit_, &painting);
+    const HDC dc = BeginPaint(control(), &painting);
     RECT box{};
-    GetClientRect(edit_, &box);
+    GetClientRect(control(), &box);
     FillRect(dc, &box, ground(dc));
-    const Selected letters(dc, reinterpret_cast<HFONT>(SendMessageW(edit_, WM_GETFONT, 0, 0)));
+    const Selected letters(dc, reinterpret_cast<HFONT>(SendMessageW(control(), WM_GETFONT, 0, 0)));
     SetBkMode(dc, TRANSPARENT);
-    if (!IsWindowEnabled(edit_)) SetTextColor(dc, GetSysColor(COLOR_GRAYTEXT));
-    DrawTextW(dc, wide(textOf(edit_)).c_str(), -1, &box,
+    if (!IsWindowEnabled(control())) SetTextColor(dc, GetSysColor(COLOR_GRAYTEXT));
+    DrawTextW(dc, wide(textOf(control())).c_str(), -1, &box,
               DT_RIGHT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
-    EndPaint(edit_, &painting);
+    EndPaint(control(), &painting);
 }
 
 void LineEdit::useFont(HFONT font, int margin) {
-    defaultProc(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+    below(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
     // A new font brings margins of its own, which leave a number box so little room that it scrolls the first
     // digit of "0,170" away when the caret stands behind the last. A path without a frame begins where the label above
     // it begins.
     const int side = isNumber_ ? margin : 0;
-    if (isNumber_ || isBare_)
-        defaultProc(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(side, side));
-    SetWindowPos(edit_, nullptr, 0, 0, 0, 0,
+    if (isNumber_ || isBare_) below(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(side, side));
+    SetWindowPos(control(), nullptr, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
 }
 
@@ -147,18 +131,18 @@ void LineEdit::takeFont(HFONT font) {
     font_ = font;
     fit_ = {0, true};
     small_.reset();
-    useFont(font, MulDiv(1, dpiOf(edit_), USER_DEFAULT_SCREEN_DPI));
+    useFont(font, MulDiv(1, dpiOf(control()), USER_DEFAULT_SCREEN_DPI));
     fit();
 }
 
 void LineEdit::fit() {
     if (!isNumber_ || font_ == nullptr || fitting_) return;
     fitting_ = true;
-    const std::wstring text = wide(textOf(edit_));
+    const std::wstring text = wide(textOf(control()));
     RECT inside{};
-    defaultProc(EM_GETRECT, 0, reinterpret_cast<LPARAM>(&inside));
-    // The caret takes a pixel behind the last digit.
-    const int room = static_cast<int>(inside.right - inside.left) - 1;
+    below(EM_GETRECT, 0, reinterpret_cast<LPARAM>(&inside));
+    // The caret takes a pixel behind the last digit. No digits fit a box that has no size yet.
+    const int room = std::max(0, static_cast<int>(inside.right - inside.left) - 1);
     std::array<int, faceSizes.size()> widths{};
     std::array<UniqueFont, faceSizes.size()> fonts;
     for (std::size_t face = 0; face < faceSizes.size(); ++face) {
@@ -173,19 +157,19 @@ void LineEdit::fit() {
     fit_ = now;
     if (other) {
         UniqueFont fresh = std::move(fonts[now.face]);
-        useFont(now.face == 0 ? font_ : fresh.get(), MulDiv(1, dpiOf(edit_), USER_DEFAULT_SCREEN_DPI));
+        useFont(now.face == 0 ? font_ : fresh.get(), MulDiv(1, dpiOf(control()), USER_DEFAULT_SCREEN_DPI));
         small_ = std::move(fresh);
     }
-    if (other || mark || !now.whole) InvalidateRect(edit_, nullptr, TRUE);
+    if (other || mark || !now.whole) InvalidateRect(control(), nullptr, TRUE);
     fitting_ = false;
     tell();
 }
 
 void LineEdit::tell() {
-    const bool wanted = !fit_.whole && (pointed_ || GetFocus() == edit_);
+    const bool wanted = !fit_.whole && (pointed_ || GetFocus() == control());
     if (!wanted && !told_) return;
     told_ = wanted;
-    SendMessageW(GetParent(edit_), numberCut, wanted ? TRUE : FALSE, reinterpret_cast<LPARAM>(edit_));
+    SendMessageW(GetParent(control()), numberCut, wanted ? TRUE : FALSE, reinterpret_cast<LPARAM>(control()));
 }
 
 bool changesText(UINT message) {
@@ -211,27 +195,27 @@ LRESULT LineEdit::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         takeFont(reinterpret_cast<HFONT>(wParam));
         return 0;
     case WM_NCCALCSIZE: {
-        const LRESULT result = defaultProc(message, wParam, lParam);
+        const LRESULT result = below(message, wParam, lParam);
         centre(*reinterpret_cast<RECT*>(lParam));
         return result;
     }
     case WM_NCPAINT: {
-        const LRESULT result = defaultProc(message, wParam, lParam);
+        const LRESULT result = below(message, wParam, lParam);
         paintAround();
         return result;
     }
     case WM_NCHITTEST: {
         // A click above or below the text is one into the box.
-        const LRESULT place = defaultProc(message, wParam, lParam);
+        const LRESULT place = below(message, wParam, lParam);
         return place == HTNOWHERE || place == HTBORDER ? HTCLIENT : place;
     }
     case WM_PAINT:
-        if (fit_.whole || GetFocus() == edit_) break;
+        if (fit_.whole || GetFocus() == control()) break;
         paintCut();
         return 0;
     case WM_MOUSEMOVE:
         if (!pointed_ && !fit_.whole) {
-            TRACKMOUSEEVENT leave{sizeof leave, TME_LEAVE, edit_, 0};
+            TRACKMOUSEEVENT leave{sizeof leave, TME_LEAVE, control(), 0};
             pointed_ = TrackMouseEvent(&leave) != FALSE;
             tell();
         }
@@ -243,11 +227,11 @@ LRESULT LineEdit::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     default:
         break;
     }
-    const LRESULT result = defaultProc(message, wParam, lParam);
+    const LRESULT result = below(message, wParam, lParam);
     if (changesText(message) || message == WM_SIZE) fit();
-    if (message == WM_ENABLE) RedrawWindow(edit_, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
+    if (message == WM_ENABLE) RedrawWindow(control(), nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
     if ((message == WM_SETFOCUS || message == WM_KILLFOCUS) && !fit_.whole) {
-        InvalidateRect(edit_, nullptr, TRUE);
+        InvalidateRect(control(), nullptr, TRUE);
         tell();
     }
     return result;
@@ -256,7 +240,7 @@ LRESULT LineEdit::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 } // namespace
 
 void dressLineEdit(HWND edit) {
-    SetWindowSubclass(edit, LineEdit::proc, lineSubclass, reinterpret_cast<DWORD_PTR>(new LineEdit(edit)));
+    layOver(edit, std::make_unique<LineEdit>(edit));
 }
 
 } // namespace varno::win32

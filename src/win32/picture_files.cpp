@@ -14,6 +14,7 @@
 #include "win32/clipboard.h"
 #include "win32/dpi.h"
 #include "win32/gdi_canvas.h"
+#include "win32/late.h"
 #include "win32/strings.h"
 #include "win32/unique.h"
 
@@ -59,18 +60,39 @@ HENHMETAFILE metafileOf(const AnnotatedPicture& picture) {
     return CloseEnhMetaFile(dc);
 }
 
+namespace gdiPlus = Gdiplus::DllExports;
+constexpr const wchar_t* gdiPlusLibrary = L"gdiplus.dll";
+constexpr const wchar_t* streamLibrary = L"ole32.dll";
+
 // GDI+ for as long as it is needed.
 class PlusSession {
   public:
     PlusSession() {
         const Gdiplus::GdiplusStartupInput input;
-        Gdiplus::GdiplusStartup(&token_, &input, nullptr);
+        Late<decltype(&Gdiplus::GdiplusStartup)>(gdiPlusLibrary, "GdiplusStartup")(&token_, &input, nullptr);
     }
-    ~PlusSession() { Gdiplus::GdiplusShutdown(token_); }
+    ~PlusSession() { shutdown_(token_); }
     PlusSession(const PlusSession&) = delete;
     PlusSession& operator=(const PlusSession&) = delete;
 
+    /// Writes a bitmap with the resolution of `fileDpi` into a stream.
+    bool save(HBITMAP drawn, IStream& stream, const CLSID& encoder) const {
+        const Late<decltype(&gdiPlus::GdipCreateBitmapFromHBITMAP)> create(gdiPlusLibrary,
+                                                                           "GdipCreateBitmapFromHBITMAP");
+        const Late<decltype(&gdiPlus::GdipBitmapSetResolution)> resolve(gdiPlusLibrary,
+                                                                        "GdipBitmapSetResolution");
+        const Late<decltype(&gdiPlus::GdipSaveImageToStream)> write(gdiPlusLibrary, "GdipSaveImageToStream");
+        const Late<decltype(&gdiPlus::GdipDisposeImage)> dispose(gdiPlusLibrary, "GdipDisposeImage");
+        Gdiplus::GpBitmap* bitmap = nullptr;
+        if (create(drawn, nullptr, &bitmap) != Gdiplus::Ok) return false;
+        resolve(bitmap, fileDpi, fileDpi);
+        const bool saved = write(bitmap, &stream, &encoder, nullptr) == Gdiplus::Ok;
+        dispose(bitmap);
+        return saved;
+    }
+
   private:
+    Late<decltype(&Gdiplus::GdiplusShutdown)> shutdown_{gdiPlusLibrary, "GdiplusShutdown"};
     ULONG_PTR token_ = 0;
 };
 
@@ -78,8 +100,8 @@ class PlusSession {
 Bytes bytesOf(IStream& stream) {
     STATSTG facts{};
     HGLOBAL memory = nullptr;
-    if (stream.Stat(&facts, STATFLAG_NONAME) != S_OK || GetHGlobalFromStream(&stream, &memory) != S_OK)
-        return {};
+    const Late<decltype(&GetHGlobalFromStream)> memoryOf(streamLibrary, "GetHGlobalFromStream");
+    if (stream.Stat(&facts, STATFLAG_NONAME) != S_OK || memoryOf(&stream, &memory) != S_OK) return {};
     Bytes bytes(static_cast<const char*>(GlobalLock(memory)),
                 static_cast<std::size_t>(facts.cbSize.QuadPart));
     GlobalUnlock(memory);
@@ -145,13 +167,10 @@ Bytes pngOf(const AnnotatedPicture& picture) {
     const UniqueBitmap drawn = bitmapOf(picture, fileDpi);
     const PlusSession session;
     IStream* stream = nullptr;
-    if (CreateStreamOnHGlobal(nullptr, TRUE, &stream) != S_OK) throw RunTimeError(errOutOfMemory);
+    const Late<decltype(&CreateStreamOnHGlobal)> makeStream(streamLibrary, "CreateStreamOnHGlobal");
+    if (makeStream(nullptr, TRUE, &stream) != S_OK) throw RunTimeError(errOutOfMemory);
     Bytes bytes;
-    {
-        Gdiplus::Bitmap bitmap(drawn.get(), nullptr);
-        bitmap.SetResolution(fileDpi, fileDpi);
-        if (bitmap.Save(stream, &pngEncoder, nullptr) == Gdiplus::Ok) bytes = bytesOf(*stream);
-    }
+    if (session.save(drawn.get(), *stream, pngEncoder)) bytes = bytesOf(*stream);
     stream->Release();
     if (bytes.empty()) throw RunTimeError(errOutOfMemory);
     return bytes;
@@ -176,7 +195,7 @@ void savePicture(HWND owner, const AnnotatedPicture& picture, const std::string&
     // The engine works in the process's current directory, which must stay what it is.
     dialog.Flags =
         OFN_EXPLORER | OFN_OVERWRITEPROMPT | OFN_NOCHANGEDIR | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY;
-    if (!GetSaveFileNameW(&dialog)) return;
+    if (!Late<decltype(&GetSaveFileNameW)>(L"comdlg32.dll", "GetSaveFileNameW")(&dialog)) return;
     // What the name ends in counts, then the kind that was chosen.
     const std::wstring_view chosen(path.data());
     const Kind* kind =

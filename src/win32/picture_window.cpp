@@ -5,7 +5,6 @@
 
 #include <utility>
 
-#include "win32/accessible_names.h"
 #include "win32/gdi_canvas.h"
 #include "win32/picture_files.h"
 #include "win32/unique.h"
@@ -16,7 +15,7 @@ void PictureWindow::create(HWND parent, int id, const std::string& name, const R
     picture_ = &picture;
     Window::create(L"VarnoPicture", name, WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, 0, parent,
                    reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), {0, 0, 0, 0});
-    nameForScreenReaders(handle(), name, ROLE_SYSTEM_GRAPHIC);
+    speakAs(name, ROLE_SYSTEM_GRAPHIC);
 }
 
 void PictureWindow::setScale(int surfaceDpi, int penDpi) {

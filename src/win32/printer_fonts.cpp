@@ -6,6 +6,7 @@
 
 #include <algorithm>
 
+#include "win32/late.h"
 #include "win32/strings.h"
 #include "win32/unique.h"
 
@@ -32,11 +33,12 @@ int CALLBACK collect(const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM nam
 } // namespace
 
 std::wstring defaultPrinterName() {
+    const Late<decltype(&GetDefaultPrinterW)> defaultOne(L"winspool.drv", "GetDefaultPrinterW");
     DWORD length = 0;
-    GetDefaultPrinterW(nullptr, &length);
+    defaultOne(nullptr, &length);
     if (length == 0) return {};
     std::wstring name(length, L'\0');
-    if (!GetDefaultPrinterW(name.data(), &length)) return {};
+    if (!defaultOne(name.data(), &length)) return {};
     name.resize(length - 1);
     return name;
 }

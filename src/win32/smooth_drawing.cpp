@@ -90,12 +90,12 @@ void drawSmooth(HDC dc, const RECT& box, COLORREF background, const SmoothPaint&
     BitBlt(dc, box.left, box.top, width, height, memory.get(), 0, 0, SRCCOPY);
 }
 
-UniqueIcon smoothIcon(int size, const SmoothPaint& paint, bool faded) {
+UniqueBitmap smoothBitmap(int width, int height, const SmoothPaint& paint, bool faded) {
     // Drawn on black and on white: where the two differ the picture is transparent, by as much as they
     // differ.
-    const std::vector<Pixel> onBlack = average(size, size, RGB(0, 0, 0), paint);
-    const std::vector<Pixel> onWhite = average(size, size, RGB(255, 255, 255), paint);
-    const Bits bits = makeBits(size, size);
+    const std::vector<Pixel> onBlack = average(width, height, RGB(0, 0, 0), paint);
+    const std::vector<Pixel> onWhite = average(width, height, RGB(255, 255, 255), paint);
+    Bits bits = makeBits(width, height);
     if (bits.pixels == nullptr) return nullptr;
     for (std::size_t i = 0; i < onBlack.size(); ++i) {
         const int alpha = 255 - (onWhite[i].green - onBlack[i].green);
@@ -108,6 +108,12 @@ UniqueIcon smoothIcon(int size, const SmoothPaint& paint, bool faded) {
             bits.pixels[i] = argb(alpha, pixel.red, pixel.green, pixel.blue);
         }
     }
+    return std::move(bits.bitmap);
+}
+
+UniqueIcon smoothIcon(int size, const SmoothPaint& paint) {
+    const UniqueBitmap bitmap = smoothBitmap(size, size, paint, false);
+    if (!bitmap) return nullptr;
     const UniqueBitmap mask(CreateBitmap(size, size, 1, 1, nullptr));
     {
         const UniqueDc dc(CreateCompatibleDC(nullptr));
@@ -116,7 +122,7 @@ UniqueIcon smoothIcon(int size, const SmoothPaint& paint, bool faded) {
     }
     ICONINFO info{};
     info.fIcon = TRUE;
-    info.hbmColor = bits.bitmap.get();
+    info.hbmColor = bitmap.get();
     info.hbmMask = mask.get();
     return UniqueIcon(CreateIconIndirect(&info));
 }

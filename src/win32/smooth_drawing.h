@@ -16,7 +16,9 @@ using SmoothPaint = std::function<void(HDC dc, int width, int height)>;
 /// Over what is there in `box`.
 void drawSmooth(HDC dc, const RECT& box, COLORREF background, const SmoothPaint& paint);
 
-/// A square icon with a transparent background; `faded` is how it looks when it does nothing.
-UniqueIcon smoothIcon(int size, const SmoothPaint& paint, bool faded = false);
+/// A bitmap with a transparent background; `faded` is how it looks when it does nothing.
+UniqueBitmap smoothBitmap(int width, int height, const SmoothPaint& paint, bool faded);
+/// A square icon with a transparent background.
+UniqueIcon smoothIcon(int size, const SmoothPaint& paint);
 
 } // namespace varno::win32

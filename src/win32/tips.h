@@ -2,29 +2,44 @@
 
 #include <windows.h>
 
+#include <optional>
 #include <string>
+#include <vector>
+
+#include "win32/window.h"
 
 namespace varno::win32 {
 
-/// Words that come up when the pointer rests on a control or on a part of a window, and go by themselves.
+/// Words about a control that takes the mouse (a locked one does not), or about a part of a window's client area.
+struct Tip {
+    HWND window;
+    std::optional<RECT> part;
+    std::string text;
+};
+
+/// Words that come up when the pointer rests on what they are about, and go by themselves. The program's message loop tells
+/// them of the pointer: left to themselves, they would look at every message of every control that they are about.
 class Tips {
   public:
-    Tips() = default;
+    explicit Tips(WindowHost& host) : host_(host) {}
     ~Tips() { clear(); }
     Tips(const Tips&) = delete;
     Tips& operator=(const Tips&) = delete;
 
-    /// A control that takes the mouse; a locked one does not.
-    void add(HWND control, const std::string& text);
-    /// A part of a window's client area.
-    void addPart(HWND window, const RECT& part, const std::string& text);
-    void clear();
+    void add(HWND control, const std::string& text) { add({control, std::nullopt, text}); }
+    void add(Tip tip);
+    /// These and no others. Of the same windows in the same order only what changed is told: making them anew costs more
+    /// than drawing the sketch that they are about.
+    void show(const std::vector<Tip>& tips);
 
   private:
-    void addTool(HWND owner, UINT flags, UINT_PTR id, const RECT& part, const std::string& text);
+    void create(HWND owner);
+    void clear();
+    void change(std::size_t place, const Tip& tip);
 
-    HWND tip_ = nullptr;
-    UINT_PTR parts_ = 0;
+    WindowHost& host_;
+    HWND window_ = nullptr;
+    std::vector<Tip> tips_;
 };
 
 } // namespace varno::win32

@@ -143,14 +143,28 @@ constexpr std::array pictures{
     Picture{"res1", drawResult}, Picture{"momk", drawMoment},   Picture{"fria", drawFreeLoads},
 };
 
+// On a square of that width.
+void draw(std::string_view key, HDC dc, int width) {
+    Pencil pencil(dc, width);
+    std::ranges::find(pictures, key, &Picture::key)->draw(pencil);
+}
+
 } // namespace
 
-UniqueIcon toolbarPicture(std::string_view key, int size, bool faded) {
-    const auto paint = [&](HDC dc, int width, int) {
-        Pencil pencil(dc, width);
-        std::ranges::find(pictures, key, &Picture::key)->draw(pencil);
+UniqueIcon toolbarPicture(std::string_view key, int size) {
+    return smoothIcon(size, [&](HDC dc, int width, int) { draw(key, dc, width); });
+}
+
+UniqueBitmap toolbarPictures(std::span<const std::string_view> keys, int size, bool faded) {
+    const auto paint = [&](HDC dc, int, int height) {
+        int left = 0;
+        for (const std::string_view key : keys) {
+            SetViewportOrgEx(dc, left, 0, nullptr);
+            draw(key, dc, height);
+            left += height;
+        }
     };
-    return smoothIcon(size, paint, faded);
+    return smoothBitmap(size * static_cast<int>(keys.size()), size, paint, faded);
 }
 
 } // namespace varno::win32

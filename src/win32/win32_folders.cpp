@@ -7,6 +7,7 @@
 
 #include "base/folders.h"
 #include "base/run_time_error.h"
+#include "win32/late.h"
 #include "win32/strings.h"
 
 namespace varno {
@@ -109,9 +110,10 @@ class WindowsFolders : public Folders {
 
     std::vector<std::string> files(const std::string& path, const std::string& patterns) override {
         const std::wstring specs = wide(patterns);
+        const win32::Late<decltype(&PathMatchSpecW)> matches(L"shlwapi.dll", "PathMatchSpecW");
         return entries(path, [&](const WIN32_FIND_DATAW& data) {
             return (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0 && !hidden(data) &&
-                   PathMatchSpecW(data.cFileName, specs.c_str()) != FALSE;
+                   matches(data.cFileName, specs.c_str()) != FALSE;
         });
     }
 };

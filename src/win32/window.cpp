@@ -1,5 +1,7 @@
 #include "win32/window.h"
 
+#include <commctrl.h>
+
 #include "win32/resource_ids.h"
 #include "win32/strings.h"
 
@@ -27,6 +29,10 @@ void setPlace(HWND window, int x, int y, int width, int height) {
 }
 
 void dispatch(WindowHost& host, MSG& message) {
+    if (message.message >= WM_MOUSEFIRST && message.message <= WM_MOUSELAST) {
+        for (const HWND tip : host.tips())
+            SendMessageW(tip, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&message));
+    }
     if (host.translate(message)) return;
     TranslateMessage(&message);
     DispatchMessageW(&message);
@@ -115,7 +121,14 @@ LRESULT CALLBACK Window::proc(HWND window, UINT message, WPARAM wParam, LPARAM l
         return result;
     }
     LRESULT result = 0;
-    self->host_.guarded([&] { result = self->onMessage(message, wParam, lParam); });
+    self->host_.guarded([&] {
+        if (message == WM_GETOBJECT && self->spoken_) {
+            const auto answer = self->spoken_->answer(window, wParam, lParam);
+            result = answer ? *answer : self->defaultProc(message, wParam, lParam);
+            return;
+        }
+        result = self->onMessage(message, wParam, lParam);
+    });
     return result;
 }
 

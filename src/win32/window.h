@@ -4,10 +4,12 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "base/run_time_error.h"
 #include "controls/activation.h"
 #include "controls/window_place.h"
+#include "win32/accessible_names.h"
 
 namespace varno::win32 {
 
@@ -26,6 +28,8 @@ class WindowHost {
     virtual std::optional<WindowPlace> keptPlace(const std::string&) { return std::nullopt; }
     /// Which of the program's windows is the active one.
     Activation& activation() { return activation_; }
+    /// The tooltip windows that are to hear of the pointer.
+    std::vector<HWND>& tips() { return tips_; }
     /// Runs one event's rules; a run-time error stops it and is reported.
     template <typename Event>
     void guarded(Event event) {
@@ -38,6 +42,7 @@ class WindowHost {
 
   private:
     Activation activation_;
+    std::vector<HWND> tips_;
 };
 
 /// Hands one message of the queue to the window it belongs to.
@@ -67,6 +72,8 @@ class Window {
     void create(const wchar_t* className, const std::string& text, DWORD style, DWORD exStyle, HWND parent,
                 HMENU menu, Place place);
     void destroy();
+    /// Names the window itself for screen readers, as nameForScreenReaders does a control.
+    void speakAs(const std::string& name, long role = 0) { spoken_.emplace(name, role); }
 
     virtual LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
     virtual LRESULT defaultProc(UINT message, WPARAM wParam, LPARAM lParam);
@@ -85,6 +92,7 @@ class Window {
     WindowHost& host_;
     HWND handle_ = nullptr;
     HWND lastFocus_ = nullptr;
+    std::optional<SpokenName> spoken_;
 };
 
 /// The instance of the program.
