@@ -1,6 +1,6 @@
 // The whole program under random use for a while: it does not fall, hang, lose anything or grow.
 //
-// The environment tells how long (VARNO_SOAK_SECONDS, 60 unless told) and which walk (VARNO_SOAK_SEED, another one each
+// The environment tells how long (VARNO_SOAK_SECONDS, 25 unless told) and which walk (VARNO_SOAK_SEED, another one each
 // time unless told; a walk that failed names its own).
 #include <gtest/gtest.h>
 
@@ -68,7 +68,7 @@ class Soak : public SoakWalk {
     void tellTrail() const;
 
     const unsigned seed_;
-    const unsigned seconds_ = environment("VARNO_SOAK_SECONDS", 60);
+    const unsigned seconds_ = environment("VARNO_SOAK_SECONDS", 25);
     MemoryCurve memory_{ownMemory(program().process())};
 };
 
