@@ -88,6 +88,27 @@ TEST_F(WindowPlaces, WindowsComeBackWhereTheyWereLeft) {
               loadsBox.bottom - loadsBox.top);
 }
 
+TEST_F(WindowPlaces, AProgramThatWasKilledComesBackWhereItWas) {
+    const std::string file = local + "\\Varno\\fonster.txt";
+    start();
+    const Control loads = opened(idLineLoads, lineLoadClass);
+    const RECT loadsBox = boxOf(loads);
+    // A window is known where it was put of itself before anybody can move it: when the status line is written.
+    expectSoon(*program, std::string("Nytt fall"),
+               [&] { return program->main().item(idStatusState).text(); });
+    put(program->main(), 30, 20, 1000, 720);
+    put(loads, 300, 250, loadsBox.right - loadsBox.left, loadsBox.bottom - loadsBox.top);
+    expectSoon(*program, true, [&] {
+        return fileExists(file) && readFile(file).find("VarnoMain 30 20 1000 720") != Bytes::npos &&
+               readFile(file).find("VarnoLineLoads 300 250") != Bytes::npos;
+    });
+    program.reset();
+    start();
+    expectBox(program->main(), 30, 20, 1000, 720);
+    expectBox(opened(idLineLoads, lineLoadClass), 300, 250, loadsBox.right - loadsBox.left,
+              loadsBox.bottom - loadsBox.top);
+}
+
 TEST_F(WindowPlaces, NoWindowComesBackOffTheScreen) {
     scene.beside("lokalt\\Varno");
     writeFile(local + "\\Varno\\fonster.txt",
