@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <tuple>
 
 #include "driver/program.h"
 #include "driver/remote.h"
@@ -165,9 +166,21 @@ TEST_F(WindowPlaces, EveryWindowFollowsTheResolutionOfItsScreen) {
     expectGrown(viewer, viewer.item(idFileTextBox));
     const Control diagram = opened(idMoment, diagramClass);
     expectGrown(diagram, diagram.item(idPlot));
-    const Control loads = opened(idLineLoads, lineLoadClass);
-    expectGrown(loads, loads.item(idLineLoadField));
+    for (const auto& [command, name, part] : {std::tuple{idLineLoads, lineLoadClass, int{idLineLoadField}},
+                                              {idFreeLineLoads, "VarnoFreeLineLoads", idLineLoadField},
+                                              {idImportant, disclaimerClass, idOkButton}}) {
+        const Control window = opened(command, name);
+        expectGrown(window, window.item(part));
+    }
     expectGrown(program->main(), program->field(Field::rubrik));
+    // Those that are waited for.
+    for (const auto& [command, name, part] : {std::tuple{idOpen, fileDialogClass, int{idFileName}},
+                                              {idDeleteResults, "VarnoDelFile", idFileList}}) {
+        const Control window = opened(command, name);
+        expectGrown(window, window.item(part));
+        window.post(WM_CLOSE);
+        program->waitGone(window);
+    }
 }
 
 } // namespace
