@@ -156,51 +156,11 @@ std::optional<Control> InputFormWindow::lockedAt(POINT place) const {
 }
 
 void InputFormWindow::showDoubts(const std::vector<Doubt>& doubts) {
-    if (doubts == doubts_) return;
-    const auto redraw = [this] {
-        for (const Doubt& doubt : doubts_) {
-            if (doubt.box)
-                RedrawWindow(window(*doubt.box), nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_ERASE);
-        }
-    };
-    redraw();
-    doubts_ = doubts;
-    redraw();
-}
-
-const Doubt* InputFormWindow::doubtOf(int id) const {
-    for (const Doubt& doubt : doubts_) {
-        if (doubt.box && controlId(*doubt.box) == id) return &doubt;
+    std::map<int, std::string> boxes;
+    for (const Doubt& doubt : doubts) {
+        if (doubt.box) boxes.emplace(controlId(*doubt.box), doubt.text);
     }
-    return nullptr;
-}
-
-std::string InputFormWindow::doubtAt(POINT place) const {
-    const HWND focused = GetFocus();
-    const Doubt* found = nullptr;
-    for (const Doubt& doubt : doubts_) {
-        if (!doubt.box || !IsWindowVisible(window(*doubt.box))) continue;
-        RECT area{};
-        GetWindowRect(window(*doubt.box), &area);
-        const bool pointed = PtInRect(&area, place) && IsChild(handle(), WindowFromPoint(place));
-        if (pointed) return doubt.text;
-        if (window(*doubt.box) == focused) found = &doubt;
-    }
-    return found == nullptr ? std::string() : found->text;
-}
-
-// A ground of the box's own; where the user has chosen colours to see well by, those of a hint.
-LRESULT InputFormWindow::markedGround(HDC dc) const {
-    HIGHCONTRASTW contrast{};
-    contrast.cbSize = sizeof contrast;
-    SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0);
-    const bool chosen = (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
-    constexpr COLORREF amber = RGB(255, 232, 163);
-    const COLORREF ground = chosen ? GetSysColor(COLOR_INFOBK) : amber;
-    SetTextColor(dc, chosen ? GetSysColor(COLOR_INFOTEXT) : RGB(0, 0, 0));
-    SetBkColor(dc, ground);
-    SetDCBrushColor(dc, ground);
-    return reinterpret_cast<LRESULT>(GetStockObject(DC_BRUSH));
+    mark(boxes);
 }
 
 LRESULT InputFormWindow::defaultProc(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -360,11 +320,6 @@ LRESULT InputFormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         // The control's own position means nothing; it must not run into its end.
         return TRUE;
     }
-    case WM_CTLCOLOREDIT:
-    case WM_CTLCOLORSTATIC:
-        if (doubtOf(GetDlgCtrlID(reinterpret_cast<HWND>(lParam))) != nullptr)
-            return markedGround(reinterpret_cast<HDC>(wParam));
-        break;
     default:
         break;
     }

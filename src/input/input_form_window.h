@@ -33,8 +33,6 @@ class InputFormWindow : public win32::FormWindow, public FormView {
     std::optional<Control> lockedAt(POINT place) const;
     /// Marks the boxes of these and no other.
     void showDoubts(const std::vector<Doubt>& doubts);
-    /// What there is to say of the marked box at a place of the screen, or of the one that has the focus.
-    std::string doubtAt(POINT place) const;
     /// Lays the form out at another resolution.
     void changeDpi(int dpi);
     /// Takes the room that the main window has for it, and scrolls where it needs more.
@@ -93,10 +91,6 @@ class InputFormWindow : public win32::FormWindow, public FormView {
     ScrollAxis down_;
     WheelSteps wheel_;
     bool fitting_ = false; ///< a scroll bar that comes or goes tells of another size
-    const Doubt* doubtOf(int id) const;
-    LRESULT markedGround(HDC dc) const;
-
-    std::vector<Doubt> doubts_;
 };
 
 } // namespace varno

@@ -70,6 +70,13 @@ class NumberBoxes {
         view_.setText(box, before.text);
         states_[box].typed = before.typed;
     }
+    /// The number that a box would be left with just now, when it was typed. An emptied box is about to get one.
+    std::optional<double> typing(Box box) const {
+        const auto state = states_.find(box);
+        if (state == states_.end() || !state->second.typed) return std::nullopt;
+        const std::string text = view_.text(box);
+        return text.empty() ? std::nullopt : std::optional(VARNO1::parseNumber(text));
+    }
     /// What the user typed goes to `store`. A box that was left alone is rewritten in `pattern`.
     template <typename Store>
     void leave(Box box, std::string_view pattern, Store store) {

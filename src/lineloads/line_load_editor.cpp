@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include "model/plausibility.h"
+#include "model/record_fields.h"
+
 namespace varno {
 
 namespace {
@@ -14,6 +17,10 @@ constexpr LineLoadControl countBox{LineLoadBox::nllast};
 // The highest span that the sketch has room for. The number of spans of the case is no limit: a load beyond
 // it is drawn where the spans would be.
 constexpr double highestSpan = 15;
+
+std::int16_t spanNumberOf(double typed) {
+    return toInteger(asShown(std::min(typed, highestSpan), wholePattern));
+}
 
 } // namespace
 
@@ -107,9 +114,8 @@ void LineLoadEditor::leaveSpanNumber(LineLoadControl box, std::int16_t& stored) 
             if (typed > highestSpan) boxes_.put(box, number, wholePattern);
             return;
         }
-        const double whole = asShown(number, wholePattern);
-        stored = toInteger(whole);
-        boxes_.put(box, whole, wholePattern);
+        stored = spanNumberOf(number);
+        boxes_.put(box, stored, wholePattern);
         context_.sketch.lineLoadRefresh();
     });
 }
@@ -122,6 +128,34 @@ void LineLoadEditor::leaveReal(LineLoadControl box, float& stored, const char* p
         boxes_.put(box, number, pattern);
         context_.sketch.lineLoadRefresh();
     });
+}
+
+DesignCase LineLoadEditor::asTyped() const {
+    DesignCase seen = context_.designCase;
+    for (int row = 1; row <= maxLineLoads; ++row) {
+        try {
+            float& distance = (seen.*set_.distance)(row);
+            if (const auto typed = boxes_.typing({LineLoadBox::avst, row});
+                typed && toSingle(*typed) != distance)
+                distance = toSingle(asShown(*typed, realPattern));
+            if (const auto typed = boxes_.typing({LineLoadBox::llfnr, row}))
+                (seen.*set_.span)(row) = spanNumberOf(*typed);
+        } catch (const RunTimeError&) {
+            // No number type holds it; that is told when the box is left.
+        }
+    }
+    return seen;
+}
+
+std::vector<LineLoadDoubt> LineLoadEditor::doubts() const {
+    std::vector<LineLoadDoubt> doubts;
+    for (const Finding& finding : implausible(asTyped())) {
+        if (finding.field == recordFieldName(set_.span))
+            doubts.push_back({{LineLoadBox::llfnr, finding.index}, finding.text});
+        if (finding.field == recordFieldName(set_.distance))
+            doubts.push_back({{LineLoadBox::avst, finding.index}, finding.text});
+    }
+    return doubts;
 }
 
 void LineLoadEditor::spin(int step) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "controls/main_view.h"
 #include "input/edit_steps.h"
 #include "input/form_view.h"
@@ -61,6 +63,9 @@ class LineLoadEditor {
     /// The arrow keys up (-1) and down (1): in the count they step it, elsewhere they stay in the column.
     void arrow(LineLoadControl box, int rows);
 
+    /// What there is to look at twice in the rows, with what is being typed taken for what will be stored.
+    std::vector<LineLoadDoubt> doubts() const;
+
   private:
     using Rows = BoundedArray<bool, 1, maxLineLoads>;
 
@@ -68,6 +73,7 @@ class LineLoadEditor {
     void showRecord();
     void fillRow(int row);
     void showRows(int last);
+    DesignCase asTyped() const;
     void leaveSpanNumber(LineLoadControl box, std::int16_t& stored);
     void leaveReal(LineLoadControl box, float& stored, const char* pattern);
     void spin(int step);

@@ -20,6 +20,13 @@ struct LineLoadControl {
     auto operator<=>(const LineLoadControl&) const = default;
 };
 
+/// What an engineer would look at twice, and at which box.
+struct LineLoadDoubt {
+    LineLoadControl box;
+    std::string text;
+    bool operator==(const LineLoadDoubt&) const = default;
+};
+
 /// What the rules ask of a line load editor's window. It shows what it is told and knows no rule. Texts are
 /// UTF-8.
 class LineLoadView {

@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include <array>
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -106,6 +107,13 @@ LineLoadWindow::LineLoadWindow(win32::WindowHost& host, HWND owner, const LineLo
         if (const auto box = controlOf(control.id)) name(control.id, control.kind, accessibleName(*box));
     }
     name(idLineLoadSpin, ControlKind::spin, accessibleName({LineLoadBox::nllast}));
+}
+
+void LineLoadWindow::showDoubts(const std::vector<LineLoadDoubt>& doubts) {
+    std::map<int, std::string> boxes;
+    for (const LineLoadDoubt& doubt : doubts)
+        boxes.emplace(idOf(doubt.box), doubt.text);
+    mark(boxes);
 }
 
 std::string LineLoadWindow::text(LineLoadControl control) const {

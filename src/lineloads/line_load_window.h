@@ -13,6 +13,9 @@ class LineLoadWindow : public win32::FormWindow, public LineLoadView {
     /// From here on what happens in the window goes to its rules.
     void listen(LineLoadEditor& rules) { rules_ = &rules; }
 
+    /// Marks the boxes of these and no other.
+    void showDoubts(const std::vector<LineLoadDoubt>& doubts);
+
     std::string text(LineLoadControl control) const override;
     void setText(LineLoadControl control, const std::string& text) override;
     void setRowVisible(int row, bool visible) override;

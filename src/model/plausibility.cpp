@@ -26,6 +26,17 @@ std::string inSpan(int span) {
     return "fack " + std::to_string(span);
 }
 
+// A set of them, and what one of it is called.
+struct LineLoads {
+    const char* name;
+    std::int16_t DesignCase::*count;
+    LineLoadIntegers DesignCase::*span;
+    LineLoadReals DesignCase::*distance;
+};
+constexpr LineLoads lineLoads{"Linjelast", &DesignCase::nllast, &DesignCase::llfnr, &DesignCase::avst};
+constexpr LineLoads freeLineLoads{"Fri linjelast", &DesignCase::nllastf, &DesignCase::llfnrf,
+                                  &DesignCase::avstf};
+
 class Look {
   public:
     explicit Look(const DesignCase& designCase)
@@ -40,9 +51,11 @@ class Look {
             lookAtCantilever(&DesignCase::konsv, "Vänster", 1);
             lookAtCantilever(&DesignCase::konsh, "Höger", spans_);
         }
-        const int loads = std::min<int>(case_.nllast, maxLineLoads);
-        for (int load = 1; load <= loads; ++load)
-            lookAtLineLoad(load);
+        for (const LineLoads& loads : {lineLoads, freeLineLoads}) {
+            const int count = std::min<int>(case_.*loads.count, maxLineLoads);
+            for (int load = 1; load <= count; ++load)
+                lookAtLineLoad(loads, load);
+        }
         return std::move(findings_);
     }
 
@@ -95,20 +108,20 @@ class Look {
                 shown(case_.spv(span)) + " m.");
     }
 
-    void lookAtLineLoad(int load) {
-        const int span = case_.llfnr(load);
-        const std::string name = "Linjelast " + std::to_string(load);
+    void lookAtLineLoad(const LineLoads& loads, int load) {
+        const int span = (case_.*loads.span)(load);
+        const std::string name = std::string(loads.name) + " " + std::to_string(load);
         if (span < 1 || span > spans_) {
-            add(Kind::lineLoadSpan, &DesignCase::llfnr, load,
+            add(Kind::lineLoadSpan, loads.span, load,
                 name + " står i " + inSpan(span) + ", men plattan har " + std::to_string(spans_) + " fack.");
             return;
         }
         // A load on a cantilever is entered at a distance outside the span next to it.
         const float before = span == 1 ? std::max(case_.konsv, 0.0f) : 0.0f;
         const float behind = span == spans_ ? std::max(case_.konsh, 0.0f) : 0.0f;
-        const float distance = case_.avst(load);
+        const float distance = (case_.*loads.distance)(load);
         if (distance >= -before && distance - case_.spv(span) <= behind) return;
-        add(Kind::lineLoadPlace, &DesignCase::avst, load,
+        add(Kind::lineLoadPlace, loads.distance, load,
             name + " står utanför " + inSpan(span) + ": avståndet är " + shown(distance) +
                 " m och spännvidden " + shown(case_.spv(span)) + " m.");
     }

@@ -35,7 +35,7 @@ struct Finding {
 /// For scripts: "spanLength".
 std::string_view nameOf(Finding::Kind kind);
 
-/// Everything that there is to tell, span by span, then the line loads. Never throws, whatever the record holds.
+/// Everything that there is to tell, span by span, then the line loads, then the free ones. Never throws, whatever the record holds.
 std::vector<Finding> implausible(const DesignCase& designCase);
 
 } // namespace varno

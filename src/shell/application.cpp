@@ -177,18 +177,41 @@ void Application::sketchChanged() {
 void Application::statusDue() {
     // Start-up shows the main window before there is a case in it.
     if (!IsWindowVisible(form_.handle())) return;
+    places_.look(placesNow());
     POINT pointer{};
     GetCursorPos(&pointer);
     const std::vector<Doubt> doubts = doubtsOf(case_);
-    form_.showDoubts(doubts);
+    showDoubts(doubts);
     main_.showStatus(
         status_.words({document_.changed(), fileDialog_.directory(), sketch_.totalLength(),
                        form_.lockedAt(pointer), main_.onGreyDiagram(pointer), static_cast<int>(doubts.size()),
-                       main_.onStatusState(pointer) ? doubtsInOneLine(doubts) : form_.doubtAt(pointer)}));
+                       main_.onStatusState(pointer) ? doubtsInOneLine(doubts) : doubtAt(pointer)}));
     if (IsWindowVisible(results_->viewer.handle()))
         results_->viewer.setAge(status_.resultLine(results_->reader.shown()));
     if (moments_ && IsWindowVisible(moments_->window.handle()))
         moments_->window.setAge(status_.resultLine(moments_->commands.shown()));
+}
+
+void Application::showDoubts(const std::vector<Doubt>& doubts) {
+    form_.showDoubts(doubts);
+    for (const auto* const editor : {&lineLoads_, &freeLoads_}) {
+        if (*editor) (*editor)->window.showDoubts((*editor)->rules.doubts());
+    }
+}
+
+// Of the box that the pointer is on, whichever window it is in, or else of the one with the focus.
+std::string Application::doubtAt(POINT pointer) const {
+    std::vector<const win32::FormWindow*> windows{&form_};
+    for (const auto* const editor : {&lineLoads_, &freeLoads_}) {
+        if (*editor) windows.push_back(&(*editor)->window);
+    }
+    std::string focused;
+    for (const win32::FormWindow* const window : windows) {
+        std::string text = window->marks().at(window->handle(), pointer);
+        if (!text.empty()) return text;
+        focused += window->marks().ofFocus(window->handle());
+    }
+    return focused;
 }
 
 void Application::clientResized(int width, int height) {
@@ -277,7 +300,7 @@ SaveAnswer Application::askToSave(const std::string& caption, const std::string&
 }
 
 void Application::endProgram() {
-    keepPlaces();
+    places_.keep(placesNow());
     rescue_.giveUp();
     ended_ = true;
     PostQuitMessage(0);
@@ -292,9 +315,10 @@ std::optional<WindowPlace> Application::keptPlace(const std::string& windowClass
     return place;
 }
 
-void Application::keepPlaces() {
-    const auto keep = [this](HWND window, int dpi) {
-        places_.keep(win32::classOf(window), win32::placeOf(window, dpi));
+WindowPlaces::Places Application::placesNow() const {
+    WindowPlaces::Places places;
+    const auto keep = [&](HWND window, int dpi) {
+        places[win32::classOf(window)] = win32::placeOf(window, dpi);
     };
     keep(main_.handle(), main_.dpi());
     std::vector<const win32::FormWindow*> others{&results_->viewer};
@@ -304,7 +328,7 @@ void Application::keepPlaces() {
     for (const win32::FormWindow* window : others) {
         if (window->stands()) keep(window->handle(), window->dpi());
     }
-    places_.save();
+    return places;
 }
 
 // Start-up

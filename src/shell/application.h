@@ -95,6 +95,8 @@ class Application : public win32::WindowHost,
     void runCommand(int id);
     void makeOtherWindows();
     void sketchChanged();
+    void showDoubts(const std::vector<Doubt>& doubts);
+    std::string doubtAt(POINT pointer) const;
     bool translateKeyBeside(const MSG& message);
     bool translateHelpKey(const MSG& message);
     bool translateStepKey(const MSG& message);
@@ -150,7 +152,7 @@ class Application : public win32::WindowHost,
     };
     void openLineLoads(std::unique_ptr<LineLoads>& editor, const LineLoadSet& set);
     void offerRescued();
-    void keepPlaces();
+    WindowPlaces::Places placesNow() const;
 
     NumberLocale locale_;
     DesignCase case_;

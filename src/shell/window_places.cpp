@@ -54,6 +54,18 @@ std::optional<WindowPlace> WindowPlaces::of(const std::string& window) const {
     return found == places_.end() ? std::nullopt : std::optional(found->second);
 }
 
+void WindowPlaces::look(const Places& now) {
+    settled_.insert(now.begin(), now.end());
+    if (now == seen_ && now != settled_) keep(now);
+    seen_ = now;
+}
+
+void WindowPlaces::keep(const Places& now) {
+    for (const auto& [window, place] : now)
+        places_[window] = settled_[window] = place;
+    save();
+}
+
 void WindowPlaces::save() {
     if (file_.empty()) return;
     try {

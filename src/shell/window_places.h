@@ -13,18 +13,27 @@ namespace varno {
 /// stand where they stand of themselves.
 class WindowPlaces {
   public:
+    using Places = std::map<std::string, WindowPlace>;
+
     explicit WindowPlaces(FileCalls& calls) : calls_(calls) {}
 
     /// Reads those of the last run. Without a folder nothing is kept.
     void start(const std::string& folder);
     std::optional<WindowPlace> of(const std::string& window) const;
-    void keep(const std::string& window, const WindowPlace& place) { places_[window] = place; }
-    void save();
+    /// Called now and then with where the windows stand. One that was moved and let go of is kept at once: a program that
+    /// is ended by force comes back there, too. One that stands where it was put of itself is not.
+    void look(const Places& now);
+    /// They are where the user leaves them.
+    void keep(const Places& now);
 
   private:
+    void save();
+
     FileCalls& calls_;
     std::string file_;
-    std::map<std::string, WindowPlace> places_;
+    Places places_;
+    Places seen_;    ///< at the last look
+    Places settled_; ///< what was last kept, or where a window was first seen
 };
 
 } // namespace varno

@@ -359,6 +359,11 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case returnToBox:
         returnTo(item(static_cast<int>(wParam)));
         return 0;
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORSTATIC:
+        if (const auto ground = marks_.ground(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam)))
+            return *ground;
+        return defaultProc(message, wParam, lParam);
     case WM_DRAWITEM:
         drawControl(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
         return TRUE;

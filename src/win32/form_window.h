@@ -9,6 +9,7 @@
 #include "controls/control_spec.h"
 #include "win32/balloon.h"
 #include "win32/box_keys.h"
+#include "win32/box_marks.h"
 #include "win32/dpi.h"
 #include "win32/drop_downs.h"
 #include "win32/window.h"
@@ -43,6 +44,7 @@ class FormWindow : public Window, private FieldWindow, private BoxKeys {
     /// What stands in the control that has the focus is taken over, as if it were left.
     void takeOver();
     void setFontRole(int id, FontRole role);
+    const BoxMarks& marks() const { return marks_; }
     /// It was shown and has a place of its own.
     bool stands() const { return stands_; }
     int dpi() const { return dpi_; }
@@ -90,6 +92,8 @@ class FormWindow : public Window, private FieldWindow, private BoxKeys {
     void takeBack(int box) override;
     /// Later, when the current event is over, the focus goes back to a box, its text selected.
     void postReturnTo(int id);
+    /// Marks these boxes and no other, by their IDs.
+    void mark(const std::map<int, std::string>& boxes) { marks_.show(handle(), boxes); }
     /// Ends a modal run, or hides a modeless window.
     void closeForm();
 
@@ -128,6 +132,7 @@ class FormWindow : public Window, private FieldWindow, private BoxKeys {
     int dpi_ = USER_DEFAULT_SCREEN_DPI;
     POINT origin_{};
     DropDowns dropDowns_;
+    BoxMarks marks_;
     bool open_ = false;
     bool stands_ = false;
     std::string label_;     ///< in front of the control that is made now

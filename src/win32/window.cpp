@@ -52,7 +52,8 @@ void Window::registerClass(const wchar_t* className) {
     info.hInstance = programInstance();
     info.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     info.hIcon = LoadIconW(programInstance(), MAKEINTRESOURCEW(idProgramIcon));
-    info.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+    // A colour by its number is looked up whenever it is painted, so that it follows what the user chooses meanwhile.
+    info.hbrBackground = reinterpret_cast<HBRUSH>(INT_PTR{COLOR_BTNFACE + 1});
     info.lpszClassName = className;
     RegisterClassExW(&info);
 }

@@ -18,14 +18,9 @@ class DiagramReading : public Diagrams {
         window = diagram();
         area = window.item(idDiagramPicture);
     }
-    // Chooses a row by its place, separators apart.
-    void choose(int row) {
+    void choose(int place) {
         ask();
-        const Control menu = program.window(popupMenuClass);
-        for (int i = 0; i <= row; ++i)
-            keyboard::press(VK_DOWN);
-        keyboard::press(VK_RETURN);
-        program.waitGone(menu);
+        program.chooseInPopupMenu(place);
     }
     void ask() {
         // A pointer that lies on the menu would choose a row of its own.
@@ -38,15 +33,36 @@ class DiagramReading : public Diagrams {
         program.keysInPopupMenu({VK_ESCAPE});
         return lines;
     }
+    // What "Spara som bild..." was chosen for.
     Bytes saved(const std::string& path) {
-        choose(3);
         const Control dialog = program.window(messageBoxClass);
         EXPECT_EQ(dialog.text(), "Spara som bild");
+        expectSoon(program, std::string("Edit"), [&] { return program.focused().className(); });
         keyboard::type(path);
+        expectSoon(program, path, [&] { return program.focused().text(); });
         keyboard::press(VK_RETURN);
         program.waitGone(dialog);
         expectSoon(program, true, [&] { return fileExists(path); });
         return readFile(path);
+    }
+    void askOfLoadPicture() {
+        SetCursorPos(2, 2);
+        const Control picture = program.main().item(idLoadPicture);
+        program.main().post(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(picture.handle()), -1);
+    }
+    Bytes savedLoadPicture(const std::string& path) {
+        askOfLoadPicture();
+        program.chooseInPopupMenu(3);
+        return saved(path);
+    }
+    Bytes savedDiagram(const std::string& path) {
+        choose(4);
+        return saved(path);
+    }
+    static void expectWholePng(const Bytes& png) {
+        EXPECT_TRUE(png.starts_with("\x89PNG\r\n")) << png.size();
+        EXPECT_GT(png.size(), 1000u);
+        EXPECT_TRUE(png.ends_with(Bytes("IEND\xAE\x42\x60\x82"))) << "it is whole";
     }
     // What is written into it is not of the drawing's two colours alone.
     std::size_t differentPixels(const Picture& a, const Picture& b) const {
@@ -113,14 +129,14 @@ TEST_F(DiagramReading, ValuesAreOffAtFirstAndStayOffThePaper) {
 TEST_F(DiagramReading, CopiesPictureAndValues) {
     // Whoever looks into the clipboard all the time keeps others out of it.
     const DWORD before = GetClipboardSequenceNumber();
-    choose(2);
+    choose(3);
     expectSoon(program, true, [&] { return GetClipboardSequenceNumber() != before; });
     std::string table = clipboard::text();
     std::ranges::replace(table, ',', '.'); // whatever the user's decimal sign is
     EXPECT_TRUE(table.starts_with("Fack\tx (m)\tStörsta moment (kNm/m)\tMinsta moment (kNm/m)\r\n"));
     EXPECT_EQ(std::ranges::count(table, '\n'), 1 + 5 * 21);
     EXPECT_NE(table.find("\r\n1\t0.270\t50.00\t25.00\r\n"), std::string::npos) << table.substr(0, 200);
-    choose(1);
+    choose(2);
     expectSoon(program, true, [] {
         return IsClipboardFormatAvailable(CF_ENHMETAFILE) && IsClipboardFormatAvailable(CF_BITMAP);
     });
@@ -128,14 +144,11 @@ TEST_F(DiagramReading, CopiesPictureAndValues) {
 
 TEST_F(DiagramReading, SavesThePictureInThreeKinds) {
     choose(0);
-    const Bytes svg = saved(scene.path("bild å.svg"));
+    const Bytes svg = savedDiagram(scene.path("bild å.svg"));
     EXPECT_TRUE(svg.starts_with("<svg ")) << svg.substr(0, 80);
     EXPECT_NE(svg.find(">kNm/m</text>"), Bytes::npos);
-    const Bytes png = saved(scene.path("bild.png"));
-    EXPECT_TRUE(png.starts_with("\x89PNG\r\n")) << png.size();
-    EXPECT_GT(png.size(), 3000u);
-    EXPECT_TRUE(png.ends_with(Bytes("IEND\xAE\x42\x60\x82"))) << "it is whole";
-    const Bytes emf = saved(scene.beside("bilder") + "\\bild.emf");
+    expectWholePng(savedDiagram(scene.path("bild.png")));
+    const Bytes emf = savedDiagram(scene.beside("bilder") + "\\bild.emf");
     ASSERT_GT(emf.size(), 1000u);
     EXPECT_EQ(emf.substr(40, 4), " EMF");
     EXPECT_EQ(program.currentDirectory(), scene.folder()) << "the engine works there";
@@ -143,17 +156,29 @@ TEST_F(DiagramReading, SavesThePictureInThreeKinds) {
 
 TEST_F(DiagramReading, TheLoadPictureGoesToOtherProgramsToo) {
     clipboard::set("");
-    const Control picture = program.main().item(idLoadPicture);
-    program.main().post(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(picture.handle()), -1);
+    askOfLoadPicture();
     const auto rows = program.popupMenu();
     ASSERT_EQ(rows.size(), 4u);
     EXPECT_EQ(rows[0].caption, "Fria linjelaster");
     EXPECT_EQ(rows[2].caption, "Kopiera bild");
     EXPECT_EQ(rows[3].caption, "Spara som bild...");
-    program.keysInPopupMenu({VK_DOWN, VK_DOWN, VK_RETURN});
+    program.chooseInPopupMenu(2);
     expectSoon(program, true, [] {
         return IsClipboardFormatAvailable(CF_ENHMETAFILE) && IsClipboardFormatAvailable(CF_BITMAP);
     });
+}
+
+// KONTOR's line loads are drawn in red.
+TEST_F(DiagramReading, TheLoadPictureIsSavedInThreeKinds) {
+    const Bytes svg = savedLoadPicture(scene.path("last å.svg"));
+    EXPECT_TRUE(svg.starts_with("<svg ")) << svg.substr(0, 80);
+    EXPECT_NE(svg.find("#800000"), Bytes::npos);
+    EXPECT_TRUE(svg.ends_with("</svg>\n") || svg.ends_with("</svg>\r\n")) << "it is whole";
+    expectWholePng(savedLoadPicture(scene.path("last.png")));
+    const Bytes emf = savedLoadPicture(scene.beside("bilder") + "\\last.emf");
+    ASSERT_GT(emf.size(), 1000u);
+    EXPECT_EQ(emf.substr(40, 4), " EMF");
+    EXPECT_EQ(program.currentDirectory(), scene.folder()) << "the engine works there";
 }
 
 } // namespace

@@ -1,7 +1,10 @@
 // A whole case from the keyboard alone, and the keys of the questions.
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "base/open_file.h"
+#include "driver/mouse.h"
 #include "line_load_rig.h"
 
 namespace varno::gui {
@@ -29,17 +32,16 @@ class KeyboardCase : public LineLoads {
                          std::source_location place = std::source_location::current()) {
         expectFocus(control, place);
     }
-    // A key at a time: a menu must be there before it can take one.
-    static void chooseFromMenu(int menu, int item) {
-        keyboard::press(VK_F10);
-        for (int i = 0; i < menu; ++i)
-            keyboard::press(VK_RIGHT);
-        keyboard::press(VK_DOWN);
-        const Control popup = program().window("#32768");
-        for (int i = 0; i < item; ++i)
-            keyboard::press(VK_DOWN);
-        keyboard::press(VK_RETURN);
-        program().waitGone(popup);
+    // Pressed again like a click that went to a window on its way: Windows may still let go of the Alt key for it.
+    static void pressAltF4(const std::function<bool()>& arrived) {
+        expectSoon(program(), main(), [] { return Control(GetForegroundWindow()); });
+        mouse::clickUntil(arrived, [] {
+            if (GetForegroundWindow() == main().handle()) keyboard::pressWith(VK_MENU, VK_F4);
+        });
+    }
+    static Control promptAfterAltF4() {
+        pressAltF4([] { return program().shows(savePromptClass); });
+        return program().window(savePromptClass);
     }
     static void pressOn(WORD key, const Control& reached,
                         std::source_location place = std::source_location::current()) {
@@ -84,7 +86,7 @@ void KeyboardCase::enterForm() {
 }
 
 void KeyboardCase::enterLineLoads() {
-    chooseFromMenu(1, 0);
+    program().chooseInMenuBar(1, 0);
     const Editor editor(program().window(lineLoadClass));
     expectAt(editor.box(nllast));
     keyboard::press(VK_UP);
@@ -109,10 +111,7 @@ void KeyboardCase::enterFreeLineLoads() {
     keyboard::pressWith(VK_SHIFT, VK_TAB);
     expectAt(loadPicture());
     keyboard::pressWith(VK_SHIFT, VK_F10);
-    const Control menu = program().window("#32768");
-    keyboard::press(VK_DOWN);
-    keyboard::press(VK_RETURN);
-    program().waitGone(menu);
+    program().chooseInPopupMenu(0);
     const Editor editor(program().window(freeLineLoadClass));
     expectAt(editor.box(nllast));
     keyboard::press(VK_UP);
@@ -137,7 +136,7 @@ TEST_F(KeyboardCase, IsEnteredSavedAndCalculatedWithoutAMouse) {
     enterFreeLineLoads();
     EXPECT_GT(grab(loadPicture()).count(RGB(0, 0x80, 0)), 0) << "the free line load";
 
-    chooseFromMenu(0, 2); // Spara
+    program().chooseInMenuBar(0, 3); // Spara
     const Control dialog = program().window(fileDialogClass);
     expectAt(dialog.item(idFileName));
     keyboard::type("tangent");
@@ -145,7 +144,7 @@ TEST_F(KeyboardCase, IsEnteredSavedAndCalculatedWithoutAMouse) {
     keyboard::press(VK_RETURN);
     expectCaption(program(), "TANGENT.IND");
 
-    chooseFromMenu(2, 0); // Kör...
+    program().chooseInMenuBar(2, 0); // Kör...
     const Control viewer = program().window(viewerClass);
     expectAt(viewer.item(idFileTextBox));
     tab();
@@ -172,15 +171,14 @@ TEST_F(KeyboardCase, IsEnteredSavedAndCalculatedWithoutAMouse) {
     EXPECT_EQ(line(28), "12");
     EXPECT_EQ(line(32), "2");
 
-    keyboard::pressWith(VK_MENU, VK_F4);
+    pressAltF4([] { return !program().running(); });
     expectSoon(program(), false, [] { return program().running(); });
 }
 
 TEST_F(KeyboardCase, TheQuestionAtTheEndIsAnsweredWithKeys) {
     keyboard::type("Ny rubrik");
     expectText(Field::rubrik, "Ny rubrik");
-    keyboard::pressWith(VK_MENU, VK_F4);
-    const Control prompt = program().window(savePromptClass);
+    const Control prompt = promptAfterAltF4();
     expectAt(prompt.item(idYesButton));
     pressOn(VK_RIGHT, prompt.item(idNoButton));
     pressOn(VK_RIGHT, prompt.item(idCancelButton));
@@ -189,8 +187,7 @@ TEST_F(KeyboardCase, TheQuestionAtTheEndIsAnsweredWithKeys) {
     keyboard::press(VK_ESCAPE);
     program().waitGone(prompt);
     EXPECT_TRUE(program().running());
-    keyboard::pressWith(VK_MENU, VK_F4);
-    expectAt(program().window(savePromptClass).item(idYesButton));
+    expectAt(promptAfterAltF4().item(idYesButton));
     keyboard::press('N');
     expectSoon(program(), false, [] { return program().running(); });
 }

@@ -334,5 +334,44 @@ TEST_F(LineLoadLocale, CommaAndPointMeanTheSame) {
     close(editor);
 }
 
+// The program looks a few times a second, also while a box is being typed in.
+TEST_F(LineLoadEditing, WhatToLookAtTwiceIsMarkedInItsRow) {
+    open(threeLoads());
+    const auto expectPart = [](int id, const std::string& expected,
+                               std::source_location place = std::source_location::current()) {
+        expectSoon(
+            program(), expected, [&] { return mainItem(id).text(); }, place);
+    };
+    expectPart(idStatusState, "Sparad");
+    const auto ground = [](const Control& box) { return Picture::ofScreen(box.handle()).at(4, 4); };
+    const auto expectMarked = [&](const Editor& editor, const Control& box) {
+        const COLORREF plain = GetSysColor(COLOR_WINDOW);
+        expectSoon(program(), plain, [&] { return ground(box); });
+        type(box, "20");
+        expectSoon(program(), true, [&] { return ground(box) != plain; });
+        for (const LineLoadBox column : {llfnr, avst, lllast}) {
+            const Control other = editor.box(column, 1);
+            EXPECT_EQ(ground(other) != plain, other.handle() == box.handle());
+        }
+    };
+    Editor editor = openEditor();
+    expectMarked(editor, editor.box(llfnr, 2));
+    expectPart(idStatusReason, "Linjelast 2 står i fack 15, men plattan har 3 fack.");
+    expectPart(idStatusState, "Sparad");
+    tab();
+    expectPart(idStatusState, "Ändrad, inte sparad, se över 1");
+    expectPart(idStatusReason, "");
+    expectMarked(editor, editor.box(avst, 3));
+    expectPart(idStatusReason, "Linjelast 3 står utanför fack 3: avståndet är 20 m och spännvidden 5,5 m.");
+    keyboard::press(VK_ESCAPE);
+    expectPart(idStatusReason, "");
+    close(editor);
+
+    editor = openFree();
+    spin(editor.spin(), 1);
+    expectMarked(editor, editor.box(llfnr, 1));
+    close(editor);
+}
+
 } // namespace
 } // namespace varno::gui

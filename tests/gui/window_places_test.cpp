@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <tuple>
 
 #include "driver/program.h"
 #include "driver/remote.h"
@@ -88,6 +89,27 @@ TEST_F(WindowPlaces, WindowsComeBackWhereTheyWereLeft) {
               loadsBox.bottom - loadsBox.top);
 }
 
+TEST_F(WindowPlaces, AProgramThatWasKilledComesBackWhereItWas) {
+    const std::string file = local + "\\Varno\\fonster.txt";
+    start();
+    const Control loads = opened(idLineLoads, lineLoadClass);
+    const RECT loadsBox = boxOf(loads);
+    // A window is known where it was put of itself before anybody can move it: when the status line is written.
+    expectSoon(*program, std::string("Nytt fall"),
+               [&] { return program->main().item(idStatusState).text(); });
+    put(program->main(), 30, 20, 1000, 720);
+    put(loads, 300, 250, loadsBox.right - loadsBox.left, loadsBox.bottom - loadsBox.top);
+    expectSoon(*program, true, [&] {
+        return fileExists(file) && readFile(file).find("VarnoMain 30 20 1000 720") != Bytes::npos &&
+               readFile(file).find("VarnoLineLoads 300 250") != Bytes::npos;
+    });
+    program.reset();
+    start();
+    expectBox(program->main(), 30, 20, 1000, 720);
+    expectBox(opened(idLineLoads, lineLoadClass), 300, 250, loadsBox.right - loadsBox.left,
+              loadsBox.bottom - loadsBox.top);
+}
+
 TEST_F(WindowPlaces, NoWindowComesBackOffTheScreen) {
     scene.beside("lokalt\\Varno");
     writeFile(local + "\\Varno\\fonster.txt",
@@ -144,9 +166,21 @@ TEST_F(WindowPlaces, EveryWindowFollowsTheResolutionOfItsScreen) {
     expectGrown(viewer, viewer.item(idFileTextBox));
     const Control diagram = opened(idMoment, diagramClass);
     expectGrown(diagram, diagram.item(idPlot));
-    const Control loads = opened(idLineLoads, lineLoadClass);
-    expectGrown(loads, loads.item(idLineLoadField));
+    for (const auto& [command, name, part] : {std::tuple{idLineLoads, lineLoadClass, int{idLineLoadField}},
+                                              {idFreeLineLoads, "VarnoFreeLineLoads", idLineLoadField},
+                                              {idImportant, disclaimerClass, idOkButton}}) {
+        const Control window = opened(command, name);
+        expectGrown(window, window.item(part));
+    }
     expectGrown(program->main(), program->field(Field::rubrik));
+    // Those that are waited for.
+    for (const auto& [command, name, part] : {std::tuple{idOpen, fileDialogClass, int{idFileName}},
+                                              {idDeleteResults, "VarnoDelFile", idFileList}}) {
+        const Control window = opened(command, name);
+        expectGrown(window, window.item(part));
+        window.post(WM_CLOSE);
+        program->waitGone(window);
+    }
 }
 
 } // namespace

@@ -134,6 +134,21 @@ TEST(Plausibility, ALineLoadBesideItsSpan) {
     EXPECT_EQ(implausible(withLineLoad(1, -0.01f)).size(), 1U);
 }
 
+TEST(Plausibility, AFreeLineLoadIsLookedAtAsOneOfTheCase) {
+    DesignCase c = withLineLoad(4, 1);
+    c.nllastf = 2;
+    c.llfnrf(1) = 1;
+    c.avstf(1) = 5.6f;
+    c.llfnrf(2) = 5;
+    EXPECT_EQ(
+        implausible(c),
+        (std::vector<Finding>{
+            {Kind::lineLoadSpan, "llfnr", 2, "Linjelast 2 står i fack 4, men plattan har 3 fack."},
+            {Kind::lineLoadPlace, "avstf", 1,
+             "Fri linjelast 1 står utanför fack 1: avståndet är 5,6 m och spännvidden 5,5 m."},
+            {Kind::lineLoadSpan, "llfnrf", 2, "Fri linjelast 2 står i fack 5, men plattan har 3 fack."}}));
+}
+
 TEST(Plausibility, ALineLoadOnACantileverStandsWhereItShould) {
     DesignCase c = withLineLoad(1, -1.2f);
     c.konsv = 1.2f;

@@ -43,10 +43,8 @@ TEST(WindowPlacesTest, TheNextRunKnowsThem) {
     places.start("C:\\lokalt\\Varno");
     EXPECT_EQ(places.of("VarnoMain"), std::nullopt);
     const WindowPlace main{{-8, 40, 940, 690}, 144, true};
-    places.keep("VarnoMain", {{1, 2, 3, 4}, 96, false});
-    places.keep("VarnoForm6", {{10, 20, 300, 400}, 96, false});
-    places.keep("VarnoMain", main);
-    places.save();
+    places.keep({{"VarnoMain", {{1, 2, 3, 4}, 96, false}}, {"VarnoForm6", {{10, 20, 300, 400}, 96, false}}});
+    places.keep({{"VarnoMain", main}});
     WindowPlaces next(files);
     next.start("C:\\lokalt\\Varno");
     EXPECT_EQ(next.of("VarnoMain"), main);
@@ -64,10 +62,64 @@ TEST(WindowPlacesTest, ADamagedOrMissingFileStopsNothing) {
     EXPECT_EQ(places.of("VarnoMomkurva"), std::nullopt);
     EXPECT_NE(places.of("VarnoForm6"), std::nullopt);
     files.fault = [](const std::string&, const std::string&) { return int{errDiskFull}; };
-    places.save();
+    places.keep({{"VarnoMain", {{1, 2, 3, 4}, 96, false}}});
+    EXPECT_NE(places.of("VarnoMain"), std::nullopt);
     WindowPlaces nowhere(files);
     nowhere.start("");
-    nowhere.save();
+    nowhere.keep({{"VarnoMain", {{1, 2, 3, 4}, 96, false}}});
+}
+
+class PlacesLookedAt : public ::testing::Test {
+  protected:
+    PlacesLookedAt() { places.start("C:\\V"); }
+    void look(const WindowPlaces::Places& now) { places.look(now); }
+    bool written() const { return files.content.contains("C:\\V\\fonster.txt"); }
+    std::optional<WindowPlace> kept(const std::string& window) {
+        WindowPlaces next(files);
+        next.start("C:\\V");
+        return next.of(window);
+    }
+    static WindowPlace at(int x) { return {{x, 20, 300, 400}, 96, false}; }
+
+    MemoryFiles files;
+    WindowPlaces places{files};
+};
+
+TEST_F(PlacesLookedAt, AWindowThatNobodyMovedIsNotKept) {
+    for (int i = 0; i < 3; ++i)
+        look({{"VarnoMain", at(10)}});
+    for (int i = 0; i < 3; ++i)
+        look({{"VarnoMain", at(10)}, {"VarnoForm6", at(50)}});
+    EXPECT_FALSE(written());
+}
+
+TEST_F(PlacesLookedAt, AWindowIsKeptOnceItStands) {
+    look({{"VarnoMain", at(10)}});
+    look({{"VarnoMain", at(11)}});
+    look({{"VarnoMain", at(12)}});
+    EXPECT_FALSE(written()) << "it is on its way";
+    look({{"VarnoMain", at(12)}});
+    EXPECT_EQ(kept("VarnoMain"), at(12));
+    look({{"VarnoMain", at(10)}});
+    look({{"VarnoMain", at(10)}});
+    EXPECT_EQ(kept("VarnoMain"), at(10)) << "back again";
+}
+
+TEST_F(PlacesLookedAt, WhatCannotBeWrittenIsNotTriedAgainAllTheTime) {
+    look({{"VarnoMain", at(10)}});
+    look({{"VarnoMain", at(12)}});
+    int tries = 0;
+    files.fault = [&](const std::string&, const std::string&) { return ++tries, int{errDiskFull}; };
+    look({{"VarnoMain", at(12)}});
+    EXPECT_GT(tries, 0);
+    tries = 0;
+    look({{"VarnoMain", at(12)}});
+    look({{"VarnoMain", at(12)}});
+    EXPECT_EQ(tries, 0);
+    files.fault = nullptr;
+    look({{"VarnoMain", at(14)}});
+    look({{"VarnoMain", at(14)}});
+    EXPECT_EQ(kept("VarnoMain"), at(14));
 }
 
 } // namespace

@@ -131,6 +131,12 @@ class Program {
     std::vector<MenuLine> menuOf(const Control& window) const;
     /// Waits for a context menu and reads it. Its IDs are numbers of its own and left out.
     std::vector<MenuLine> popupMenu() const;
+    /// Walks to a row of the open menu with the arrow keys and chooses it. \param place of the row, separators counted
+    void chooseInPopupMenu(int place) const;
+    /// F10, and with the arrow keys to an item of a menu of the menu bar.
+    void chooseInMenuBar(int menu, int place) const;
+    /// With Esc, as often as it takes.
+    void leaveMenus() const;
     /// Presses these keys in the context menu, one at a time, and waits until it is gone.
     void keysInPopupMenu(std::initializer_list<WORD> keys) const;
     /// Files are let go of over a control: Windows tells the window above it that takes them. \throws GuiError when
@@ -151,6 +157,8 @@ class Program {
     POINT middleOfToolbarButton(int id) const;
     void readMenu(DWORD menu, int depth, std::vector<MenuLine>& lines) const;
     DWORD user(const char* function, const std::vector<DWORD>& arguments) const;
+    int highlightedRow(DWORD menu) const;
+    bool inMenu() const;
 
     OwnFolder local_;
     win32::UniqueHandle process_;

@@ -5,6 +5,8 @@
 #include <commctrl.h>
 #include <shlobj.h>
 
+#include <algorithm>
+
 #include "driver/keyboard.h"
 #include "driver/program.h"
 #include "driver/remote.h"
@@ -17,6 +19,9 @@ namespace {
 
 constexpr std::size_t captionLength = 300;
 constexpr const wchar_t* userModule = L"user32.dll";
+constexpr UINT askForMenu = 0x01E1; // MN_GETHMENU
+constexpr DWORD shortWait = 3'000;  // ms, for a key that may have been lost
+constexpr DWORD longWait = 20'000;  // for one that must not come twice
 
 DWORD number(const void* handle) {
     return reinterpret_cast<DWORD>(handle);
@@ -66,12 +71,72 @@ std::vector<MenuLine> Program::menuOf(const Control& window) const {
 }
 
 std::vector<MenuLine> Program::popupMenu() const {
-    constexpr UINT askForMenu = 0x01E1; // MN_GETHMENU
     std::vector<MenuLine> lines;
     readMenu(static_cast<DWORD>(window(popupMenuClass).send(askForMenu)), 0, lines);
     for (MenuLine& line : lines)
         line.id = 0;
     return lines;
+}
+
+// By its place, -1 for none.
+int Program::highlightedRow(DWORD menu) const {
+    const DWORD count = user("GetMenuItemCount", {menu});
+    std::vector<RemoteCall> calls;
+    // A menu that is gone has no rows.
+    for (DWORD place = 0; static_cast<int>(place) < static_cast<int>(count); ++place)
+        calls.push_back({userModule, "GetMenuState", {menu, place, MF_BYPOSITION}});
+    const std::vector<DWORD> states = callIn(process(), calls);
+    const auto row = std::ranges::find_if(
+        states, [](DWORD state) { return state != static_cast<DWORD>(-1) && (state & MF_HILITE) != 0; });
+    return row == states.end() ? -1 : static_cast<int>(row - states.begin());
+}
+
+bool Program::inMenu() const {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    return GetGUIThreadInfo(thread_, &info) != FALSE && (info.flags & GUI_INMENUMODE) != 0;
+}
+
+// The row is looked at before each key: where the pointer lies, a late report of its place takes the choice away, and Enter
+// then does nothing.
+void Program::chooseInPopupMenu(int place) const {
+    const Control open = window(popupMenuClass);
+    const auto menu = static_cast<DWORD>(open.send(askForMenu));
+    const auto gone = [&] { return !open.visible(); };
+    const bool chosen = until([&] {
+        const int row = highlightedRow(menu);
+        const bool there = row == place;
+        if (!gone()) keyboard::press(there ? VK_RETURN : VK_DOWN);
+        return waitUntil([&] { return gone() || highlightedRow(menu) != row; }, process(),
+                         there ? longWait : shortWait) &&
+               gone();
+    });
+    if (!chosen) throw GuiError("the row of the menu is not chosen");
+}
+
+void Program::chooseInMenuBar(int menu, int place) const {
+    const DWORD bar = user("GetMenu", {number(main().handle())});
+    const auto pressUntil = [&](WORD key, const std::function<bool()>& done) {
+        const bool came = until([&] {
+            if (!done()) keyboard::press(key);
+            return waitUntil(done, process(), shortWait);
+        });
+        if (!came) throw GuiError("the menu bar does not take key " + std::to_string(key));
+    };
+    pressUntil(VK_F10, [&] { return inMenu(); });
+    for (int i = 1; i <= menu; ++i)
+        pressUntil(VK_RIGHT, [&] { return highlightedRow(bar) == i; });
+    pressUntil(VK_DOWN, [&] { return shows(popupMenuClass); });
+    chooseInPopupMenu(place);
+}
+
+void Program::leaveMenus() const {
+    const auto left = [&] { return !inMenu(); };
+    const bool done = until([&] {
+        if (!left()) keyboard::press(VK_ESCAPE);
+        return waitUntil(left, process(), shortWait);
+    });
+    if (!done) throw GuiError("Esc does not leave the menu");
 }
 
 void Program::keysInPopupMenu(std::initializer_list<WORD> keys) const {
