@@ -1,5 +1,5 @@
 ; The installer: for one user, without administrator rights. Built by the target varno_setup, which defines
-;   PROGRAM TOOL ENGINE HELP SAMPLES ICON OUT VERSION    paths, and "7.1.0"
+;   PROGRAM TOOL ENGINE HELP SAMPLES ICON PICTURE OUT VERSION    paths, and "7.1.0"
 ;
 ;   varno-setup.exe /S                silently
 ;   varno-setup.exe /WORK=C:\folder   another work folder than the one that is offered
@@ -43,6 +43,7 @@ Var EngineSize
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${PICTURE}"
 !define MUI_ABORTWARNING
 !define MUI_DIRECTORYPAGE_VARIABLE $WorkFolder
 !define MUI_DIRECTORYPAGE_TEXT_TOP "I arbetsmappen ligger indatafilerna, resultaten, varno.def och \

@@ -117,4 +117,5 @@ wine_root_packages=(
 icon_packages=(
     librsvg2-bin
     icoutils
+    imagemagick
 )
