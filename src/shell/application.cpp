@@ -290,7 +290,7 @@ void Application::showBeside() {
 }
 
 void Application::fileUsed(const std::string& path) {
-    const std::string full = win32::fullPath(path);
+    const std::string full = win32::pathOnDisk(path);
     recent_.add(full);
     win32::tellRecentDocument(full);
 }

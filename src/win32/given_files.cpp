@@ -20,6 +20,15 @@ std::string fullPath(const std::string& path) {
     return full.empty() ? path : narrow(full);
 }
 
+std::string pathOnDisk(const std::string& path) {
+    const std::string full = fullPath(path);
+    WIN32_FIND_DATAW found{};
+    const HANDLE search = FindFirstFileW(wide(full).c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return full;
+    FindClose(search);
+    return full.substr(0, full.rfind('\\') + 1) + narrow(found.cFileName);
+}
+
 CommandLine commandLine(const wchar_t* arguments) {
     CommandLine line;
     if (*arguments == L'\0') return line;

@@ -11,6 +11,8 @@ namespace varno::win32 {
 
 /// A path as it is from the process's current directory.
 std::string fullPath(const std::string& path);
+/// The same, the file's name in the letters that the disk has it in, however it was typed.
+std::string pathOnDisk(const std::string& path);
 /// What the program was started with: [/work FOLDER] [FILE...].
 struct CommandLine {
     /// The folder to be started in, where the settings lie. A double click on a case starts a program in the folder of the

@@ -139,8 +139,9 @@ TEST_F(GivenFiles, RecentCasesAreOfferedAtTheOpenButton) {
     start();
     const std::string folder = scene.folder() + "\\";
     EXPECT_EQ(recent(),
-              (std::vector<std::string>{"&1  " + folder + "HUS && Ö.IND", "&2  " + folder + "kontor.ind",
-                                        "&3  " + folder + "bostad.ind"}));
+              (std::vector<std::string>{"&1  " + folder + "HUS && Ö.IND", "&2  " + folder + "KONTOR.IND",
+                                        "&3  " + folder + "BOSTAD.IND"}))
+        << "not in the letters that were typed";
     program->keysInPopupMenu({'2'});
     expectCaption(*program, "KONTOR.IND");
 
@@ -149,10 +150,10 @@ TEST_F(GivenFiles, RecentCasesAreOfferedAtTheOpenButton) {
     program->rightClickToolbar(idOpen);
     EXPECT_EQ(program->popupMenu().size(), 3u);
     program->keysInPopupMenu({'3'});
-    EXPECT_NE(program->answer().text.find("bostad.ind finns inte."), std::string::npos);
+    EXPECT_NE(program->answer().text.find("BOSTAD.IND finns inte."), std::string::npos);
     EXPECT_EQ(program->caption(), "KONTOR.IND");
     EXPECT_EQ(recent(),
-              (std::vector<std::string>{"&1  " + folder + "kontor.ind", "&2  " + folder + "HUS && Ö.IND"}));
+              (std::vector<std::string>{"&1  " + folder + "KONTOR.IND", "&2  " + folder + "HUS && Ö.IND"}));
     program->keysInPopupMenu({VK_ESCAPE});
 
     // Beside the button there is no menu.

@@ -243,6 +243,33 @@ TEST_F(KeysOfTheWindows, OfTheDeletion) {
     EXPECT_TRUE(scene.has("KONTOR.res"));
 }
 
+// A program that lies beside no help says so, whatever F1 is pressed in.
+TEST(KeysForHelp, F1AndTheCommandInTheWindowsOwnMenu) {
+    Scene scene;
+    scene.write("varno.exe", readFile(programsFolder() + "\\varno.exe"));
+    StartOptions options;
+    options.program = scene.path("varno.exe");
+    Program program(scene, options);
+    program.passStartUp();
+    const auto expectHelp = [&](const Control& window) {
+        EXPECT_TRUE(program.answer().text.starts_with("Hjälpen hittas inte.")) << window.text();
+        waitForKeys(program, window);
+    };
+    waitForKeys(program, program.main());
+    keyboard::press(VK_F1);
+    expectHelp(program.main());
+    keyboard::pressWith(VK_MENU, VK_SPACE);
+    const std::vector<MenuLine> rows = program.popupMenu();
+    EXPECT_EQ(rows.back().caption, "Hjälp\tF1");
+    program.chooseInPopupMenu(static_cast<int>(rows.size()) - 1);
+    expectHelp(program.main());
+    program.command(idLineLoads);
+    const Control loads = program.window(lineLoadClass);
+    waitForKeys(program, loads);
+    keyboard::press(VK_F1);
+    expectHelp(loads);
+}
+
 TEST(KeysAtTheStart, EnterPassesTheNoticeAndSpaceHidesIt) {
     Scene scene;
     scene.writeVersion(6);
