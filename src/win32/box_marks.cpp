@@ -20,7 +20,6 @@ bool hasOwnColours() {
     return (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0 || isLightRef(GetSysColor(COLOR_WINDOWTEXT));
 }
 
-// In those schemes the colours of a hint are those of the window, and a mark would not be seen; those of a link are not.
 COLORREF readOn(COLORREF ground) {
     const COLORREF window = GetSysColor(COLOR_WINDOW);
     return isLightRef(window) != isLightRef(ground) ? window : GetSysColor(COLOR_WINDOWTEXT);
@@ -58,6 +57,7 @@ std::string BoxMarks::ofFocus(HWND window) const {
     return found == marks_.end() ? std::string() : found->second;
 }
 
+// In the user's own colours that of a link: those of a hint are often the window's there, and a mark would not be seen.
 std::optional<LRESULT> BoxMarks::ground(HDC dc, HWND box) const {
     if (!marks_.contains(GetDlgCtrlID(box))) return std::nullopt;
     const bool own = hasOwnColours();
