@@ -1,10 +1,10 @@
 // A case of ten spans from its bytes into the record and back, beside the same with C's sscanf and snprintf.
 #include <benchmark/benchmark.h>
 
-#include "base/byte_files.h"
 #include "base/text.h"
 #include "benchmarks/plain_case.h"
 #include "benchmarks/ten_spans.h"
+#include "tests/support/byte_files.h"
 
 namespace varno::benchmarks {
 namespace {

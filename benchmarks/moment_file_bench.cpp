@@ -6,11 +6,11 @@
 #include <cstring>
 #include <memory>
 
-#include "base/byte_files.h"
 #include "diagram/curve_values.h"
 #include "diagram/moment_diagram.h"
 #include "engine/moment_file.h"
 #include "input/sketch_picture.h"
+#include "tests/support/byte_files.h"
 
 namespace varno::benchmarks {
 namespace {

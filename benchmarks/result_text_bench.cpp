@@ -7,8 +7,8 @@
 #include <filesystem>
 #include <memory>
 
-#include "base/byte_files.h"
 #include "results/result_text.h"
+#include "tests/support/byte_files.h"
 
 namespace varno::benchmarks {
 namespace {

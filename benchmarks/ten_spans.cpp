@@ -1,6 +1,5 @@
 #include "benchmarks/ten_spans.h"
 
-#include "base/byte_files.h"
 #include "model/reference_tables.h"
 
 namespace varno::benchmarks {
@@ -34,10 +33,7 @@ CaseFile tenSpans() {
 }
 
 Bytes fileOf(const CaseFile& caseFile) {
-    ByteFiles memory;
-    File file(memory, "", FileMode::output, 0, 1);
-    VARNO1::writeDesignCase(file, caseFile);
-    return file.written();
+    return VARNO1::writtenDesignCase(caseFile);
 }
 
 } // namespace varno::benchmarks

@@ -1,5 +1,6 @@
 #include "engine/case_reader.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -63,7 +64,7 @@ std::optional<Number> numberIn(std::string_view cell) {
     return static_cast<Number>(value);
 }
 
-void readLine(int number, const CaseLine& line, const Bytes& text, CaseOnFile& target) {
+void readLine(int number, const CaseLine& line, std::string_view text, CaseOnFile& target) {
     DesignCase& c = target.values;
     if (std::holds_alternative<CaseNameLine>(line)) target.name = text;
     if (std::holds_alternative<TitleLine>(line)) target.title = text;
@@ -71,7 +72,7 @@ void readLine(int number, const CaseLine& line, const Bytes& text, CaseOnFile& t
     forEachNumber(line, c, [&](CellFormat format, auto field, std::optional<int> element, auto at) {
         using Number = NumberAt<decltype(at)>;
         // Nothing is left where an editor has cut the trailing blanks of a line.
-        const Bytes found = place < text.size() ? text.substr(place, format.width) : Bytes();
+        const std::string_view found = text.substr(std::min(place, text.size()), format.width);
         place += format.width;
         const std::string name(recordFieldName(field));
         const bool optional = name == "ksi" || name.starts_with("psi") ||

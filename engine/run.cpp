@@ -144,7 +144,7 @@ ExitCode run(FileCalls& files, std::string_view when) {
     } catch (const RunTimeError&) {
         return noCase;
     }
-    const Bytes name = bytes.empty() ? Bytes() : SequentialText(bytes).readLine();
+    const Bytes name(bytes.empty() ? std::string_view() : SequentialText(bytes).readLine());
     const auto resultName = resultFileName(name);
     if (!resultName) return noCase;
     const Outcome outcome = outcomeOf(bytes, name, when);

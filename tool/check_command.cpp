@@ -2,7 +2,6 @@
 #include <ostream>
 #include <vector>
 
-#include "base/byte_files.h"
 #include "base/error_words.h"
 #include "input/sketch_picture.h"
 #include "model/plausibility.h"
@@ -28,11 +27,12 @@ struct Remark {
 
 class FileCheck {
   public:
-    FileCheck(FileOpener& opener, const std::string& path) : opener_(opener), path_(path) {}
+    FileCheck(FileCalls& calls, const DesignCase& presets, const std::string& path)
+        : calls_(calls), presets_(presets), path_(path) {}
 
     std::vector<Remark> remarks() {
         try {
-            lookAtBytes(opener_.calls().readAll(path_));
+            lookAtBytes(calls_.readAll(path_));
         } catch (const RunTimeError& error) {
             add(unreadable, wordsOf(error.about(path_, FileAction::reading)));
         }
@@ -54,7 +54,7 @@ class FileCheck {
     void lookAtBytes(const Bytes& bytes) {
         for (const FileFault& fault : checkFile(bytes))
             add("file", fileFaultText(fault), fault.place.line);
-        const CaseFile loaded = loadCase(opener_, path_);
+        const CaseFile loaded = VARNO1::readDesignCase(SequentialText(bytes), presets_);
         lookAtSaving(loaded);
         lookAtSketch(loaded.designCase);
         for (const Finding& finding : implausible(loaded.designCase)) {
@@ -67,10 +67,7 @@ class FileCheck {
 
     // What would be told after saving the case that was read.
     void lookAtSaving(const CaseFile& loaded) {
-        ByteFiles memory;
-        File file(memory, "", FileMode::output, 0, 1);
-        VARNO1::writeDesignCase(file, loaded);
-        const SavedCheck check = checkSaved(loaded, file.written());
+        const SavedCheck check = checkSaved(loaded, VARNO1::writtenDesignCase(loaded));
         for (const LostValue& lost : check.lost)
             add("loss", "När fallet sparas: " + lostValueText(lost) + ".", lost.place.line);
     }
@@ -84,7 +81,8 @@ class FileCheck {
         }
     }
 
-    FileOpener& opener_;
+    FileCalls& calls_;
+    const DesignCase& presets_;
     const std::string& path_;
     std::vector<Remark> remarks_;
 };
@@ -105,8 +103,10 @@ std::string objectOf(const Remark& remark) {
 ExitCode checkCases(const Session& session, const Request& request) {
     ExitCode code = done;
     std::string array;
+    DesignCase presets;
+    presetDesignCase(presets);
     for (const std::string& path : request.files) {
-        for (const Remark& remark : FileCheck(session.opener, path).remarks()) {
+        for (const Remark& remark : FileCheck(session.opener.calls(), presets, path).remarks()) {
             if (request.json)
                 array += (array.empty() ? "\n  " : ",\n  ") + objectOf(remark);
             else

@@ -1,7 +1,6 @@
 #include <cmath>
 #include <ostream>
 
-#include "base/byte_files.h"
 #include "base/numbers.h"
 #include "model/case_check.h"
 #include "model/reference_tables.h"
@@ -58,10 +57,7 @@ void holdEndSupports(DesignCase& designCase, const DesignCase& base) {
 
 // Nothing may be in the file otherwise than it was said.
 void checkWritten(const CaseFile& caseFile, std::ostream& err) {
-    ByteFiles memory;
-    File file(memory, "", FileMode::output, 0, 1);
-    VARNO1::writeDesignCase(file, caseFile);
-    const SavedCheck check = checkSaved(caseFile, file.written());
+    const SavedCheck check = checkSaved(caseFile, VARNO1::writtenDesignCase(caseFile));
     std::string refused;
     for (const LostValue& lost : check.lost) {
         if (isRounded(lost))

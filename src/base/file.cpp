@@ -29,7 +29,8 @@ void File::open() {
     // The system would take the name for the part before it, and another file for this one.
     if (path_.find('\0') != std::string::npos) throw RunTimeError(errBadFileNameOrNumber);
     if (mode_ == FileMode::input) {
-        text_ = SequentialText(calls_->readAll(path_));
+        bytes_ = calls_->readAll(path_);
+        text_ = SequentialText(bytes_);
     } else if (writes(mode_)) {
         calls_->checkWritable(path_);
         if (mode_ == FileMode::append && calls_->exists(path_)) bytes_ = calls_->readAll(path_);
@@ -64,8 +65,8 @@ File& File::operator=(File&& other) noexcept {
     number_ = std::exchange(other.number_, std::int16_t{0});
     cause_ = other.cause_;
     written_ = std::exchange(other.written_, false);
-    text_ = std::move(other.text_);
     bytes_ = std::move(other.bytes_);
+    text_ = other.text_.in(bytes_);
     return *this;
 }
 
@@ -107,14 +108,22 @@ bool File::atEnd() const {
     return text_.atEnd();
 }
 
-Bytes File::readField() {
+std::string_view File::readField() {
     require(mode_ == FileMode::input);
     return about([this] { return text_.readField(); });
 }
 
-Bytes File::readLine() {
+std::string_view File::readLine() {
     require(mode_ == FileMode::input);
     return about([this] { return text_.readLine(); });
+}
+
+Bytes File::takeRest() {
+    require(mode_ == FileMode::input);
+    Bytes rest = std::exchange(bytes_, {});
+    rest.erase(0, text_.position());
+    text_ = SequentialText(bytes_);
+    return rest;
 }
 
 void File::printLine(std::string_view line) {

@@ -45,9 +45,11 @@ class File {
     const std::string& path() const { return path_; }
 
     bool atEnd() const;
-    /// \throws RunTimeError 62 at the end of the file.
-    Bytes readField();
-    Bytes readLine();
+    /// What is read stays as long as the File, and where it is. \throws RunTimeError 62 at the end of the file.
+    std::string_view readField();
+    std::string_view readLine();
+    /// All that is left, and the File is then at its end.
+    Bytes takeRest();
     /// Writes a line and its CR LF.
     void printLine(std::string_view line);
     /// What was written so far, as it goes to the disk.
@@ -83,8 +85,8 @@ class File {
     std::int16_t number_ = 0;
     int cause_ = 0; ///< why it did not open
     bool written_ = false;
-    SequentialText text_;
     Bytes bytes_;
+    SequentialText text_; ///< over the bytes of a file that is read
 };
 
 } // namespace varno

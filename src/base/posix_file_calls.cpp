@@ -1,6 +1,7 @@
 // The file calls of a POSIX system: for varnotool and the tests there. varno.exe uses those of Windows.
 #include "base/file_calls.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
@@ -83,8 +84,11 @@ class PosixFileCalls : public FileCalls {
   public:
     Bytes readAll(const std::string& path) override {
         const Descriptor file(path, O_RDONLY);
-        if (isFolder(path)) throw RunTimeError(errPathFileAccess);
+        struct stat info {};
+        if (::fstat(file.number(), &info) != 0) fail(path, errno);
+        if (S_ISDIR(info.st_mode)) throw RunTimeError(errPathFileAccess);
         Bytes bytes;
+        bytes.reserve(std::min(static_cast<std::size_t>(info.st_size), largestFile));
         char block[65536];
         while (true) {
             const ssize_t done = ::read(file.number(), block, sizeof block);

@@ -8,21 +8,18 @@ namespace varno {
 
 namespace {
 
-// The system looks for one byte many at a time, but for one of two it would be asked byte by byte. In pieces, as a text
-// may hold but one of the two and is not to be searched to its end for the other after every line.
-std::size_t lineEnd(std::string_view text, std::size_t from) {
+// The first of some signs. The system looks for one byte many at a time, but for one of several it would be asked byte by
+// byte. In pieces, as a text may hold but one of them and is not to be searched to its end for the others each time.
+std::size_t firstOf(std::string_view signs, std::string_view text, std::size_t from) {
     constexpr std::size_t piece = 256;
     for (; from < text.size(); from += piece) {
-        const std::string_view part = text.substr(from, piece);
-        const std::size_t end = part.find('\r');
-        const std::size_t first = std::min(end, part.substr(0, end).find('\n'));
-        if (first != std::string_view::npos) return from + first;
+        std::string_view before = text.substr(from, piece);
+        const std::size_t searched = before.size();
+        for (const char sign : signs)
+            before = before.substr(0, before.find(sign));
+        if (before.size() < searched) return from + before.size();
     }
     return text.size();
-}
-
-bool endsField(char c) {
-    return c == ',' || c == '\r' || c == '\n';
 }
 
 } // namespace
@@ -32,23 +29,19 @@ void SequentialText::skipBlanks() {
         ++position_;
 }
 
-bool SequentialText::skipLineEnd() {
+void SequentialText::skipLineEnd() {
     if (at('\r')) {
         ++position_;
         if (at('\n')) ++position_;
-        return true;
-    }
-    if (at('\n')) {
+    } else if (at('\n')) {
         ++position_;
-        return true;
     }
-    return false;
 }
 
-Bytes SequentialText::readField() {
+std::string_view SequentialText::readField() {
     if (atEnd()) throw RunTimeError(errInputPastEnd);
     skipBlanks();
-    Bytes field;
+    std::string_view field;
     if (at('"')) {
         const auto begin = position_ + 1;
         const auto close = std::min(bytes_.find('"', begin), bytes_.size());
@@ -56,11 +49,7 @@ Bytes SequentialText::readField() {
         position_ = std::min(close + 1, bytes_.size());
         skipBlanks();
     } else {
-        const auto begin = bytes_.begin() + static_cast<std::ptrdiff_t>(position_);
-        const auto end =
-            static_cast<std::size_t>(std::find_if(begin, bytes_.end(), endsField) - bytes_.begin());
-        field = bytes_.substr(position_, end - position_);
-        position_ = end;
+        field = takeUntil(firstOf(",\r\n", bytes_, position_));
     }
     if (at(',')) {
         ++position_;
@@ -70,13 +59,17 @@ Bytes SequentialText::readField() {
     return field;
 }
 
-Bytes SequentialText::readLine() {
+std::string_view SequentialText::readLine() {
     if (atEnd()) throw RunTimeError(errInputPastEnd);
-    const auto end = lineEnd(bytes_, position_);
-    Bytes line = bytes_.substr(position_, end - position_);
-    position_ = end;
+    const std::string_view line = takeUntil(firstOf("\r\n", bytes_, position_));
     skipLineEnd();
     return line;
+}
+
+std::string_view SequentialText::takeUntil(std::size_t end) {
+    const std::string_view taken = bytes_.substr(position_, end - position_);
+    position_ = end;
+    return taken;
 }
 
 } // namespace varno

@@ -176,12 +176,12 @@ constexpr auto dosOf = [](const varno::OemLetter& letter) { return letter.dos; }
 
 } // namespace
 
-varno::Bytes toOemLetters(varno::Bytes text) {
-    return swapFirst(std::move(text), windowsOf, dosOf);
+varno::Bytes toOemLetters(std::string_view text) {
+    return swapFirst(varno::Bytes(text), windowsOf, dosOf);
 }
 
-varno::Bytes fromOemLetters(varno::Bytes text) {
-    return swapFirst(std::move(text), dosOf, windowsOf);
+varno::Bytes fromOemLetters(std::string_view text) {
+    return swapFirst(varno::Bytes(text), dosOf, windowsOf);
 }
 
 } // namespace VARNO1

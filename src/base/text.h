@@ -40,9 +40,9 @@ namespace VARNO1 {
 
 /// The first "Å", "Ä", "Ö", "å", "ä" and "ö" of a Windows-1252 text become their DOS codes 143, 142, 153,
 /// 134, 132 and 148. Only the first occurrence of each letter: existing files and the engine depend on it.
-varno::Bytes toOemLetters(varno::Bytes text);
+varno::Bytes toOemLetters(std::string_view text);
 
 /// The inverse: the first occurrence of each of the six DOS codes becomes its letter.
-varno::Bytes fromOemLetters(varno::Bytes text);
+varno::Bytes fromOemLetters(std::string_view text);
 
 } // namespace VARNO1

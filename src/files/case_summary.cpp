@@ -1,7 +1,5 @@
 #include "files/case_summary.h"
 
-#include "base/byte_files.h"
-#include "base/file.h"
 #include "base/run_time_error.h"
 #include "controls/rule_sets.h"
 #include "model/case_check.h"
@@ -13,12 +11,9 @@ namespace varno {
 namespace {
 
 CaseFile caseOf(const Bytes& bytes) {
-    ByteFiles disk;
-    disk.content["fall"] = bytes;
     DesignCase presets;
     presetDesignCase(presets);
-    File file(disk, "fall", FileMode::input, 0, 1);
-    return VARNO1::readDesignCase(file, presets);
+    return VARNO1::readDesignCase(SequentialText(bytes), presets);
 }
 
 std::string spansText(const DesignCase& designCase, const NumberLocale& locale) {

@@ -7,7 +7,6 @@
 #include <optional>
 #include <string_view>
 
-#include "base/byte_files.h"
 #include "base/numbers.h"
 #include "base/run_time_error.h"
 #include "model/strict_number.h"
@@ -18,21 +17,25 @@ namespace {
 
 std::optional<CaseFile> readBack(const Bytes& bytes, const DesignCase& presets) {
     try {
-        ByteFiles memory;
-        memory.content[""] = bytes;
-        File file(memory, "", FileMode::input, 0, 1);
-        return VARNO1::readDesignCase(file, presets);
+        return VARNO1::readDesignCase(SequentialText(bytes), presets);
     } catch (const RunTimeError&) {
         return std::nullopt;
     }
 }
 
-// The name and the title take the first two lines. Without them the numbers stand where they belong, whatever
-// a comma in a title does to them in the file itself.
+constexpr std::string_view lineEnd = "\r\n";
+
+// Where the first two lines end, which the name and the title take.
+std::size_t textsEnd(const Bytes& written) {
+    const auto first = written.find(lineEnd);
+    const auto second = first == Bytes::npos ? first : written.find(lineEnd, first + lineEnd.size());
+    return second == Bytes::npos ? 0 : second + lineEnd.size();
+}
+
+// Without the texts the numbers stand where they belong, whatever a comma in a title does to them in the file itself.
 Bytes withoutTexts(const Bytes& written) {
-    const auto first = written.find("\r\n");
-    const auto second = first == Bytes::npos ? first : written.find("\r\n", first + 2);
-    return second == Bytes::npos ? written : "\r\n" + written.substr(second);
+    const std::size_t end = textsEnd(written);
+    return end == 0 ? written : "\r\n\r\n" + written.substr(end);
 }
 
 // The shortest text that reads back as the same number, without an exponent: "1e+07" says little to a reader.
@@ -55,14 +58,17 @@ float plain(float value) {
 
 SavedCheck checkSaved(const CaseFile& caseFile, const Bytes& written) {
     SavedCheck check;
-    const std::optional<CaseFile> whole = readBack(written, caseFile.designCase);
     const std::optional<CaseFile> numbers = readBack(withoutTexts(written), caseFile.designCase);
-    check.shifted = !whole || !numbers || whole->designCase != numbers->designCase;
-
     SequentialText text(written);
     const std::string name = upperCase(decodeWindows1252(VARNO1::fromOemLetters(text.readField())));
     const std::string title =
         text.atEnd() ? std::string() : decodeWindows1252(VARNO1::fromOemLetters(text.readField()));
+    check.shifted = !numbers;
+    // Texts that end with their lines leave the numbers where they are.
+    if (numbers && text.position() != textsEnd(written)) {
+        const std::optional<CaseFile> whole = readBack(written, caseFile.designCase);
+        check.shifted = !whole || whole->designCase != numbers->designCase;
+    }
     if (name != caseFile.name) check.lost.push_back({{1, 0}, caseFile.name, name});
     if (title != caseFile.title) check.lost.push_back({{2, 0}, caseFile.title, title});
     if (!numbers) return check;
@@ -99,17 +105,16 @@ class LineCheck {
         counts_.nfack = -1;
     }
 
-    void line(int number, const CaseLine& content, const Bytes& text) {
+    void line(int number, const CaseLine& content, std::string_view text) {
         place_ = {number, 0};
         // Rule set 0 has no factors.
         const bool unused = std::holds_alternative<FactorCellsLine>(content) && ruleSet_ == "0";
-        if (const std::optional<Bytes> value = valueIn(text); value && !unused)
-            numbers(content, text, *value);
+        if (const auto value = valueIn(text); value && !unused) numbers(content, text, *value);
     }
     bool open() const { return open_; }
 
   private:
-    void add(Kind kind, const Bytes& found, IntegerLine range = {nullptr, 0, 0}) {
+    void add(Kind kind, std::string_view found, IntegerLine range = {nullptr, 0, 0}) {
         faults_.push_back({.kind = kind,
                            .place = place_,
                            .found = decodeWindows1252(found.substr(0, 40)),
@@ -118,12 +123,13 @@ class LineCheck {
     }
 
     // The one value of a line.
-    std::optional<Bytes> valueIn(const Bytes& line) {
+    std::optional<std::string_view> valueIn(std::string_view line) {
         if (line.empty()) return line;
         const auto begin = line.find_first_not_of(' ');
-        open_ = begin != Bytes::npos && line[begin] == '"' && line.find('"', begin + 1) == Bytes::npos;
+        open_ = begin != std::string_view::npos && line[begin] == '"' &&
+                line.find('"', begin + 1) == std::string_view::npos;
         SequentialText text(line);
-        const Bytes value = text.readField();
+        const std::string_view value = text.readField();
         // A comma that ends the line begins another value, which the next line end closes.
         if (!open_ && text.atEnd() && !line.ends_with(',')) return value;
         add(open_ ? Kind::openQuote : Kind::severalValues, line);
@@ -131,35 +137,39 @@ class LineCheck {
     }
 
     // What stands behind the last cell is no fault: nobody reads it.
-    void numbers(const CaseLine& content, const Bytes& line, const Bytes& value) {
-        struct Cell {
-            CellFormat format;
-            bool whole;
-        };
-        std::vector<Cell> cells;
-        forEachNumber(content, counts_, [&](CellFormat format, auto, auto, auto at) {
-            cells.push_back({format, std::is_same_v<NumberAt<decltype(at)>, std::int16_t>});
-        });
+    void numbers(const CaseLine& content, std::string_view line, std::string_view value) {
         const auto* const integer = std::get_if<IntegerLine>(&content);
-        std::size_t at = 0;
-        for (const auto& [format, whole] : cells) {
-            if (format.isColumn()) {
-                if (line.starts_with(' ')) return add(Kind::blanksAhead, line);
-                ++place_.cell;
-                if (at >= value.size()) return add(Kind::cellMissing, value);
-            }
-            const bool good = number(value.substr(at, format.width), whole, integer ? *integer : anyInteger);
-            at += format.width;
+        std::size_t begin = 0;
+        bool lost = false; // where the cells stand
+        forEachNumber(content, counts_, [&](CellFormat format, auto, auto, auto at) {
+            if (format.isColumn() && !lost) lost = !cellAt(begin, line, value);
+            if (lost) return;
+            constexpr bool whole = std::is_same_v<NumberAt<decltype(at)>, std::int16_t>;
+            const bool good =
+                number(value.substr(begin, format.width), whole, integer ? *integer : anyInteger);
+            begin += format.width;
             if (good && integer && integer->field == &DesignCase::nfack)
                 counts_.nfack = toInteger(VARNO1::parseNumber(value));
-        }
+        });
         if (integer && integer->field == &DesignCase::loadCode) ruleSet_ = trimBlanks(value);
     }
 
-    bool number(const Bytes& text, bool whole, IntegerLine range) {
+    bool cellAt(std::size_t begin, std::string_view line, std::string_view value) {
+        if (line.starts_with(' ')) {
+            add(Kind::blanksAhead, line);
+            return false;
+        }
+        ++place_.cell;
+        if (begin < value.size()) return true;
+        add(Kind::cellMissing, value);
+        return false;
+    }
+
+    bool number(std::string_view text, bool whole, IntegerLine range) {
         const Bytes found = trimBlanks(text);
-        const double value = VARNO1::parseNumber(found);
-        if (!isNumber(found))
+        const std::optional<double> plain = VARNO1::numberWrittenPlainly(found);
+        const double value = plain ? *plain : VARNO1::parseNumber(found);
+        if (!plain && !isNumber(found))
             add(Kind::notANumber, found);
         else if (whole && value != std::floor(value))
             add(Kind::notWhole, found);
@@ -188,7 +198,7 @@ std::vector<FileFault> checkFile(const Bytes& bytes) {
     const int expected = static_cast<int>(caseLines.size());
     int count = 0;
     while (!text.atEnd()) {
-        const Bytes line = text.readLine();
+        const std::string_view line = text.readLine();
         const int number = ++count;
         if (number <= expected && !check.open())
             check.line(number, caseLines[static_cast<std::size_t>(number - 1)], line);

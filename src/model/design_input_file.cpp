@@ -11,18 +11,27 @@ namespace varno {
 namespace {
 
 template <typename Number>
-std::string cellOf(Number value, CellFormat cell) {
-    if (!cell.isColumn()) return generalForm(value);
-    std::string text = formatNumber(value, cell.pattern);
-    text.resize(cell.width, ' ');
-    return text;
+void appendNumber(std::string& text, Number value, CellFormat cell) {
+    if (cell.isColumn())
+        varno::appendNumber(text, value, cell.pattern);
+    else
+        text += generalForm(value);
 }
-std::string cellOf(std::int16_t value, const CellFormat& cell) {
-    if (!cell.isColumn()) return std::to_string(value);
-    return cellOf(static_cast<double>(value), cell);
+void appendNumber(std::string& text, std::int16_t value, CellFormat cell) {
+    if (cell.isColumn())
+        varno::appendNumber(text, static_cast<double>(value), cell.pattern);
+    else
+        text += std::to_string(value);
 }
-std::string cellOf(const Factor& factor, CellFormat cell) {
-    return factor ? cellOf(*factor, cell) : std::string(cell.width, ' ');
+void appendNumber(std::string& text, const Factor& factor, CellFormat cell) {
+    if (factor) appendNumber(text, *factor, cell);
+}
+
+template <typename Number>
+void appendCell(std::string& text, const Number& number, CellFormat cell) {
+    const std::size_t begin = text.size();
+    appendNumber(text, number, cell);
+    if (cell.isColumn()) text.resize(begin + cell.width, ' ');
 }
 
 template <typename Value>
@@ -36,30 +45,44 @@ Value valueOf(double number) {
     throw RunTimeError(errOverflow);
 }
 
-std::string textOf(const CaseLine& line, const CaseFile& caseFile) {
-    const auto oem = [](const std::string& text) { return VARNO1::toOemLetters(encodeWindows1252(text)); };
-    if (std::holds_alternative<CaseNameLine>(line)) return oem(caseFile.name);
-    if (std::holds_alternative<TitleLine>(line)) return oem(caseFile.title);
-    std::string text;
+void appendLine(Bytes& text, const CaseLine& line, const CaseFile& caseFile) {
+    const auto oem = [](const std::string& title) { return VARNO1::toOemLetters(encodeWindows1252(title)); };
+    if (std::holds_alternative<CaseNameLine>(line)) text += oem(caseFile.name);
+    if (std::holds_alternative<TitleLine>(line)) text += oem(caseFile.title);
     forEachNumber(line, caseFile.designCase, [&](CellFormat cell, auto, auto, auto at) {
-        text += cellOf(at(caseFile.designCase), cell);
+        appendCell(text, at(caseFile.designCase), cell);
     });
-    return text;
 }
 
 // A column line that is too short gives empty cells, which read as 0.
-void takeLine(const CaseLine& line, const Bytes& text, CaseFile& caseFile) {
+void takeLine(const CaseLine& line, std::string_view text, CaseFile& caseFile) {
     const auto letters = [&] { return decodeWindows1252(VARNO1::fromOemLetters(text)); };
     if (std::holds_alternative<CaseNameLine>(line)) caseFile.name = upperCase(letters());
     if (std::holds_alternative<TitleLine>(line)) caseFile.title = letters();
     DesignCase& designCase = caseFile.designCase;
     std::size_t position = 0;
     forEachNumber(line, designCase, [&](CellFormat cell, auto, auto, auto at) {
-        const auto number = std::string_view(text).substr(std::min(position, text.size()), cell.width);
+        const auto number = text.substr(std::min(position, text.size()), cell.width);
         position += cell.width;
         at(designCase) = valueOf<NumberAt<decltype(at)>>(VARNO1::parseNumber(number));
     });
     holdEndSupports(line, designCase);
+}
+
+// From a file or a text.
+template <typename Source>
+CaseFile readLines(Source& source, const DesignCase& presets) {
+    CaseFile read{presets, {}, {}};
+    int number = 0;
+    for (const CaseLine& line : caseLines) {
+        ++number;
+        try {
+            takeLine(line, source.readField(), read);
+        } catch (const RunTimeError& error) {
+            throw error.atLine(number);
+        }
+    }
+    return read;
 }
 
 } // namespace
@@ -69,24 +92,30 @@ void takeLine(const CaseLine& line, const Bytes& text, CaseFile& caseFile) {
 namespace VARNO1 {
 
 varno::CaseFile readDesignCase(varno::File& file, const varno::DesignCase& presets) {
-    varno::CaseFile read{presets, {}, {}};
-    varno::aboutFile(file.path(), varno::FileAction::reading, [&] {
-        int number = 0;
-        for (const varno::CaseLine& line : varno::caseLines) {
-            ++number;
-            try {
-                varno::takeLine(line, file.readField(), read);
-            } catch (const varno::RunTimeError& error) {
-                throw error.atLine(number);
-            }
-        }
-    });
-    return read;
+    return varno::aboutFile(file.path(), varno::FileAction::reading,
+                            [&] { return varno::readLines(file, presets); });
+}
+
+varno::CaseFile readDesignCase(varno::SequentialText text, const varno::DesignCase& presets) {
+    return varno::readLines(text, presets);
 }
 
 void writeDesignCase(varno::File& file, const varno::CaseFile& caseFile) {
-    for (const varno::CaseLine& line : varno::caseLines)
-        file.printLine(varno::textOf(line, caseFile));
+    varno::Bytes text;
+    for (const varno::CaseLine& line : varno::caseLines) {
+        text.clear();
+        varno::appendLine(text, line, caseFile);
+        file.printLine(text);
+    }
+}
+
+varno::Bytes writtenDesignCase(const varno::CaseFile& caseFile) {
+    varno::Bytes text;
+    for (const varno::CaseLine& line : varno::caseLines) {
+        varno::appendLine(text, line, caseFile);
+        text += "\r\n";
+    }
+    return text;
 }
 
 } // namespace VARNO1

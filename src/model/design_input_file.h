@@ -8,6 +8,7 @@
 #include <variant>
 
 #include "base/file.h"
+#include "base/numbers.h"
 #include "model/design_case.h"
 
 // The design input file: one design case as 37 lines of text in a fixed order, each ended by CR LF, all
@@ -26,9 +27,9 @@ namespace varno {
 /// A fixed-width cell of a column line: the number in the pattern, left-aligned, blanks behind it.
 struct CellFormat {
     std::size_t width;
-    std::string_view pattern;
+    NumberPattern pattern;
 
-    bool isColumn() const { return !pattern.empty(); }
+    bool isColumn() const { return width != std::string_view::npos; }
 };
 
 inline constexpr CellFormat spanCell{7, "##0.000"};
@@ -167,9 +168,13 @@ namespace VARNO1 {
 /// RunTimeError 52 (no file), 62 (too few lines), 6 (a number out of range), 9 (a rule set, category or span
 /// count outside the arrays).
 varno::CaseFile readDesignCase(varno::File& file, const varno::DesignCase& presets);
+/// The same from the bytes of a file.
+varno::CaseFile readDesignCase(varno::SequentialText text, const varno::DesignCase& presets);
 
 /// Writes the 37 lines to a file open for output. Closing the file, and noting in the document that the case
 /// is saved, is the caller's: only a closed file is on the disk.
 void writeDesignCase(varno::File& file, const varno::CaseFile& caseFile);
+/// The bytes that they are.
+varno::Bytes writtenDesignCase(const varno::CaseFile& caseFile);
 
 } // namespace VARNO1

@@ -1,37 +1,13 @@
 #pragma once
 
-#include <array>
-#include <cstddef>
-#include <string_view>
-#include <utility>
 #include <vector>
 
 #include "base/file.h"
 #include "base/text.h"
 
-namespace varno {
-
-/// A text that grows line by line, its DOS letters repaired after every line: text = fromOemLetters(text & CR
-/// LF & line). Each repair converts the first occurrence that is left of each of the six letters, wherever it
-/// stands in the text so far; a letter that occurs more often than lines follow it keeps DOS codes. The
-/// engine's files rely on it.
-///
-/// Every letter is searched for from behind its last one on, so that a text of N bytes costs N steps, not N for every
-/// line.
-class RepairedText {
-  public:
-    void appendLine(std::string_view line);
-
-    /// Windows-1252; every line is preceded by CR LF.
-    const Bytes& bytes() const& { return text_; }
-    Bytes bytes() && { return std::move(text_); }
-
-  private:
-    Bytes text_;
-    std::array<std::size_t, 6> searched_{}; ///< how far, for each letter
-};
-
-} // namespace varno
+// The DOS letters of a text are repaired after every line that it grows by: text = fromOemLetters(text & CR LF & line).
+// Each repair converts the first occurrence that is left of each of the six letters, wherever it stands in the text so
+// far; a letter that occurs more often than lines follow it keeps DOS codes. The engine's files rely on it.
 
 namespace VARNO1 {
 

@@ -16,7 +16,7 @@ std::vector<std::string> RecentCases::list() {
     try {
         File file(calls_, file_, FileMode::input, 0, 1);
         while (!file.atEnd() && paths.size() < most) {
-            std::string path = file.readLine();
+            std::string path(file.readLine());
             if (!path.empty()) paths.push_back(std::move(path));
         }
     } catch (const RunTimeError&) {

@@ -33,8 +33,7 @@ void WindowPlaces::start(const std::string& folder) {
     try {
         File file(calls_, file_, FileMode::input, 0, 1);
         while (!file.atEnd()) {
-            const Bytes line = file.readLine();
-            std::string_view row(line);
+            std::string_view row = file.readLine();
             const std::string_view window = takeWord(row);
             WindowPlace place;
             int maximized = 0;

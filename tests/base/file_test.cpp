@@ -236,6 +236,34 @@ TEST(File, ThatDidNotOpenTellsWhy) {
     EXPECT_EQ(subjectOf([&] { moved.readField(); }).cause, errFileNotFound);
 }
 
+// A short text lies inside the File itself, so that it moves with it.
+TEST(File, GoesOnReadingWhereItWasMovedTo) {
+    for (const std::size_t length : {1u, 100u}) {
+        MemoryFiles files;
+        files.content[path] = "a,b\r\n" + Bytes(length, 'c') + "\r\nd";
+        std::optional<File> first = opened(files, FileMode::input);
+        EXPECT_EQ(first->readField(), "a");
+        File second = *std::move(first);
+        first.reset();
+        EXPECT_EQ(second.readField(), "b");
+        EXPECT_EQ(second.readLine(), Bytes(length, 'c'));
+        EXPECT_EQ(second.readLine(), "d");
+        EXPECT_TRUE(second.atEnd());
+    }
+}
+
+TEST(File, GivesTheRestInOnePiece) {
+    MemoryFiles files;
+    files.content[path] = "a,b\r\nc\r\n";
+    File file = opened(files, FileMode::input);
+    EXPECT_EQ(file.readField(), "a");
+    EXPECT_EQ(file.takeRest(), "b\r\nc\r\n");
+    EXPECT_TRUE(file.atEnd());
+    EXPECT_EQ(file.takeRest(), "");
+    File none;
+    EXPECT_EQ(errorOf([&] { none.takeRest(); }), errBadFileNameOrNumber);
+}
+
 TEST(File, ReadsToItsEnd) {
     MemoryFiles files;
     files.content[path] = "a,b\r\nc, d\r\n";

@@ -94,6 +94,43 @@ TEST(FormatNumber, RoundsASingleOnTheTextOfTheSingle) {
     EXPECT_EQ(formatNumber(-0.0f, "0.000"), "0.000");
 }
 
+template <typename Float>
+void expectTheSameAppended(Float value) {
+    for (const char* const pattern :
+         {"##0.000", "#0.000", "##0", "#0.00", "0.0", "####", "#.00", "#0.0000", "#0.", "##,##0.0"}) {
+        std::string text = "x";
+        appendNumber(text, value, pattern);
+        ASSERT_EQ(text, "x" + formatNumber(value, pattern)) << value << " in " << pattern;
+    }
+}
+
+TEST(AppendNumber, IsTheSameTheShortWayAndTheLong) {
+    for (int thousandths = -20000; thousandths <= 20000; thousandths += 7) {
+        const double value = thousandths / 1000.0;
+        expectTheSameAppended(value);
+        expectTheSameAppended(static_cast<float>(value));
+        expectTheSameAppended(std::nextafter(value, 1e9));
+        expectTheSameAppended(std::nextafter(static_cast<float>(value), 1e9f));
+    }
+    std::mt19937 random(20261122);
+    for (int round = 0; round < 20000; ++round) {
+        // As many digits as a single or double tells apart, and some more.
+        const double digits = std::floor(std::pow(10.0, static_cast<double>(random() % 1800) / 100.0));
+        const double value = digits / std::pow(10.0, random() % 6) * (random() % 2 == 0 ? 1 : -1);
+        expectTheSameAppended(value);
+        expectTheSameAppended(static_cast<float>(value));
+    }
+    expectTheSameAppended(-0.0);
+    expectTheSameAppended(1e300);
+    expectTheSameAppended(5e-324);
+    expectTheSameAppended(std::numeric_limits<float>::max());
+    expectTheSameAppended(std::numeric_limits<float>::denorm_min());
+    std::string text;
+    EXPECT_EQ(errorOf([&] { appendNumber(text, HUGE_VAL, "#0"); }), errOverflow);
+    EXPECT_EQ(errorOf([&] { appendNumber(text, std::numeric_limits<float>::quiet_NaN(), "#0"); }),
+              errOverflow);
+}
+
 TEST(FormatNumber, UsesTheSignsOfTheLocaleGiven) {
     const NumberLocale swedish{.decimal = ",", .thousands = "\u00A0"};
     EXPECT_EQ(formatNumber(1234567.5, "##,##0.00", swedish), "1\u00A0234\u00A0567,50");

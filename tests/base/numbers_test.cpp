@@ -166,8 +166,8 @@ TEST(ParseNumber, TakesTextsOfAnyLength) {
 TEST(ParseNumber, ReadsTheSameTheShortWayAndTheLong) {
     std::mt19937 random(7);
     constexpr std::string_view alphabet = "0123456789012345.-+eEdD, xinf";
-    for (int round = 0; round < 20000; ++round) {
-        std::string text(random() % 9, ' ');
+    for (int round = 0; round < 40000; ++round) {
+        std::string text(random() % (round % 2 == 0 ? 9 : 22), ' ');
         for (char& c : text)
             c = alphabet[random() % alphabet.size()];
         const double found = VARNO1::parseNumber(text);
@@ -175,8 +175,29 @@ TEST(ParseNumber, ReadsTheSameTheShortWayAndTheLong) {
         ASSERT_EQ(found, expected) << text;
         ASSERT_EQ(std::signbit(found), std::signbit(expected)) << text;
     }
-    for (const char* const text : {"1e999", "-1e999", "1e-999", "-1e-999", "-inf", "nan", "0x10"})
+    for (const char* const text :
+         {"5.", "-5.", ".5", "-", "123456789012345", "-12345678.9012345", "1234567890123456",
+          "9007199254740993", "0.000000000000001", "0.0000000000000001", "1e999", "-1e999", "1e-999",
+          "-1e-999", "-inf", "nan", "0x10"})
         EXPECT_EQ(VARNO1::parseNumber(text), VARNO1::parseNumber(std::string(" ") + text)) << text;
+}
+
+TEST(NumberWrittenPlainly, IsWhatTheTextReadsAs) {
+    std::mt19937 random(8);
+    const std::string digits = "0123456789";
+    for (int round = 0; round < 20000; ++round) {
+        std::string text = random() % 4 == 0 ? "-" : "";
+        for (std::size_t left = 1 + random() % 15; left > 0; --left)
+            text += digits[random() % digits.size()];
+        const std::size_t first = text.starts_with('-') ? 2 : 1;
+        if (random() % 4 != 0) text.insert(first + random() % (text.size() - first + 1), ".");
+        const std::optional<double> found = VARNO1::numberWrittenPlainly(text + (round % 2 == 0 ? "" : "  "));
+        ASSERT_TRUE(found) << text;
+        ASSERT_EQ(*found, std::strtod(text.c_str(), nullptr)) << text;
+    }
+    for (const char* const other :
+         {"", " ", "-", ".", "+1", " 1", "1 1", "1,5", "1e5", "1..", "1x", "--1", "\u00A01"})
+        EXPECT_FALSE(VARNO1::numberWrittenPlainly(other)) << other;
 }
 
 TEST(ParseNumber, KeepsTheSignOfZero) {

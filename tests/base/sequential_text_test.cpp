@@ -16,7 +16,7 @@ std::vector<Bytes> fieldsOf(const Bytes& text) {
     SequentialText reader(text);
     std::vector<Bytes> fields;
     while (!reader.atEnd())
-        fields.push_back(reader.readField());
+        fields.emplace_back(reader.readField());
     return fields;
 }
 
@@ -24,7 +24,7 @@ std::vector<Bytes> wholeLinesOf(const Bytes& text) {
     SequentialText reader(text);
     std::vector<Bytes> lines;
     while (!reader.atEnd())
-        lines.push_back(reader.readLine());
+        lines.emplace_back(reader.readLine());
     return lines;
 }
 
@@ -84,6 +84,16 @@ TEST(SequentialText, MixesFieldsAndLines) {
     EXPECT_EQ(text.readLine(), "b c");
     EXPECT_EQ(text.readField(), "d");
     EXPECT_TRUE(text.atEnd());
+}
+
+TEST(SequentialText, GoesOnInACopy) {
+    SequentialText text("a,b\r\nc");
+    text.readField();
+    EXPECT_EQ(text.position(), 2u);
+    const Bytes copy = "a,B\r\nC";
+    SequentialText other = text.in(copy);
+    EXPECT_EQ(other.readField(), "B");
+    EXPECT_EQ(other.readLine(), "C");
 }
 
 TEST(SequentialText, EndsWithInputPastEndOfFile) {

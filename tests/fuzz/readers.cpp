@@ -11,10 +11,10 @@
 #include "base/run_time_error.h"
 #include "diagram/moment_file.h"
 #include "engine/case_reader.h"
-#include "base/byte_files.h"
 #include "model/design_input_file.h"
 #include "model/reference_tables.h"
 #include "results/result_text.h"
+#include "support/byte_files.h"
 
 namespace varno::fuzz {
 

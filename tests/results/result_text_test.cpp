@@ -18,13 +18,6 @@ Bytes repairedTheSlowWay(const std::vector<Bytes>& lines) {
     return text;
 }
 
-Bytes repaired(const std::vector<Bytes>& lines) {
-    RepairedText text;
-    for (const Bytes& line : lines)
-        text.appendLine(line);
-    return text.bytes();
-}
-
 Bytes readText(const Bytes& content) {
     MemoryFiles files;
     files.content["HUS1.res"] = content;
@@ -64,16 +57,41 @@ TEST(ResultText, TheSixLettersAreRepairedApart) {
 
 TEST(ResultText, IsTheRepairOfTheWholeTextAfterEveryLine) {
     std::mt19937 random(20260411);
-    const Bytes alphabet = "\x86\x84\x94\x8F\x8E\x99\xE5 a";
-    for (int round = 0; round < 500; ++round) {
+    // Among them bytes that have the same high bits as the letters and the line ends.
+    const Bytes alphabet = Bytes("\x86\x84\x94\x8F\x8E\x99\xE5 a\t\x80\x9F\xFF\0", 14);
+    for (int round = 0; round < 4000; ++round) {
+        const std::vector<Bytes> ends =
+            round % 2 == 0 ? std::vector<Bytes>{"\r\n"} : std::vector<Bytes>{"\r\n", "\r\n", "\n", "\r"};
         std::vector<Bytes> lines(random() % 12);
+        Bytes content;
         for (Bytes& line : lines) {
             line.resize(random() % 9);
             for (char& c : line)
                 c = alphabet[random() % alphabet.size()];
+            // A lone CR before an LF would be one line end with it.
+            const bool joins = content.ends_with('\r') && line.empty();
+            content += line + (joins ? "\r\n" : ends[random() % ends.size()]);
         }
-        ASSERT_EQ(repaired(lines), repairedTheSlowWay(lines)) << "round " << round;
+        ASSERT_EQ(readText(content), repairedTheSlowWay(lines)) << "round " << round;
     }
+}
+
+TEST(ResultText, EndsEachLineAsTheOthers) {
+    for (const Bytes content :
+         {"\n", "\r", "\r\r\n", "\n\r\n", "a\r\r\n", "a\n\r", "\r\na\n", "\na\r\n", "a\r\nb\r"}) {
+        std::vector<Bytes> lines;
+        for (SequentialText text(content); !text.atEnd();)
+            lines.emplace_back(text.readLine());
+        EXPECT_EQ(readText(content), repairedTheSlowWay(lines)) << ::testing::PrintToString(content);
+    }
+}
+
+TEST(ResultText, IsRepairedBeyondEveryPieceThatIsLookedAtAtOnce) {
+    std::vector<Bytes> lines(600, "en rad med \x86 och \x84, tv\x86 \x86 blir kvar");
+    Bytes content;
+    for (const Bytes& line : lines)
+        content += line + "\r\n";
+    EXPECT_EQ(readText(content), repairedTheSlowWay(lines));
 }
 
 TEST(ResultText, AFileThatDidNotOpenIsError52) {
