@@ -19,7 +19,8 @@ constexpr const char* momentsName = "momk.dat";
 // Well inside what the front-end's singles can hold; no floor slab comes near it.
 constexpr double largestResult = 1e12;
 
-// A complete file that waits to take the place of another; removed when it does not come to that.
+// A complete file that waits to take the place of another; removed when it does not come to that. It is not flushed to the
+// disk, which took longer than all the rest: nobody sees half of it, and what a power cut spoils is calculated again.
 class Draft {
   public:
     Draft(FileCalls& files, const char* name) : files_(files), name_(name), output_(files.create(name)) {}
@@ -36,7 +37,6 @@ class Draft {
 
     void write(std::string_view bytes) {
         output_->write(bytes);
-        output_->flush();
         output_->close();
     }
     void replace(const std::string& target) {

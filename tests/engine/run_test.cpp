@@ -2,6 +2,7 @@
 
 #include "engine/envelope.h"
 #include "tests/engine/support.h"
+#include "tests/support/byte_files.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -160,6 +161,34 @@ TEST(EngineRun, AFullDiskIsReportedAndTheOldFilesStay) {
     }
 }
 #endif
+
+// A disk that takes its time for a flush, or cannot do it, is none of a calculation's business.
+class NoFlush : public ByteFiles {
+  public:
+    std::unique_ptr<Output> create(const std::string& path) override {
+        return std::make_unique<Unflushed>(ByteFiles::create(path));
+    }
+
+  private:
+    class Unflushed : public Output {
+      public:
+        explicit Unflushed(std::unique_ptr<Output> output) : output_(std::move(output)) {}
+        void write(std::string_view bytes) override { output_->write(bytes); }
+        void flush() override { throw RunTimeError(errDeviceIo); }
+        void close() override { output_->close(); }
+
+      private:
+        std::unique_ptr<Output> output_;
+    };
+};
+
+TEST(EngineRun, DoesNotWaitForTheDisk) {
+    NoFlush files;
+    files.content[input] = test::caseFile(test::equalSpans(2, 5, 2, 3)).text();
+    EXPECT_EQ(run(files, "2026-11-21 20:35"), calculated);
+    EXPECT_TRUE(files.content["momk.dat"].starts_with("2\r\n"));
+    EXPECT_TRUE(files.content["HUS1.res"].starts_with("EXEMPELMOTOR"));
+}
 
 TEST(EngineRun, ResultFileIsNamedByTheFirstLine) {
     EXPECT_EQ(resultFileName("HUS1"), "HUS1.res");
