@@ -35,6 +35,11 @@ bench_packages=(
     libbenchmark-dev
 )
 
+# What they measure beside ours, where the machine's release has it.
+peer_packages=(
+    cba
+)
+
 # To run the readers under libFuzzer, which is clang's.
 fuzz_packages=(
     clang
