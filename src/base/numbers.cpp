@@ -92,11 +92,11 @@ constexpr std::array powersOfTen{1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
 // digits apart, so the one that reads back as the value is the shortest there is, and there is nothing to round. Searching
 // for the shortest was a third of the time to write a file.
 template <typename Float>
-std::optional<std::int64_t> unitsOf(Float value, std::size_t decimals) {
+std::optional<std::int64_t> unitsOf(Float value, int decimals) {
     // With many more, the double in between could round to another single than the text itself.
-    constexpr std::size_t mostDecimals = 3;
+    constexpr int mostDecimals = 3;
     if (decimals > mostDecimals) return {};
-    const double unit = powersOfTen[decimals];
+    const double unit = powersOfTen[static_cast<std::size_t>(decimals)];
     const double nearest = std::fabs(static_cast<double>(value)) * unit + 0.5;
     if (!(nearest < powersOfTen[std::numeric_limits<Float>::digits10])) return {};
     const auto units = static_cast<std::int64_t>(nearest);
@@ -106,17 +106,15 @@ std::optional<std::int64_t> unitsOf(Float value, std::size_t decimals) {
 
 template <typename Float>
 std::string format(Float value, NumberPattern pattern, const NumberLocale& locale) {
-    const auto decimals = static_cast<int>(pattern.decimals);
     Decimal decimal(value);
-    decimal.roundTo(decimals);
+    decimal.roundTo(pattern.decimals);
     std::string out = decimal.negative() ? "-" : "";
-    for (int place = std::max(decimal.exponent(), static_cast<int>(pattern.leastWhole)) - 1; place >= 0;
-         --place) {
+    for (int place = std::max(decimal.exponent(), pattern.leastWhole) - 1; place >= 0; --place) {
         out += decimal.digitAt(place);
         if (pattern.grouped && place != 0 && place % 3 == 0) out += locale.thousands;
     }
-    if (decimals != 0) out += locale.decimal;
-    for (int place = -1; place >= -decimals; --place)
+    if (pattern.decimals != 0) out += locale.decimal;
+    for (int place = -1; place >= -pattern.decimals; --place)
         out += decimal.digitAt(place);
     return out;
 }
@@ -130,19 +128,20 @@ void append(std::string& text, Float value, NumberPattern pattern) {
         return;
     }
     std::array<char, 32> digits{};
-    auto next = digits.end();
+    char* const end = digits.data() + digits.size();
+    char* next = end;
     std::int64_t left = *units;
     const auto putDigit = [&] {
         *--next = static_cast<char>('0' + left % 10);
         left /= 10;
     };
-    for (std::size_t i = 0; i < pattern.decimals; ++i)
+    for (int i = 0; i < pattern.decimals; ++i)
         putDigit();
     if (pattern.decimals != 0) *--next = '.';
-    for (std::size_t i = 0; left != 0 || i < pattern.leastWhole; ++i)
+    for (int i = 0; left != 0 || i < pattern.leastWhole; ++i)
         putDigit();
     if (value < 0) *--next = '-';
-    text.append(next, digits.end());
+    text += std::string_view(next, end);
 }
 
 template <typename Float>

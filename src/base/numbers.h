@@ -24,13 +24,13 @@ struct NumberPattern {
     constexpr NumberPattern(const Text& text) {
         const std::string_view pattern(text);
         const std::string_view whole = pattern.substr(0, pattern.find('.'));
-        leastWhole = static_cast<std::size_t>(std::ranges::count(whole, '0'));
-        decimals = pattern.size() - std::min(whole.size() + 1, pattern.size());
+        leastWhole = static_cast<int>(std::ranges::count(whole, '0'));
+        decimals = static_cast<int>(pattern.size() - std::min(whole.size() + 1, pattern.size()));
         grouped = whole.find(',') != std::string_view::npos;
     }
 
-    std::size_t leastWhole;
-    std::size_t decimals;
+    int leastWhole;
+    int decimals;
     bool grouped;
 };
 

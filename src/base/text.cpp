@@ -20,8 +20,12 @@ constexpr std::array<char16_t, 32> highControls{
 constexpr char32_t replacement = 0xFFFD;
 
 void appendUtf8(std::string& out, char32_t c) {
+    if (c < 0x80) { // nearly all
+        out += static_cast<char>(c);
+        return;
+    }
     constexpr std::array<char32_t, 4> leads{0, 0xC0, 0xE0, 0xF0};
-    const std::size_t more = c < 0x80 ? 0 : c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
+    const std::size_t more = c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
     out += static_cast<char>(leads[more] | (c >> (6 * more)));
     for (std::size_t left = more; left > 0; --left)
         out += static_cast<char>(0x80 | ((c >> (6 * (left - 1))) & 0x3F));
@@ -31,12 +35,11 @@ void appendUtf8(std::string& out, char32_t c) {
 char32_t takeUtf8(std::string_view& in) {
     constexpr std::array<char32_t, 5> smallest{0, 0, 0x80, 0x800, 0x10000};
     const auto lead = static_cast<unsigned char>(in.front());
-    const std::size_t length = lead < 0x80   ? 1
-                               : lead < 0xC2 ? 0
-                               : lead < 0xE0 ? 2
-                               : lead < 0xF0 ? 3
-                               : lead < 0xF5 ? 4
-                                             : 0;
+    if (lead < 0x80) {
+        in.remove_prefix(1);
+        return lead;
+    }
+    const std::size_t length = lead < 0xC2 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF5 ? 4 : 0;
     bool whole = length > 0 && length <= in.size();
     char32_t c = length > 1 ? lead & (0x7Fu >> length) : lead;
     for (std::size_t i = 1; whole && i < length; ++i) {

@@ -111,6 +111,8 @@ void writeDesignCase(varno::File& file, const varno::CaseFile& caseFile) {
 
 varno::Bytes writtenDesignCase(const varno::CaseFile& caseFile) {
     varno::Bytes text;
+    constexpr std::size_t enough = 1024; // for ten spans
+    text.reserve(enough);
     for (const varno::CaseLine& line : varno::caseLines) {
         varno::appendLine(text, line, caseFile);
         text += "\r\n";
