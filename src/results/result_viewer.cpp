@@ -22,9 +22,9 @@ void showResultFile(FileOpener& files, ResultViewer& viewer, const std::string& 
     File file = files.openFile(caseName + ".res", FileMode::input);
     const std::string text = decodeWindows1252(VARNO1::readResultText(file));
     viewer.setShown(shownResult(files.calls(), caseName, file.path()));
+    viewer.setFont(fontName);
     viewer.setText(text);
     file.close();
-    viewer.setFont(fontName);
     viewer.show();
 }
 

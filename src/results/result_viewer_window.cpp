@@ -61,6 +61,8 @@ void ResultViewerWindow::makeFont() {
 }
 
 void ResultViewerWindow::setText(const std::string& text) {
+    // An edit control measures every line, and all of them anew for another font, which a first place brings too.
+    standInPlace();
     // An edit control ends its text at a zero byte; a damaged file is shown whole.
     std::wstring shown = win32::wide(text);
     std::replace(shown.begin(), shown.end(), L'\0', L' ');
@@ -72,12 +74,17 @@ void ResultViewerWindow::setAge(const std::string& text) {
 }
 
 void ResultViewerWindow::setFont(const std::string& face) {
+    if (face == face_) return;
     face_ = face;
     makeFont();
 }
 
-void ResultViewerWindow::show() {
+void ResultViewerWindow::standInPlace() {
     stand(width, height, GetWindow(handle(), GW_OWNER));
+}
+
+void ResultViewerWindow::show() {
+    standInPlace();
     ShowWindow(handle(), SW_SHOW);
     SetForegroundWindow(handle());
     SetFocus(item(idFileTextBox));

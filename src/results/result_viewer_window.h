@@ -39,6 +39,7 @@ class ResultViewerWindow : public win32::FormWindow, public ResultReaderView {
 
   private:
     void makeFont();
+    void standInPlace();
     bool findLineShown() const { return IsWindowVisible(item(idFindWord)) != FALSE; }
     bool inFindLine(HWND control) const;
     bool controlKey(WPARAM key, HWND focus);

@@ -1,5 +1,6 @@
 #include "shell/main_tips.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -10,7 +11,10 @@
 namespace varno {
 
 void MainTips::create(HWND main) {
-    main_ = main;
+    loadPicture_ = GetDlgItem(main, idLoadPicture);
+    strip_ = GetDlgItem(main, idSlabStrip);
+    for (int support = 0; HWND button = GetDlgItem(strip_, idSupportButton + support); ++support)
+        supports_.push_back(button);
     for (int flag = 0; HWND button = GetDlgItem(main, idFlag + flag); ++flag)
         flags_.add(button, flagTip(flag));
 }
@@ -21,19 +25,16 @@ void MainTips::showSketch(SketchTips tips) {
 }
 
 void MainTips::placeAgain() {
-    if (main_ == nullptr) return;
+    if (strip_ == nullptr) return;
     std::vector<win32::Tip> tips;
-    addParts(tips, idLoadPicture, 0, loadPictureWidth);
-    addParts(tips, idSlabStrip, slabStripStart, slabStripWidth);
-    const HWND strip = GetDlgItem(main_, idSlabStrip);
-    int support = 0;
-    for (const std::string& text : shown_.supports)
-        tips.push_back({GetDlgItem(strip, idSupportButton + support++), std::nullopt, text});
+    addParts(tips, loadPicture_, 0, loadPictureWidth);
+    addParts(tips, strip_, slabStripStart, slabStripWidth);
+    for (std::size_t support = 0; support < std::min(shown_.supports.size(), supports_.size()); ++support)
+        tips.push_back({supports_[support], std::nullopt, shown_.supports[support]});
     sketch_.show(tips);
 }
 
-void MainTips::addParts(std::vector<win32::Tip>& tips, int area, double start, double width) const {
-    const HWND window = GetDlgItem(main_, area);
+void MainTips::addParts(std::vector<win32::Tip>& tips, HWND window, double start, double width) const {
     RECT client{};
     GetClientRect(window, &client);
     const auto toPixels = [&](double twips) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "input/sketch_tips.h"
 #include "win32/tips.h"
 
@@ -16,9 +18,11 @@ class MainTips {
     void placeAgain();
 
   private:
-    void addParts(std::vector<win32::Tip>& tips, int area, double start, double width) const;
+    void addParts(std::vector<win32::Tip>& tips, HWND window, double start, double width) const;
 
-    HWND main_ = nullptr;
+    HWND loadPicture_ = nullptr;
+    HWND strip_ = nullptr;
+    std::vector<HWND> supports_;
     SketchTips shown_;
     win32::Tips flags_;
     win32::Tips sketch_;

@@ -3,6 +3,7 @@
 #include <oleacc.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "controls/control_ids.h"
 #include "controls/control_spec.h"
@@ -175,6 +176,7 @@ void MainWindow::placeSupportButtons() {
                          toPixels(supportButtonHeight)};
         // Most edits leave them where they are.
         if (state.visible && place != support.place) put(support.button, support.place = place);
+        if (state.visible == std::exchange(support.visible, state.visible)) continue;
         ShowWindow(support.button, state.visible ? SW_SHOWNA : SW_HIDE);
     }
 }

@@ -119,6 +119,7 @@ class MainWindow : public win32::Window, public MainView {
     struct Support {
         HWND button = nullptr;
         Area place{};
+        bool visible = false;
     };
     std::array<Support, supportCount> supports_;
     Toolbar toolbar_;

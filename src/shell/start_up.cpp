@@ -34,12 +34,11 @@ void storeNoticeVersion(FileOpener& files, float version) {
 }
 
 std::string resultFont(FileOpener& files, StartUpView& view) {
-    std::string printerFont = view.printerFontName();
     try {
         return decodeWindows1252(files.openFile(fontFileName, FileMode::input).readField());
     } catch (const RunTimeError&) {
         // No font was chosen yet.
-        return printerFont;
+        return view.printerFontName();
     }
 }
 
