@@ -4,7 +4,9 @@
 #include "driver/program.h"
 #include "driver/scene.h"
 #include "painting.h"
+#include "results/result_reader.h"
 #include "win32/strings.h"
+#include "win32/unique.h"
 #include "window_bench.h"
 
 namespace varno::benchmarks {
@@ -45,6 +47,10 @@ void measureBareBox(WindowFigures& figures, const Bytes& result) {
                                          ES_READONLY | ES_AUTOVSCROLL | ES_AUTOHSCROLL,
                                      0, 0, 760, 600, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
     SendMessageW(box, EM_SETLIMITTEXT, 0, 0);
+    const int height = -MulDiv(ResultReader::normalPoints, USER_DEFAULT_SCREEN_DPI, 72);
+    const win32::UniqueFont font(CreateFontW(height, 0, 0, 0, FW_NORMAL, 0, 0, 0, 0, 0, 0, 0,
+                                             FIXED_PITCH | FF_MODERN, L"Courier New"));
+    SendMessageW(box, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), FALSE);
     const Stopwatch watch;
     SetWindowTextW(box, text.c_str());
     ShowWindow(box, SW_SHOW);
