@@ -4,6 +4,8 @@
 project=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd)
 scripts=$project/scripts
 logs=$project/build/logs
+# How long the last whole ./test took, for the table of ./bench.
+test_seconds=$project/build/test-seconds
 # Some build machines run without HOME.
 : "${HOME:=$(getent passwd "$(id -u)" | cut -d: -f6)}"
 export HOME
