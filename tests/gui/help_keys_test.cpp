@@ -39,6 +39,12 @@ void reach(const Program& program, WORD key, const Control& control) {
     expectAt(program, control);
 }
 
+// A key that comes before the menu has them goes to the window.
+void enterMenuBar(const Program& program) {
+    keyboard::press(VK_MENU);
+    program.until([&] { return program.inMenu(); });
+}
+
 void closeWithAltF4(const Program& program, const Control& window) {
     mouse::clickUntil([&] { return !window.visible(); },
                       [&] {
@@ -91,7 +97,7 @@ TEST_F(KeysOfTheForm, ShiftEnterGoesBackAndCtrlInsertCopiesWhatIsSelected) {
 
 TEST_F(KeysOfTheForm, AltLeadsToTheMenuAndTheArrowsChooseARecentCase) {
     open();
-    keyboard::press(VK_MENU);
+    enterMenuBar(program());
     keyboard::press(VK_DOWN);
     EXPECT_EQ(program().popupMenu().at(0).caption, "Ny");
     program().leaveMenus();
@@ -109,7 +115,7 @@ TEST_F(KeysOfTheForm, AltAndEnterTwiceLeaveTheLineLoads) {
     for (const bool free : {false, true}) {
         const Editor editor = free ? openFree() : openEditor();
         waitForKeys(program(), editor.window());
-        keyboard::press(VK_MENU);
+        enterMenuBar(program());
         keyboard::press(VK_RETURN);
         const Control menu = program().window(popupMenuClass);
         EXPECT_EQ(program().popupMenu().at(0).caption, "Layout");
@@ -175,7 +181,7 @@ TEST_F(KeysOfTheWindows, OfTheResult) {
     keyboard::pressWith(VK_CONTROL, VK_OEM_MINUS);
     expectSoon(program, height, [&] { return program.fontOf(text).lfHeight; });
 
-    keyboard::press(VK_MENU);
+    enterMenuBar(program);
     keyboard::press(VK_DOWN);
     EXPECT_EQ(program.popupMenu().at(0).caption, "Redigera");
     program.leaveMenus();
@@ -206,7 +212,7 @@ TEST_F(KeysOfTheWindows, OfTheDiagram) {
     keyboard::press(VK_ESCAPE);
     program.waitGone(window);
     window = opened(idMoment, diagramClass);
-    keyboard::press(VK_MENU);
+    enterMenuBar(program);
     keyboard::press(VK_RETURN);
     program.waitGone(window);
     window = opened(idMoment, diagramClass);

@@ -133,6 +133,7 @@ class Program {
     std::vector<MenuLine> popupMenu() const;
     /// Walks to a row of the open menu with the arrow keys and chooses it. \param place of the row, separators counted
     void chooseInPopupMenu(int place) const;
+    bool inMenu() const; ///< a menu has the keys
     /// F10, and with the arrow keys to an item of a menu of the menu bar.
     void chooseInMenuBar(int menu, int place) const;
     /// With Esc, as often as it takes.
@@ -158,7 +159,6 @@ class Program {
     void readMenu(DWORD menu, int depth, std::vector<MenuLine>& lines) const;
     DWORD user(const char* function, const std::vector<DWORD>& arguments) const;
     int highlightedRow(DWORD menu) const;
-    bool inMenu() const;
 
     OwnFolder local_;
     win32::UniqueHandle process_;
